@@ -1,0 +1,29 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
+# One target without sources carries what every file of ours is compiled with; third-party code is spared.
+
+add_library(quorvane_flags INTERFACE)
+target_compile_features(quorvane_flags INTERFACE cxx_std_20)
+target_compile_options(quorvane_flags INTERFACE
+  -Wall -Wextra -Wpedantic -Werror -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual -Wconversion -Wno-sign-conversion
+  -Wimplicit-fallthrough -fno-strict-aliasing)
+target_compile_definitions(quorvane_flags INTERFACE
+  QT_NO_KEYWORDS QT_NO_CAST_TO_ASCII QT_NO_CAST_FROM_ASCII QT_NO_URL_CAST_FROM_STRING QT_DISABLE_DEPRECATED_BEFORE=0x060400)
+target_include_directories(quorvane_flags INTERFACE ${CMAKE_SOURCE_DIR}/src)
+
+if(QUORVANE_SANITIZE)
+  target_compile_options(quorvane_flags INTERFACE -fsanitize=${QUORVANE_SANITIZE} -fno-omit-frame-pointer
+                         -fno-sanitize-recover=all)
+  target_link_options(quorvane_flags INTERFACE -fsanitize=${QUORVANE_SANITIZE})
+endif()
+if(QUORVANE_FUZZ)
+  target_compile_options(quorvane_flags INTERFACE -fsanitize=fuzzer-no-link)
+endif()
+
+find_program(CCACHE_PROGRAM ccache)
+if(CCACHE_PROGRAM AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
+  set(CMAKE_CXX_COMPILER_LAUNCHER ${CCACHE_PROGRAM})
+endif()
+find_program(LLD_PROGRAM NAMES ld.lld ld.lld-14)
+if(LLD_PROGRAM)
+  add_link_options(-fuse-ld=lld)
+endif()

@@ -1,0 +1,32 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
+# quorvane_module(NAME [DEPENDS module...] [LIBRARIES library...])
+#
+# A static library of all sources in the current folder (not below it). DEPENDS names the modules whose headers it
+# may include: the same table that tools/check_layers.py holds the sources against.
+function(quorvane_module name)
+  cmake_parse_arguments(ARG "" "" "DEPENDS;LIBRARIES" ${ARGN})
+  file(GLOB sources CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/*.cpp)
+  file(GLOB headers CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/*.h)
+  add_library(quorvane_${name} STATIC ${sources} ${headers})
+  set_target_properties(quorvane_${name} PROPERTIES LINKER_LANGUAGE CXX)
+  target_link_libraries(quorvane_${name} PUBLIC quorvane_flags ${ARG_LIBRARIES})
+  foreach(dependency IN LISTS ARG_DEPENDS)
+    target_link_libraries(quorvane_${name} PUBLIC quorvane_${dependency})
+  endforeach()
+endfunction()
+
+# quorvane_test(MODULE) makes one test program of every *Test.cpp in the current folder.
+function(quorvane_test name)
+  cmake_parse_arguments(ARG "" "" "DEPENDS" ${ARGN})
+  file(GLOB sources CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/*.cpp)
+  if(NOT sources)
+    return()
+  endif()
+  add_executable(test_${name} ${sources})
+  target_link_libraries(test_${name} PRIVATE quorvane_test_support)
+  foreach(dependency IN LISTS ARG_DEPENDS)
+    target_link_libraries(test_${name} PRIVATE quorvane_${dependency})
+  endforeach()
+  gtest_discover_tests(test_${name} TEST_PREFIX ${name}. DISCOVERY_TIMEOUT 60
+                       PROPERTIES TIMEOUT 120 ENVIRONMENT "QT_QPA_PLATFORM=offscreen")
+endfunction()

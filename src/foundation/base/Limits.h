@@ -1,0 +1,35 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+
+/// Every ceiling on foreign input, in one place. Over a limit is an error message, never a hang or a crash.
+namespace quorvane::limits {
+
+/// Longest icns file, companion file or resource fork that is read: the 3-byte data offset of a resource fork reaches
+/// 16 MiB and real families stay below 2 MiB; 64 MiB leaves room for hand-made ones.
+inline constexpr std::size_t iconFileBytes = std::size_t{64} << 20;
+/// Largest family that is written as a resource: old readers cap a fork at 16 MiB.
+inline constexpr std::size_t writtenFamilyBytes = (std::size_t{16} << 20) - 4096;
+/// Elements of one family that are looked at. Real files hold up to about 30.
+inline constexpr std::size_t familyElements = 4096;
+/// Depth of families inside families. One level is all that makes sense.
+inline constexpr int familyDepth = 1;
+/// Width and height of a PNG or JPEG 2000 element; the largest slot is 1024.
+inline constexpr int elementPixels = 4096;
+/// Resources of one fork and entries of one companion that are looked at.
+inline constexpr std::size_t forkResources = 8192;
+inline constexpr std::size_t companionEntries = 512;
+
+/// Width and height of a picture file, and its area; 100 megapixels is a 400 MB bitmap.
+inline constexpr int picturePixels = 32768;
+inline constexpr std::int64_t pictureArea = 100'000'000;
+/// Longest picture file.
+inline constexpr std::size_t pictureFileBytes = std::size_t{512} << 20;
+
+/// Longest label in bytes and lines; each costs layout time.
+inline constexpr std::size_t labelBytes = 64 * 1024;
+inline constexpr std::size_t labelLines = 1000;
+
+}  // namespace quorvane::limits

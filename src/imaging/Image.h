@@ -1,0 +1,81 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <filesystem>
+#include <functional>
+#include <memory>
+#include <optional>
+#include <vector>
+
+#include "foundation/base/Bytes.h"
+#include "foundation/base/Result.h"
+#include "imaging/BitmapImageRep.h"
+
+namespace quorvane {
+
+/// One form of an image: a bitmap, perhaps still *pending*, that is, decoded on first use. Copies share the outcome.
+class ImageRep {
+ public:
+  using Decoder = std::function<std::optional<BitmapImageRep>()>;
+
+  ImageRep(BitmapImageRep bitmap);  // NOLINT(google-explicit-constructor)
+  /// A bitmap of a known pixel size that `decoder` makes when it is first asked for. The decoder is called once.
+  static ImageRep pending(int pixelsWide, int pixelsHigh, Size size, Decoder decoder);
+
+  [[nodiscard]] int pixelsWide() const;
+  [[nodiscard]] int pixelsHigh() const;
+  /// In points.
+  [[nodiscard]] Size size() const;
+  [[nodiscard]] bool isPending() const;
+  /// The pixels; decodes a pending one. nullopt when decoding failed (and then ever after).
+  [[nodiscard]] std::optional<BitmapImageRep> bitmap() const;
+
+ private:
+  struct State;
+  std::shared_ptr<State> _state;
+};
+
+/// A size in points and an ordered list of representations. A value; copies are cheap.
+class Image {
+ public:
+  Image() = default;
+  explicit Image(Size size) : _size(size) {}
+
+  /// An image whose only representation is the bitmap, as large as the bitmap's size().
+  static Image imageWithBitmapImageRep(const BitmapImageRep& bitmap);
+  /// Reads a picture file (PNG, JPEG, TIFF and what else the installed readers know): first picture, orientation tag
+  /// applied, one point a pixel. Refuses by Limits.h before decoding; errors name path and reason.
+  static Result<Image> imageWithContentsOfFile(const std::filesystem::path& path);
+  /// The same from bytes.
+  static Result<Image> imageWithData(ByteView bytes);
+
+  [[nodiscard]] Size size() const { return _size; }
+  /// With scalesWhenResized() drawing then scales the representations; their pixels stay.
+  void setSize(Size size) { _size = size; }
+  [[nodiscard]] bool scalesWhenResized() const { return _scalesWhenResized; }
+  void setScalesWhenResized(bool scales) { _scalesWhenResized = scales; }
+
+  void addRepresentation(ImageRep rep) { _representations.push_back(std::move(rep)); }
+  [[nodiscard]] const std::vector<ImageRep>& representations() const { return _representations; }
+
+  /// The first representation that is a bitmap (a pending one is decoded; one that fails is passed over).
+  [[nodiscard]] std::optional<BitmapImageRep> bitmapRepresentation() const;
+  /// The first representation, if any.
+  [[nodiscard]] std::optional<ImageRep> bestRepresentation() const;
+  /// The smallest representation with at least that many pixels both ways, else the largest; failing ones are passed
+  /// over. This is the one that drawing uses.
+  [[nodiscard]] std::optional<BitmapImageRep> bitmapForPixels(int wide, int high) const;
+  /// Pixel size of the representation with the most pixels; {0, 0} without any.
+  [[nodiscard]] Size largestPixelSize() const;
+
+  /// The image drawn whole into a new standard bitmap of that many pixels (the best representation, resampled).
+  [[nodiscard]] BitmapImageRep rendered(int pixelsWide, int pixelsHigh,
+                                        ImageInterpolation interpolation = ImageInterpolation::High) const;
+
+ private:
+  Size _size;
+  bool _scalesWhenResized = false;
+  std::vector<ImageRep> _representations;
+};
+
+}  // namespace quorvane
