@@ -37,4 +37,8 @@ inline constexpr std::size_t pictureFileBytes = std::size_t{512} << 20;
 inline constexpr std::size_t labelBytes = 64 * 1024;
 inline constexpr std::size_t labelLines = 1000;
 
+/// Width and height of a composed icon and of a label's picture: four times the largest slot of a family. A larger base
+/// is composed at this size.
+inline constexpr int composedPixels = 4096;
+
 }  // namespace quorvane::limits
