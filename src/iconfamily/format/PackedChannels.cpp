@@ -2,6 +2,7 @@
 #include "iconfamily/format/PackedChannels.h"
 
 #include <algorithm>
+#include <bit>
 #include <cstring>
 #include <span>
 
@@ -132,22 +133,26 @@ std::optional<Channels> unpackChannels(ByteView packed, std::size_t length) {
   return channels;
 }
 
-// Interleaves three channels to alpha, red, green, blue with alpha 0, or four.
+// How far left a byte goes in a word to be the `index`-th in memory.
+constexpr int shiftTo(int index) {
+  return 8 * (std::endian::native == std::endian::little ? index : 3 - index);
+}
+
+// Interleaves three channels to alpha, red, green, blue with alpha 0, or four. Whole words, which compilers vectorise.
 Bytes interleave(const Bytes& channels, std::size_t pixels) {
   Bytes argb(4 * pixels);
   const std::uint8_t* red = channels.data() + channels.size() - 3 * pixels;
   const std::uint8_t* green = red + pixels;
   const std::uint8_t* blue = green + pixels;
-  std::uint8_t* out = argb.data();
-  if (channels.size() == 4 * pixels) {
-    const std::uint8_t* alpha = channels.data();
-    for (std::size_t i = 0; i < pixels; ++i) out[4 * i] = alpha[i];
-  }
-  for (std::size_t i = 0; i < pixels; ++i) {
-    out[4 * i + 1] = red[i];
-    out[4 * i + 2] = green[i];
-    out[4 * i + 3] = blue[i];
-  }
+  const auto put = [out = argb.data()](std::size_t i, std::uint32_t a, std::uint32_t r, std::uint32_t g,
+                                       std::uint32_t b) {
+    const std::uint32_t word = a << shiftTo(0) | r << shiftTo(1) | g << shiftTo(2) | b << shiftTo(3);
+    std::memcpy(out + 4 * i, &word, sizeof word);
+  };
+  if (channels.size() == 4 * pixels)
+    for (std::size_t i = 0; i < pixels; ++i) put(i, channels[i], red[i], green[i], blue[i]);
+  else
+    for (std::size_t i = 0; i < pixels; ++i) put(i, 0, red[i], green[i], blue[i]);
   return argb;
 }
 
