@@ -122,11 +122,16 @@ TEST(AppleDouble, MovesTheOffsetsOfTheAttributeBlockAlong) {
   EXPECT_EQ(written(back), before);
 
   // A block with an offset into nowhere is not understood, so it is left alone.
-  for (const std::size_t offset : {42, 46, 50, 70, 74}) {
-    const Bytes lying = patched(entryWithAttribute(), offset, 4, 0xFFFFFFF0);
-    AppleDouble odd = read(systemFile(lying, letters("fork")));
-    odd.setResourceFork({});
-    const Bytes bytes = written(odd);
+  std::vector<Bytes> odd;
+  for (const std::size_t offset : {42, 46, 50, 70, 74})
+    odd.push_back(patched(entryWithAttribute(), offset, 4, 0xFFFFFFF0));
+  // A second attribute is announced, and cut short.
+  for (std::uint32_t extra = 0; extra < 11; ++extra)
+    odd.push_back(join({patched(patched(entryWithAttribute(), 42, 4, 0x95 + extra), 68, 2, 2), Bytes(extra)}));
+  for (const Bytes& lying : odd) {
+    AppleDouble untouched = read(systemFile(lying, letters("fork")));
+    untouched.setResourceFork({});
+    const Bytes bytes = written(untouched);
     EXPECT_EQ(Bytes(bytes.begin() + 38, bytes.end()), lying);
   }
 }
