@@ -39,7 +39,9 @@ Result<void> removeTree(int parent, const std::string& name, const fs::path& pat
   handle.release();
   // All names first: removing while reading may skip some.
   std::vector<std::string> inside;
+  errno = 0;
   while (const dirent* entry = ::readdir(stream.get())) inside.emplace_back(entry->d_name);
+  if (errno != 0) return Error::system(errno, what).at(path);
   for (const std::string& item : inside) {
     if (item == "." || item == "..") continue;
     if (::unlinkat(folder, item.c_str(), 0) == 0 || errno == ENOENT) continue;
