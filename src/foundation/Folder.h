@@ -77,7 +77,7 @@ class Folder {
   /// (its access list with them); a new one gets the folder's owner when we are root, its group where we may, and its
   /// mode without execute bits under the umask. An owner that only root could keep becomes ours; a group that we may
   /// not give leaves its members no more than everybody has. A hard link's other name keeps the old content. On failure
-  /// nothing under `name` has changed, unless only the last flush failed.
+  /// nothing under `name` has changed, unless only what comes after the renaming failed.
   Result<WriteOutcome> writeFile(const std::string& name, ByteView bytes);
   /// The same for a file that was read before and edited: refused when the file (nullopt: no file) is no longer what it
   /// was then, so that nobody's change in between is lost.
