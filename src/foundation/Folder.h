@@ -88,7 +88,8 @@ class Folder {
   /// Removes a folder directly inside with everything in it, never through links or into another file system; success
   /// when there is none. It vanishes at once: what an interruption leaves stands under a temporary name.
   Result<void> removeChild(const std::string& name);
-  /// Renames within this folder or into another one; replaces a plain file, or an empty folder by a folder.
+  /// Renames within this folder or into another one; replaces a plain file, or an empty folder by a folder. Of two
+  /// names of one file the new one stays.
   Result<void> rename(const std::string& from, const Folder& to, const std::string& name);
   /// Gives a plain file a second name in another folder of the same file system, or, where that cannot be, copies
   /// bytes, owner, mode, times and extended attributes. The copy stays what it was when the original is later replaced
