@@ -18,6 +18,6 @@ sources() {
 if [ "${1-}" != --check ]; then
   sources | xargs -0 -r -P 2 -n 20 clang-format -i
 else
-  faults=$(sources | xargs -0 -r -P 2 -n 20 clang-format --dry-run 2>&1 | sed -n 's/^\([^ ]*\): warning: .*/\1/p')
+  faults=$(sources | xargs -0 -r -n 50 clang-format --dry-run 2>&1 | sed -n 's/^\([^ ]*\): warning: .*/\1/p')
   [ -z "$faults" ] || { echo "these places are formatted otherwise; tools/format.sh mends them:" "$faults"; exit 1; } >&2
 fi

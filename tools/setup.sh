@@ -115,6 +115,7 @@ configure() {
   cache=$folder/CMakeCache.txt
   if [ -f "$cache" ]; then
     origin=$(sed -n 's/^CMAKE_HOME_DIRECTORY:INTERNAL=//p' "$cache")
+    # shellcheck disable=SC3013  # dash and bash both have -ef
     if ! [ "$origin" -ef "$root" ]; then  # the project was moved or copied with its build folder: CMake would refuse
       say "build/$1 was made for $origin; making it anew"
       rm -rf "$folder"
