@@ -20,8 +20,8 @@ bool isPng(ByteView bytes);
 /// Pixel size from the header alone.
 Result<PixelSize> pngSize(ByteView bytes);
 
-/// Decodes to 8-bit RGBA, not premultiplied (16-bit samples lose their low byte). Refuses a picture wider or higher than
-/// `maxPixels` before any allocation.
+/// Decodes to 8-bit RGBA, not premultiplied (16-bit samples lose their low byte). Refuses a picture wider or higher
+/// than `maxPixels` before any allocation.
 Result<BitmapImageRep> decodePng(ByteView bytes, int maxPixels);
 
 /// Encodes 8-bit RGBA (premultiplied or not; stored not premultiplied) as a PNG file of colour type 6, or type 2 when
