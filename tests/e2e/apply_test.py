@@ -107,7 +107,8 @@ class ApplyTest(EndToEndTest):
 
     def test_a_custom_icon_of_another_program_is_what_gets_backed_up(self):
         folder = self.folder()
-        foreign = family_file(("is32", (b"\x7f" + bytes(range(128)) + b"\x7f" + bytes(128)) * 3), ("s8mk", b"\xff" * 256))
+        plane = b"\x7f" + bytes(range(128)) + b"\x7f" + bytes(128)
+        foreign = family_file(("is32", plane * 3), ("s8mk", b"\xff" * 256))
         plant_custom_icon(folder, foreign)
         self.expect(0, "apply", *LABEL, folder)
         kept = dict(elements(read(os.path.join(folder, BACKUP))))
@@ -123,8 +124,8 @@ class ApplyTest(EndToEndTest):
         self.assertIn("unchanged", again.out + again.err)
 
     def test_one_bad_folder_does_not_stop_the_others(self):
-        good, missing, file, last = self.folder("a"), os.path.join(self.work, "b"), os.path.join(self.work, "c"), None
-        last = self.folder("d")
+        good, last = self.folder("a"), self.folder("d")
+        missing, file = os.path.join(self.work, "b"), os.path.join(self.work, "c")
         write(file, b"not a folder")
         outcome = self.expect(1, "apply", *LABEL, good, missing, file, last)
         self.assert_branded(good)
@@ -145,7 +146,8 @@ class ApplyTest(EndToEndTest):
         self.expect(0, "apply", "--label", "again", "--", "-two")
 
     def test_many_folders_with_their_own_labels_from_a_table(self):
-        csv_folders, json_folders = [self.folder(f"csv {i}") for i in range(2)], [self.folder(f"json {i}") for i in range(2)]
+        csv_folders = [self.folder(f"csv {i}") for i in range(2)]
+        json_folders = [self.folder(f"json {i}") for i in range(2)]
         table = "folder,label,color\n" + "".join(f'"{path}","L {i}",#b00020\n' for i, path in enumerate(csv_folders))
         self.expect(0, "apply", "--from", "-", stdin=table.encode())
         rows = os.path.join(self.place, "rows.jsonl")

@@ -6,7 +6,8 @@ import signal
 import subprocess
 import unittest
 
-from support import LABEL, PROGRAM, EndToEndTest, can_store_finder_info, plant_custom_icon, family_file, tree, write
+from support import (LABEL, PROGRAM, EndToEndTest, can_store_finder_info, family_file, plant_custom_icon, tree,
+                     write)
 
 COMMANDS = (("apply",), ("revert",), ("reset",), ("status",), ("list",), ("verify",), ("repair",), ("render",),
             ("icns",), ("icns", "make"), ("icns", "list"), ("icns", "extract"), ("sets",))
@@ -27,10 +28,12 @@ class CommandTest(EndToEndTest):
     def test_wrong_use_is_told_briefly_and_ends_with_2(self):
         rows = ((("--nonsense",), "--nonsense"), (("apply", "--lable", "x", self.work), "--label"),
                 (("apply", "--colour", "red", self.work), "--color"), (("aply", self.work), "apply"),
-                (("apply",), ""), (("revert",), ""), (("status",), ""), (("apply", "--color", "reddish", self.work), "reddish"),
+                (("apply",), ""), (("revert",), ""), (("status",), ""),
+                (("apply", "--color", "reddish", self.work), "reddish"),
                 (("apply", "--opacity", "lots", self.work), "lots"), (("apply", "--size", "nan", self.work), "nan"),
                 (("apply", "--label", "x", "--label-from-name", self.work), "--label-from-name"),
-                (("apply", "--effect", "sparkling", self.work), "sparkling"), (("apply", "--center", "1", self.work), "1"))
+                (("apply", "--effect", "sparkling", self.work), "sparkling"),
+                (("apply", "--center", "1", self.work), "1"))
         before = tree(self.work)
         for arguments, told in rows:
             with self.subTest(arguments=arguments):
@@ -51,8 +54,8 @@ class CommandTest(EndToEndTest):
 
     def test_machine_output_is_one_valid_object_in_failing_runs_too(self):
         folder, missing = self.folder(), os.path.join(self.work, "missing")
-        rows = (("apply", *LABEL, folder), ("status", folder), ("list", self.work), ("verify", folder), ("revert", folder),
-                ("reset", folder), ("sets",), ("apply", *LABEL, missing), ("status", missing), ("revert", missing),
+        rows = (("apply", *LABEL, folder), ("status", folder), ("list", self.work), ("verify", folder),
+                ("revert", folder), ("reset", folder), ("sets",), ("apply", *LABEL, missing), ("status", missing), ("revert", missing),
                 ("list", missing), ("verify", missing), ("repair", missing))
         for arguments in rows:
             with self.subTest(arguments=arguments):
@@ -103,8 +106,8 @@ class CommandTest(EndToEndTest):
             with self.subTest(command=command[0]):
                 end, start = os.pipe()
                 os.close(end)
-                done = subprocess.run([PROGRAM, *command], stdout=start, stderr=subprocess.PIPE, timeout=20, cwd=self.work,
-                                      env=self.environment())
+                done = subprocess.run([PROGRAM, *command], stdout=start, stderr=subprocess.PIPE, timeout=20,
+                                      cwd=self.work, env=self.environment())
                 os.close(start)
                 self.assertEqual(done.stderr, b"")
                 self.assertIn(done.returncode, (0, 1, 3, 141, -signal.SIGPIPE))
@@ -122,7 +125,8 @@ class CommandTest(EndToEndTest):
                 "QT_QPA_PLATFORM": "xcb", "LANG": "xx_YY", "TMPDIR": "/nowhere"}
         turkish = {"LC_ALL": "tr_TR.UTF-8", "LANGUAGE": "de"}
         families = []
-        for name, env in (("empty", {}), ("read-only home", read_only), ("nothing reachable", gone), ("tr_TR", turkish)):
+        rows = (("empty", {}), ("read-only home", read_only), ("nothing reachable", gone), ("tr_TR", turkish))
+        for name, env in rows:
             with self.subTest(environment=name):
                 sanitizers = {key: value for key, value in os.environ.items() if key.endswith("SAN_OPTIONS")}
                 folder = self.folder(name)
@@ -136,7 +140,8 @@ class CommandTest(EndToEndTest):
         before = tree(self.place)
         self.expect(0, "apply", *LABEL, folder)
         allowed = ("./home/", "./work/Invoices", "./work/._Invoices")
-        changed = [name for name, row in tree(self.place).items() if before.get(name) != row and not name.startswith(allowed)]
+        changed = [name for name, row in tree(self.place).items()
+                   if before.get(name) != row and not name.startswith(allowed)]
         self.assertEqual(changed, [])
 
 

@@ -1,14 +1,17 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
 """Folder names of all kinds: branded as they are, and shown so that no terminal is driven by them."""
+import base64
 import json
 import os
 import re
 import unittest
+import urllib.parse
 
 from support import BACKUP, ICON, LABEL, EndToEndTest, read
 
-NAMES = (" ", "a b", "quote'\"`", "back\\slash", "$HOME", "*?[x]", "100%s%n", "#", "-rf", "--help", ".hidden", "...", "trailing ",
-         "two\nlines", "carriage\rreturn", "tab\t", "\x1b]0;title\x07", "\x1b[31m", "\x7f", "b" * 255, "Icon", "\u00e4", "a\u0308",
+NAMES = (" ", "a b", "quote'\"`", "back\\slash", "$HOME", "*?[x]", "100%s%n", "#", "-rf", "--help", ".hidden", "...",
+         "trailing ", "two\nlines", "carriage\rreturn", "tab\t", "\x1b]0;title\x07", "\x1b[31m", "\x7f", "b" * 255, "Icon",
+         "\u00e4", "a\u0308",
          "\u202egnp.exe", "\u05d0\u05d1", "\U0001f4c1", "\udcff\udcfe", "caf\udce9", "a\udcff\x1b[2J")
 CONTROL = re.compile("[\x00-\x09\x0b-\x1f\x7f\x80-\x9f\u202a-\u202e\u2066-\u2069]")
 
@@ -42,10 +45,9 @@ class NamesTest(EndToEndTest):
 
     def lossless(self, value, folder):
         """Whether the path stands somewhere in this value: as text, or percent-escaped, or in base64."""
-        import base64
-        import urllib.parse
         raw = os.fsencode(folder)
-        forms = {urllib.parse.quote_from_bytes(raw), base64.b64encode(raw).decode(), "file://" + urllib.parse.quote_from_bytes(raw)}
+        escaped = urllib.parse.quote_from_bytes(raw)
+        forms = {escaped, "file://" + escaped, base64.b64encode(raw).decode()}
         try:
             forms.add(raw.decode("utf-8"))
         except UnicodeDecodeError:
