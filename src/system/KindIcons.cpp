@@ -24,7 +24,7 @@ const char* pictureName(FourCharCode type) {
   if (type == FourCharCode("ofld")) return "folder-open";
   if (type == FourCharCode("docu")) return "document";
   if (type == FourCharCode("APPL")) return "application";
-  if (type == FourCharCode("hdsk")) return "drive";
+  if (type == FourCharCode("hdsk")) return "harddisk";
   if (type == FourCharCode("trsh")) return "trash";
   return nullptr;
 }

@@ -5,7 +5,7 @@
 #include <span>
 #include <string_view>
 
-#include "composition/core/LabelShadow.h"
+#include "composition/core/LabelValues.h"
 
 namespace quorvane {
 

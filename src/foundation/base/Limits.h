@@ -22,6 +22,11 @@ inline constexpr int elementPixels = 4096;
 inline constexpr std::size_t forkResources = 8192;
 inline constexpr std::size_t companionEntries = 512;
 
+/// Depth of folders that are removed with what is in them; ours are two deep.
+inline constexpr int removedFolderDepth = 32;
+/// Largest file that is copied to be kept where it cannot be kept by a second link.
+inline constexpr std::size_t preservedCopyBytes = std::size_t{64} << 20;
+
 /// Width and height of a picture file, and its area; 100 megapixels is a 400 MB bitmap.
 inline constexpr int picturePixels = 32768;
 inline constexpr std::int64_t pictureArea = 100'000'000;
