@@ -55,8 +55,8 @@ class CommandTest(EndToEndTest):
     def test_machine_output_is_one_valid_object_in_failing_runs_too(self):
         folder, missing = self.folder(), os.path.join(self.work, "missing")
         rows = (("apply", *LABEL, folder), ("status", folder), ("list", self.work), ("verify", folder),
-                ("revert", folder), ("reset", folder), ("sets",), ("apply", *LABEL, missing), ("status", missing), ("revert", missing),
-                ("list", missing), ("verify", missing), ("repair", missing))
+                ("revert", folder), ("reset", folder), ("sets",), ("apply", *LABEL, missing), ("status", missing),
+                ("revert", missing), ("list", missing), ("verify", missing), ("repair", missing))
         for arguments in rows:
             with self.subTest(arguments=arguments):
                 outcome = self.run_program(arguments[0], "--json", *arguments[1:])

@@ -10,8 +10,8 @@ import urllib.parse
 from support import BACKUP, ICON, LABEL, EndToEndTest, read
 
 NAMES = (" ", "a b", "quote'\"`", "back\\slash", "$HOME", "*?[x]", "100%s%n", "#", "-rf", "--help", ".hidden", "...",
-         "trailing ", "two\nlines", "carriage\rreturn", "tab\t", "\x1b]0;title\x07", "\x1b[31m", "\x7f", "b" * 255, "Icon",
-         "\u00e4", "a\u0308",
+         "trailing ", "two\nlines", "carriage\rreturn", "tab\t", "\x1b]0;title\x07", "\x1b[31m", "\x7f", "b" * 255,
+         "Icon", "\u00e4", "a\u0308",
          "\u202egnp.exe", "\u05d0\u05d1", "\U0001f4c1", "\udcff\udcfe", "caf\udce9", "a\udcff\x1b[2J")
 CONTROL = re.compile("[\x00-\x09\x0b-\x1f\x7f\x80-\x9f\u202a-\u202e\u2066-\u2069]")
 
