@@ -135,6 +135,7 @@ class ApplyTest(EndToEndTest):
         self.assertEqual(read(file), b"not a folder")
 
     def test_folders_come_from_a_file_or_standard_input(self):
+        self.need("apply", "--files-from")
         folders = [self.folder(name) for name in ("one", "-two", "three ", "four\nlines")]
         listing = os.path.join(self.place, "list")
         write(listing, b"".join(os.fsencode(path) + b"\0" for path in folders[:2]))
@@ -146,6 +147,7 @@ class ApplyTest(EndToEndTest):
         self.expect(0, "apply", "--label", "again", "--", "-two")
 
     def test_many_folders_with_their_own_labels_from_a_table(self):
+        self.need("apply", "--from")
         csv_folders = [self.folder(f"csv {i}") for i in range(2)]
         json_folders = [self.folder(f"json {i}") for i in range(2)]
         table = "folder,label,color\n" + "".join(f'"{path}","L {i}",#b00020\n' for i, path in enumerate(csv_folders))

@@ -6,6 +6,7 @@ Paths are str with surrogate escapes, so any bytes can stand in a name."""
 import hashlib
 import importlib
 import os
+import re
 import shutil
 import stat
 import struct
@@ -74,6 +75,13 @@ class EndToEndTest(unittest.TestCase):
         except subprocess.TimeoutExpired:
             self.fail(f"quorvane {arguments} hangs")
         return Outcome(arguments, done.returncode, done.stdout, done.stderr)
+
+    def need(self, command, option=""):
+        """Skips a test of a command, or of an option of its, that this build does not have."""
+        if not re.search(rf"^ +{command}\b", self.expect(0, "--help").out, re.MULTILINE):
+            self.skipTest(f"there is no command {command} in this build")
+        if option not in self.expect(0, command, "--help").out:
+            self.skipTest(f"{command} has no {option} in this build")
 
     def expect(self, code, *arguments, **options):
         outcome = self.run_program(*arguments, **options)
