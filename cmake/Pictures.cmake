@@ -19,7 +19,7 @@ function(quorvane_picture_resources target)
       endif()
       set(output ${output_folder}/${picture}-${size}.png)
       add_custom_command(OUTPUT ${output}
-        COMMAND quorvane_svg2png ${source} ${size} ${output}
+        COMMAND quorvane_svg2png ${source} ${size} ${size} ${output}
         DEPENDS quorvane_svg2png ${source}
         COMMENT "Rendering ${picture} at ${size} pixels" VERBATIM)
       list(APPEND rendered ${output})

@@ -175,7 +175,7 @@ std::string unexpected(const CLI::App& app, const CLI::App& command) {
       known.push_back(other->get_name());
   }
   const std::string nearest = nearestWord(word, known);
-  return (word.starts_with("-") ? "unknown option " : "one word too many: ") + printable(std::string_view(word)) +
+  return (word.starts_with("-") ? "unknown option " : "one word too many: ") + printable(word) +
          (nearest.empty() ? "" : ", did you mean " + nearest + "?");
 }
 
@@ -188,7 +188,7 @@ Result<Look> readLook(const RawLook& raw) {
     const auto value = parseNumber(text);
     if (!value || *value < least || *value > most)
       return Error::invalidInput(std::string(option) + " takes a number from " + shortNumber(least) + " to " +
-                                 shortNumber(most) + ", not '" + printable(std::string_view(text)) + "'");
+                                 shortNumber(most) + ", not '" + printable(text) + "'");
     to = static_cast<std::remove_reference_t<decltype(to)>>(*value);
     return {};
   };
@@ -203,7 +203,7 @@ Result<Look> readLook(const RawLook& raw) {
   if (!raw.center.empty()) look.labelCenter = TRY(parsePoint(raw.center));
   if (!raw.effect.empty()) {
     const auto tag = effectTagNamed(raw.effect);
-    if (!tag) return Error::invalidInput("there is no effect '" + printable(std::string_view(raw.effect)) + "'");
+    if (!tag) return Error::invalidInput("there is no effect '" + printable(raw.effect) + "'");
     look.effectTag = *tag;
   }
   return look;

@@ -37,7 +37,7 @@ std::string statusInWords(const FolderStatus& status) {
   if (status.hasBackup) words += ", a backup to revert to";
   if (status.hasRecord) words += ", a record to reset from";
   if (status.bytes > 0) words += " (" + sizeInWords(status.bytes) + ")";
-  for (const std::string& fault : status.faults) words += "; " + printable(std::string_view(fault));
+  for (const std::string& fault : status.faults) words += "; " + printable(fault);
   return words;
 }
 

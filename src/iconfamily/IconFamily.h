@@ -12,6 +12,7 @@
 
 namespace quorvane {
 
+class Pasteboard;
 struct IconServices;
 
 /// One icon family: a complete icon resource in the icns format, a set of elements (pictures of a size and depth, and
@@ -53,6 +54,27 @@ class IconFamily {
 
   /// Writes an icns file, replacing what is there (never through a link).
   [[nodiscard]] Result<void> writeToFile(const std::filesystem::path& path) const;
+
+  /// Stores the family as the custom icon of a folder, replacing what icon it had, and sets the folder's flag.
+  /// `withCompatibility` adds the elements that very old systems look for as resources of their own.
+  Result<void> setAsCustomIconForDirectory(const std::filesystem::path& path, const IconServices& services,
+                                           bool withCompatibility = false) const;
+  /// The same for a file, which is made empty when it is missing: its other resources, entries and its modification
+  /// date stay.
+  Result<void> setAsCustomIconForFile(const std::filesystem::path& path, const IconServices& services,
+                                      bool withCompatibility = false) const;
+  /// Clears the flags and removes the icon's resource; fails on a file without resources.
+  static Result<void> removeCustomIconFromFile(const std::filesystem::path& path, const IconServices& services);
+  /// Clears the flags, then removes the icon file; NotFound when there is none (the flags are cleared all the same).
+  static Result<void> removeCustomIconFromDirectory(const std::filesystem::path& path, const IconServices& services);
+
+  /// Whether the pasteboard holds an icon family.
+  static bool canInitWithScrap(const Pasteboard& pasteboard);
+  /// The pasteboard's icon family, unchecked; nullopt without one.
+  static std::optional<IconFamily> initWithScrap(const Pasteboard& pasteboard);
+  static std::optional<IconFamily> iconFamilyWithScrap(const Pasteboard& pasteboard) { return initWithScrap(pasteboard); }
+  /// Puts the family on the pasteboard under both of its types. Always true.
+  bool putOnScrap(Pasteboard& pasteboard) const;
 
   bool operator==(const IconFamily&) const = default;
 

@@ -45,7 +45,7 @@ Result<Image> composeIcon(const Look& look, const Image& base) {
   composition.setColor(look.color);
   composition.setShadow(shadowForEffectTag(look.effectTag));
   composition.setLineSpacing(look.lineSpacingFactor);
-  composition.setLabelCenter(look.labelCenter);
+  composition.setCanvasLabelCenter(look.labelCenter);
   composition.setShearFactor(look.shearFactor);
   composition.setRotation(look.rotation);
   composition.setOpacity(look.opacity);

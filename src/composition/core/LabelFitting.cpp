@@ -20,7 +20,9 @@ int wholePart(double value) {
   return static_cast<int>(std::clamp<double>(value, -largestInt, largestInt));
 }
 
-bool fits(Size measured, Size size) { return measured.width <= size.width && measured.height <= size.height; }
+bool fits(Size measured, Size size) {
+  return measured.width <= size.width && measured.height <= size.height;
+}
 
 }  // namespace
 
@@ -32,8 +34,7 @@ int startingSize(const std::optional<LabelFont>& font, float width) {
 FittedLabel fitLabelPlainly(const QString& text, const LabelLook& look, Size size) {
   FittedLabel fitted{defaultTextAttributes(), {}};
   for (int n = startingSize(look.font, size.width); n >= smallestFittedSize; --n) {
-    fitted.attributes =
-        _attributesForFont(look.font->withSize(n), look.color, look.shadow, look.lineSpacingFactor);
+    fitted.attributes = _attributesForFont(look.font->withSize(n), look.color, look.shadow, look.lineSpacingFactor);
     fitted.measured = TextBlock(text, fitted.attributes.font).size(n, fitted.attributes.maximumLineHeight);
     if (fits(fitted.measured, size)) break;
   }

@@ -8,8 +8,7 @@ namespace quorvane {
 namespace {
 
 QTransform about(const QTransform& transform, Point center) {
-  return QTransform::fromTranslate(-center.x, -center.y) * transform *
-         QTransform::fromTranslate(center.x, center.y);
+  return QTransform::fromTranslate(-center.x, -center.y) * transform * QTransform::fromTranslate(center.x, center.y);
 }
 
 }  // namespace

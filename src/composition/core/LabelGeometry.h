@@ -13,7 +13,9 @@ namespace quorvane {
 inline constexpr float canvasSide = 128;
 
 /// Picture width / canvas side. The width alone sets the scale of both axes.
-[[nodiscard]] inline float canvasScale(float pictureWidth) { return pictureWidth * 0.0078125F; }
+[[nodiscard]] inline float canvasScale(float pictureWidth) {
+  return pictureWidth * 0.0078125F;
+}
 
 /// The label centre of a canvas on a picture of that width.
 [[nodiscard]] Point scaledLabelCenter(Point labelCenter, float pictureWidth);

@@ -5,7 +5,9 @@
 
 namespace quorvane {
 
-QString LabelFont::displayName() const { return style.isEmpty() ? family : family + QLatin1Char(' ') + style; }
+QString LabelFont::displayName() const {
+  return style.isEmpty() ? family : family + QLatin1Char(' ') + style;
+}
 
 LabelFont systemFont(double size) {
   return {QFontDatabase::systemFont(QFontDatabase::GeneralFont).family(), QString(), size};

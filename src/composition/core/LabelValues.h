@@ -37,14 +37,14 @@ struct LabelShadow {
 
 /// Everything about a label save its text. Nothing is clamped here; what cannot be drawn is dealt with in drawing.
 struct LabelLook {
-  std::optional<LabelFont> font;      ///< none: the label is drawn with defaultTextAttributes()
-  std::optional<QColor> color;        ///< none: black
+  std::optional<LabelFont> font;  ///< none: the label is drawn with defaultTextAttributes()
+  std::optional<QColor> color;    ///< none: black
   std::optional<LabelShadow> shadow;
-  float lineSpacingFactor = 0;        ///< cap of the line height as a multiple of the natural one; 0: no cap
-  Point labelCenter;                  ///< of the text image, on a canvas of 128 x 128 units
-  float shearFactor = 0;              ///< a point d to the right of the centre moves up by shearFactor * d
-  float rotation = 0;                 ///< degrees, counter-clockwise, about the centre, after the shear
-  float opacity = 1;                  ///< 0 to 1
+  float lineSpacingFactor = 0;  ///< cap of the line height as a multiple of the natural one; 0: no cap
+  Point labelCenter;            ///< of the text image, on a canvas of 128 x 128 units
+  float shearFactor = 0;        ///< a point d to the right of the centre moves up by shearFactor * d
+  float rotation = 0;           ///< degrees, counter-clockwise, about the centre, after the shear
+  float opacity = 1;            ///< 0 to 1
   bool operator==(const LabelLook&) const = default;
 };
 

@@ -5,7 +5,9 @@
 
 namespace quorvane {
 
-TextAttributes defaultTextAttributes() { return {.font = systemFont(12), .shadow = std::nullopt}; }
+TextAttributes defaultTextAttributes() {
+  return {.font = systemFont(12), .shadow = std::nullopt};
+}
 
 TextAttributes _attributesForFont(const std::optional<LabelFont>& font, const std::optional<QColor>& color,
                                   const std::optional<LabelShadow>& shadow, float lineSpacingFactor) {

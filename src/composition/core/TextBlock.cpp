@@ -6,7 +6,7 @@
 #include <QTextLayout>
 #include <algorithm>
 
-#include "composition/core/EmojiRuns.h"
+#include "composition/core/EmojiText.h"
 #include "foundation/base/Limits.h"
 
 namespace quorvane {
@@ -78,7 +78,9 @@ std::vector<QString> splitLines(const QString& text) {
   return lines;
 }
 
-double cappedHeight(double natural, double maximum) { return maximum > 0 ? std::min(natural, maximum) : natural; }
+double cappedHeight(double natural, double maximum) {
+  return maximum > 0 ? std::min(natural, maximum) : natural;
+}
 
 }  // namespace
 
@@ -98,7 +100,8 @@ TextBlock::Line::Line(const QString& text, const LabelFont& font)
     : layoutSize(text.size() > fineLayoutLength ? coarseLayoutSize : fineLayoutSize),
       isRightToLeft(text.isRightToLeft()) {
   const QFont face = layoutFont(font, layoutSize);
-  layout = std::make_unique<QTextLayout>(text, face);
+  const EmojiText parts = separateEmoji(text);
+  layout = std::make_unique<QTextLayout>(parts.text, face);
   QTextOption option(Qt::AlignLeft | Qt::AlignAbsolute);
   option.setWrapMode(QTextOption::NoWrap);
   option.setUseDesignMetrics(true);
@@ -108,7 +111,7 @@ TextBlock::Line::Line(const QString& text, const LabelFont& font)
   layout->setTextOption(option);
 
   QList<QTextLayout::FormatRange> formats;
-  for (const TextRange& run : emojiRuns(text)) {
+  for (const TextRange& run : parts.emoji) {
     QFont emojiFirst = face;
     emojiFirst.setFamilies({face.families().last(), face.families().first()});
     QTextCharFormat format;

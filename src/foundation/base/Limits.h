@@ -30,11 +30,25 @@ inline constexpr std::size_t preservedCopyBytes = std::size_t{64} << 20;
 /// Width and height of a picture file, and its area; 100 megapixels is a 400 MB bitmap.
 inline constexpr int picturePixels = 32768;
 inline constexpr std::int64_t pictureArea = 100'000'000;
+/// Area of a JPEG 2000 picture: its decoder takes 16 bytes a pixel and more.
+inline constexpr std::int64_t jpeg2000Area = std::int64_t{1} << 25;
+/// Tiles, code blocks, and packets of one JPEG 2000 picture: each costs the decoder memory (about 6 KB, 700 and 2 bytes)
+/// whatever the file's length. Usual ones of the largest area have 32,000 code blocks.
+inline constexpr std::int64_t jpeg2000Tiles = 4096;
+inline constexpr std::int64_t jpeg2000Blocks = 1 << 18;
+inline constexpr std::int64_t jpeg2000Packets = 1 << 22;
+/// Elements of a vector picture, with everything that is drawn again by reference; and how deep they may nest.
+inline constexpr std::int64_t svgElements = 200'000;
+inline constexpr int svgDepth = 256;
 /// Longest picture file.
 inline constexpr std::size_t pictureFileBytes = std::size_t{512} << 20;
 
 /// Longest label in bytes and lines; each costs layout time.
 inline constexpr std::size_t labelBytes = 64 * 1024;
 inline constexpr std::size_t labelLines = 1000;
+
+/// Width and height of a composed icon and of a label's picture: four times the largest slot of a family. A larger base
+/// is composed at this size.
+inline constexpr int composedPixels = 4096;
 
 }  // namespace quorvane::limits

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "composition/core/EmojiRuns.h"
+#include "composition/core/EmojiText.h"
 
 #include <algorithm>
 #include <array>
@@ -86,24 +86,29 @@ struct Scanner {
 
 }  // namespace
 
-std::vector<TextRange> emojiRuns(const QString& text) {
-  std::vector<TextRange> runs;
+EmojiText separateEmoji(const QString& text) {
+  EmojiText result;
+  result.text.reserve(text.size());
   const Scanner scanner{text};
   for (int position = 0; position < text.size();) {
     const int end = scanner.endOfPicture(position);
-    if (end == position) {
-      int length = 0;
-      scanner.at(position, length);
-      position += length;
-    } else if (!runs.empty() && runs.back().start + runs.back().length == position) {
-      runs.back().length += end - position;
-      position = end;
+    const bool isEmoji = end > position;
+    int length = 0;
+    scanner.at(position, length);
+    const int start = static_cast<int>(result.text.size());
+    for (const QChar unit : QStringView(text).mid(position, isEmoji ? end - position : length)) {
+      if (unit.unicode() != textSelector && unit.unicode() != emojiSelector) result.text.append(unit);
+    }
+    position = isEmoji ? end : position + length;
+    if (!isEmoji) continue;
+    const int added = static_cast<int>(result.text.size()) - start;
+    if (!result.emoji.empty() && result.emoji.back().start + result.emoji.back().length == start) {
+      result.emoji.back().length += added;
     } else {
-      runs.push_back({position, end - position});
-      position = end;
+      result.emoji.push_back({start, added});
     }
   }
-  return runs;
+  return result;
 }
 
 }  // namespace quorvane

@@ -1,0 +1,122 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "composition/core/GlyphShapes.h"
+
+#include <QPainter>
+#include <QRawFont>
+#include <algorithm>
+#include <cmath>
+
+#include "composition/core/GlyphOutlines.h"
+
+namespace quorvane {
+
+namespace {
+
+// How far from its position a glyph may draw, in ems. The widest known ones (a phrase in one glyph) take 11.
+constexpr double glyphReach = 16;
+
+// Pixels an em that colour pictures are taken at: the bitmaps of the usual font lie at this size, unscaled.
+constexpr double pictureSize = 128;
+
+/// The longest side of a unit square after the transform.
+double largestScale(const QTransform& transform) {
+  return std::hypot(transform.m11(), transform.m12()) + std::hypot(transform.m21(), transform.m22());
+}
+
+/// The run without the glyphs that are out of reach: a label of a thousand lines has but a few in the picture.
+QGlyphRun visiblePart(const QGlyphRun& run, double em, const QTransform& toPixels, const QRectF& visible) {
+  const double reach = glyphReach * em * largestScale(toPixels);
+  const QRectF reachable = visible.adjusted(-reach, -reach, reach, reach);
+  QList<quint32> indexes;
+  QList<QPointF> positions;
+  const QList<quint32> allIndexes = run.glyphIndexes();
+  const QList<QPointF> allPositions = run.positions();
+  for (qsizetype i = 0; i < allIndexes.size(); ++i) {
+    if (!reachable.contains(toPixels.map(allPositions[i]))) continue;
+    indexes.append(allIndexes[i]);
+    positions.append(allPositions[i]);
+  }
+  QGlyphRun part;
+  part.setRawFont(run.rawFont());
+  part.setGlyphIndexes(indexes);
+  part.setPositions(positions);
+  return part;
+}
+
+/// True for a font whose glyphs are layers in colours of their own ("CPAL" is their palette); such glyphs may have an
+/// outline as well.
+bool hasColorLayers(const QRawFont& font) {
+  return !font.fontTable("CPAL").isEmpty();
+}
+
+/// A colour glyph at pictureSize, and where it lies from the glyph's position (y downwards).
+QImage glyphPicture(const QRawFont& font, quint32 glyph, QRectF& place) {
+  // A pixel of room round it keeps the edges smooth when it is turned.
+  place = QRectF(font.boundingRect(glyph).toAlignedRect().adjusted(-1, -1, 1, 1));
+  QImage image(place.size().toSize(), QImage::Format_ARGB32_Premultiplied);
+  image.fill(Qt::transparent);
+  QGlyphRun single;
+  single.setRawFont(font);
+  single.setGlyphIndexes({glyph});
+  single.setPositions({QPointF()});
+  QPainter painter(&image);
+  painter.drawGlyphRun(-place.topLeft(), single);
+  return image;
+}
+
+}  // namespace
+
+void GlyphShapes::add(const QGlyphRun& run, double em, const QTransform& toPixels, const QRectF& visible) {
+  const QGlyphRun part = visiblePart(run, em, toPixels, visible);
+  if (part.isEmpty()) return;
+  QPainterPath path = hasColorLayers(part.rawFont()) ? QPainterPath() : glyphOutlines(part);
+  if (path.isEmpty()) {
+    addPictures(part, toPixels);
+    return;
+  }
+  path = toPixels.map(path);
+  _bounds |= path.controlPointRect();
+  _outlines.push_back(std::move(path));
+}
+
+void GlyphShapes::addPictures(const QGlyphRun& run, const QTransform& toPixels) {
+  QRawFont font = run.rawFont();
+  const double scale = font.pixelSize() / pictureSize;
+  font.setPixelSize(pictureSize);
+  const QList<quint32> indexes = run.glyphIndexes();
+  const QList<QPointF> positions = run.positions();
+  for (qsizetype i = 0; i < indexes.size(); ++i) {
+    QRectF place;
+    if (font.boundingRect(indexes[i]).isEmpty()) continue;  // a space
+    QImage image = glyphPicture(font, indexes[i], place);
+    QTransform transform = QTransform::fromTranslate(place.x(), place.y()) * QTransform::fromScale(scale, scale) *
+                           QTransform::fromTranslate(positions[i].x(), positions[i].y()) * toPixels;
+    _bounds |= transform.mapRect(QRectF(QPointF(), place.size()));
+    // Shrunk by averaging first: what the painter does when it shrinks by more than half is to skip pixels.
+    const QSizeF drawn(std::hypot(transform.m11(), transform.m12()) * image.width(),
+                       std::hypot(transform.m21(), transform.m22()) * image.height());
+    const QSize shrunk(std::clamp(static_cast<int>(std::ceil(drawn.width())), 1, image.width()),
+                       std::clamp(static_cast<int>(std::ceil(drawn.height())), 1, image.height()));
+    if (shrunk != image.size()) {
+      transform = QTransform::fromScale(static_cast<double>(image.width()) / shrunk.width(),
+                                        static_cast<double>(image.height()) / shrunk.height()) *
+                  transform;
+      image = image.scaled(shrunk, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    }
+    _pictures.push_back({std::move(image), transform});
+  }
+}
+
+void GlyphShapes::paint(QPainter& painter, const QColor& color) const {
+  painter.save();
+  painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
+  const QTransform base = painter.transform();
+  for (const QPainterPath& outline : _outlines) painter.fillPath(outline, color);
+  for (const Picture& picture : _pictures) {
+    painter.setTransform(picture.toPixels * base);
+    painter.drawImage(QPointF(), picture.image);
+  }
+  painter.restore();
+}
+
+}  // namespace quorvane

@@ -1,0 +1,43 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QColor>
+#include <QGlyphRun>
+#include <QImage>
+#include <QPainterPath>
+#include <QTransform>
+#include <vector>
+
+class QPainter;
+
+namespace quorvane {
+
+/// Glyphs ready to be drawn on a grid of pixels (y downwards): outlines and colour pictures, already transformed.
+/// Outlines are filled at their exact places, never through a cache of glyph bitmaps, so that text is as sharp sheared
+/// and turned as upright.
+class GlyphShapes {
+ public:
+  /// Adds a run's glyphs, save those that surely draw nothing in `visible` (pixels).
+  /// `em` is the font size in the run's coordinates.
+  void add(const QGlyphRun& run, double em, const QTransform& toPixels, const QRectF& visible);
+
+  [[nodiscard]] bool isEmpty() const { return _outlines.empty() && _pictures.empty(); }
+  /// Encloses all that is drawn, in pixels.
+  [[nodiscard]] QRectF bounds() const { return _bounds; }
+  /// Draws everything with an opaque `color`; colour pictures keep their own.
+  void paint(QPainter& painter, const QColor& color) const;
+
+ private:
+  struct Picture {
+    QImage image;
+    QTransform toPixels;
+  };
+
+  void addPictures(const QGlyphRun& run, const QTransform& toPixels);
+
+  std::vector<QPainterPath> _outlines;  // one a run: fonts differ in the sense their outlines turn
+  std::vector<Picture> _pictures;
+  QRectF _bounds;
+};
+
+}  // namespace quorvane
