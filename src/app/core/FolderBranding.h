@@ -52,8 +52,6 @@ class FolderBranding {
   /// The backup icon's path, ".BackupIcon.icns" directly inside the folder.
   static std::filesystem::path _backupPathForFolder(const std::filesystem::path& folder);
   static constexpr const char* backupName = ".BackupIcon.icns";
-  /// The hidden folder that holds everything else of ours.
-  static constexpr const char* recordFolderName = ".quorvane";
 
   /// The folder's present icon as it is shown, 512 x 512 points, scalable.
   [[nodiscard]] Result<Image> _iconImageForPath(const std::filesystem::path& path) const;

@@ -48,7 +48,7 @@ Result<AppleDouble> AppleDouble::parse(ByteView bytes) {
   const auto version = reader.readU32();
   const auto filler = reader.readBytes(fillerLength);
   const auto count = reader.readU16();
-  if (!count) return fault("header cut short");
+  if (!magic || !version || !filler || !count) return fault("header cut short");
   if (magic != companionMagic) return fault("wrong magic number");
   if (version != versionOne && version != versionTwo) return fault("unknown version");
   if (*count > limits::companionEntries) return Error::tooLarge("companion file: too many entries");
@@ -62,7 +62,7 @@ Result<AppleDouble> AppleDouble::parse(ByteView bytes) {
     const auto id = reader.readU32();
     const auto offset = reader.readU32();
     const auto length = reader.readU32();
-    if (!length) return fault("entry table cut short");
+    if (!id || !offset || !length) return fault("entry table cut short");
     const auto data = reader.slice(*offset, *length);
     if (!data) return fault("entry outside the file");
     companion._entries.push_back({*id, *offset, Bytes()});

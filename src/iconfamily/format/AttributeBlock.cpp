@@ -47,7 +47,8 @@ std::optional<std::vector<OffsetField>> offsetFields(ByteView entry, std::uint32
   const auto end = reader.readU32();
   const auto values = reader.readU32();
   const auto valuesLength = reader.readU32();
-  if (!valuesLength || !reader.seek(endField) || !note(*end, 0) || !reader.seek(valuesField)) return std::nullopt;
+  if (!end || !values || !valuesLength || !reader.seek(endField) || !note(*end, 0) || !reader.seek(valuesField))
+    return std::nullopt;
   if (!note(*values, *valuesLength)) return std::nullopt;
 
   const auto count = AttributeBlock::countIn(entry);
@@ -56,9 +57,9 @@ std::optional<std::vector<OffsetField>> offsetFields(ByteView entry, std::uint32
     const std::size_t begin = reader.position();
     const auto offset = reader.readU32();
     const auto length = reader.readU32();
-    const bool haveFlags = reader.skip(2);
+    const auto flags = reader.readU16();
     const auto nameLength = reader.readU8();
-    if (!haveFlags || !nameLength || !reader.skip(*nameLength)) return std::nullopt;
+    if (!offset || !length || !flags || !nameLength || !reader.skip(*nameLength)) return std::nullopt;
     const std::size_t next = begin + (reader.position() - begin + 3) / 4 * 4;
     if (!reader.seek(begin) || !note(*offset, *length)) return std::nullopt;
     // The padding of the last one may be missing.

@@ -41,7 +41,7 @@ Result<Areas> readAreas(ByteView fork) {
   const auto mapOffset = reader.readU32();
   const auto dataLength = reader.readU32();
   const auto mapLength = reader.readU32();
-  if (!mapLength) return fault("header cut short");
+  if (!dataOffset || !mapOffset || !dataLength || !mapLength) return fault("header cut short");
   const auto data = reader.slice(*dataOffset, *dataLength);
   const auto map = reader.slice(*mapOffset, *mapLength);
   if (!data || !map) return fault("data or map outside the fork");
@@ -66,7 +66,7 @@ class MapReader {
     const auto attributes = reader.readU16();
     const auto typeList = reader.readU16();
     const auto nameList = reader.readU16();
-    if (!nameList) return fault("map cut short");
+    if (!attributes || !typeList || !nameList) return fault("map cut short");
     if (*typeList < mapHeaderLength) return fault("type list on the map's header");
     _typeList = *typeList;
     _nameList = *nameList;
@@ -85,7 +85,7 @@ class MapReader {
       const auto type = reader.readCode();
       const auto lastReference = reader.readU16();
       const auto offset = reader.readU16();
-      if (!offset) return fault("type list outside the map");
+      if (!type || !lastReference || !offset) return fault("type list outside the map");
       if (*lastReference == noneMinusOne) return fault("type without resources");
       if (*offset < typeListLength) return fault("references inside the type list");
       TRY_VOID(readReferences(*type, _typeList + *offset, *lastReference + std::size_t{1}));
@@ -120,7 +120,8 @@ class MapReader {
       const auto nameOffset = reader.readU16();
       const auto attributes = reader.readU8();
       const auto dataOffset = reader.readU24();
-      if (!dataOffset || !reader.skip(handleLength)) return fault("references outside the map");
+      if (!id || !nameOffset || !attributes || !dataOffset || !reader.skip(handleLength))
+        return fault("references outside the map");
       Found found;
       found.resource.type = type;
       found.resource.id = static_cast<std::int16_t>(*id);

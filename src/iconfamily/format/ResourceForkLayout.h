@@ -30,6 +30,8 @@ inline constexpr std::uint16_t noneMinusOne = 0xFFFF;
 /// Name offset of a resource without a name.
 inline constexpr std::uint16_t noName = 0xFFFF;
 inline constexpr std::size_t longestName = 0xFF;
+/// The furthest that the offsets in the map reach.
+inline constexpr std::size_t furthestList = 0xFFFF;
 /// The furthest that the 3-byte offset of a resource's data reaches.
 inline constexpr std::size_t furthestData = 0xFFFFFF;
 
