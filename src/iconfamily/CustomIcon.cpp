@@ -25,12 +25,12 @@ constexpr FourCharCode compatibilityTypes[] = {"icl8", "ICN#", "ics8", "ics#"};
 bool addResourceType(ResourceFork& fork, const IconFamily& family, FourCharCode type, std::int16_t resId) {
   auto data = getIconFamilyData(family.bytes(), type);
   if (!data || data->empty()) return false;
-  fork.set({.type = type, .id = resId, .data = *std::move(data)});
+  fork.set({type, resId, 0, {}, *std::move(data)});
   return true;
 }
 
 void addIconResources(ResourceFork& fork, const IconFamily& family, bool withCompatibility) {
-  fork.set({.type = "icns", .id = customIconResourceId, .data = family.data()});
+  fork.set({"icns", customIconResourceId, 0, {}, family.data()});
   if (!withCompatibility) return;
   for (const FourCharCode type : compatibilityTypes) (void)addResourceType(fork, family, type, customIconResourceId);
 }
@@ -121,14 +121,14 @@ Result<void> setFolderIcon(const IconFamily& family, Folder& folder, const IconS
                            bool withCompatibility) {
   TRY_VOID(checkFamily(family));
   HeldFiles former(folder);
-  for (const std::string& spelling : iconFileNames) {
+  for (const std::string spelling : iconFileNames) {
     TRY_VOID(former.hold(spelling));
     for (const std::string& beside : services.forks.filesBeside(spelling)) TRY_VOID(former.hold(beside));
   }
 
   // The old icon file with its resources goes; nothing of it is kept. Other spellings would be second icon files.
-  for (const std::string& spelling : iconFileNames)
-    if (spelling != std::string(iconFileName)) TRY_VOID(services.forks.removeFile(folder, spelling));
+  for (const std::string spelling : iconFileNames)
+    if (spelling != iconFileName) TRY_VOID(services.forks.removeFile(folder, spelling));
   TRY_VOID(folder.writeFile(iconFileName, {}));
   ForkedFile content;
   content.info.setTypeAndCreator("icon", "MACS");
