@@ -121,13 +121,13 @@ Result<void> setFolderIcon(const IconFamily& family, Folder& folder, const IconS
                            bool withCompatibility) {
   TRY_VOID(checkFamily(family));
   HeldFiles former(folder);
-  for (const std::string spelling : iconFileNames) {
+  for (const std::string& spelling : iconFileNames) {
     TRY_VOID(former.hold(spelling));
     for (const std::string& beside : services.forks.filesBeside(spelling)) TRY_VOID(former.hold(beside));
   }
 
   // The old icon file with its resources goes; nothing of it is kept. Other spellings would be second icon files.
-  for (const std::string spelling : iconFileNames)
+  for (const std::string& spelling : iconFileNames)
     if (spelling != iconFileName) TRY_VOID(services.forks.removeFile(folder, spelling));
   TRY_VOID(folder.writeFile(iconFileName, {}));
   ForkedFile content;
