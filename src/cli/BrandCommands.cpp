@@ -31,9 +31,9 @@ std::string sizeInWords(std::uint64_t bytes) {
 }
 
 std::string statusInWords(const FolderStatus& status) {
-  std::string words = status.hasCustomIcon      ? "has a custom icon"
-                      : status.isIncomplete()   ? "has an incomplete custom icon"
-                                                : "has no custom icon";
+  std::string words = status.hasCustomIcon    ? "has a custom icon"
+                      : status.isIncomplete() ? "has an incomplete custom icon"
+                                              : "has no custom icon";
   if (status.hasBackup) words += ", a backup to revert to";
   if (status.hasRecord) words += ", a record to reset from";
   if (status.bytes > 0) words += " (" + sizeInWords(status.bytes) + ")";
@@ -51,8 +51,7 @@ void runApply(const Arguments& arguments, const IconServices& services, Reporter
     base = *std::move(picture);
   }
   // A font that is not there fails every folder alike; it is said once.
-  if (const auto font = labelFontNamed(arguments.look.fontName, 1); !font)
-    return reporter.failed({}, font.error());
+  if (const auto font = labelFontNamed(arguments.look.fontName, 1); !font) return reporter.failed({}, font.error());
   if (arguments.look.label.isNull() && !arguments.labelFromName && !base)
     return reporter.failed({}, Error::invalidInput("nothing to apply: give a --label, a --base or both"));
 
@@ -102,7 +101,10 @@ bool runStatus(const Arguments& arguments, const IconServices& services, Reporte
     hasAny = hasAny || status->hasCustomIcon || status->isIncomplete() || status->hasBackup || status->hasRecord;
     QJsonArray faults;
     for (const std::string& fault : status->faults) faults.append(QString::fromStdString(fault));
-    reporter.done(folder, status->hasCustomIcon ? "branded" : status->isIncomplete() ? "incomplete" : "plain",
+    reporter.done(folder,
+                  status->hasCustomIcon    ? "branded"
+                  : status->isIncomplete() ? "incomplete"
+                                           : "plain",
                   printable(folder) + ": " + statusInWords(*status),
                   {{QStringLiteral("custom_icon"), status->hasCustomIcon},
                    {QStringLiteral("icon_family"), status->hasIconFamily},

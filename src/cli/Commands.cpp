@@ -22,7 +22,9 @@ void onSignal(int signal) {
 
 }  // namespace
 
-int pendingSignal() { return receivedSignal; }
+int pendingSignal() {
+  return receivedSignal;
+}
 
 void watchSignals() {
   std::signal(SIGINT, onSignal);
@@ -54,12 +56,13 @@ int run(const Arguments& arguments, const IconServices& services) {
       runIcns(arguments, reporter);
       break;
   }
+  const bool isWritten = reporter.finish();
   if (pendingSignal() != 0) {
     reporter.note("interrupted; " + std::to_string(reporter.successes()) + " done, " +
                   std::to_string(reporter.failures()) + " failed");
     return pendingSignal() == SIGTERM ? exitTerminated : exitInterrupted;
   }
-  if (reporter.failures() > 0) return exitFailed;
+  if (reporter.failures() > 0 || !isWritten) return exitFailed;
   return hasNothing ? exitNothing : exitDone;
 }
 

@@ -103,8 +103,9 @@ void extractIcns(const Arguments& arguments, Reporter& reporter) {
     if (const auto extracted = extract(); !extracted) {
       reporter.failed(from, extracted.error());
     } else {
-      reporter.done(to / name, "extracted",
-                    printable(to / name) + ": " + std::to_string(type.pixelsWide) + " x " + std::to_string(type.pixelsHigh));
+      reporter.done(
+          to / name, "extracted",
+          printable(to / name) + ": " + std::to_string(type.pixelsWide) + " x " + std::to_string(type.pixelsHigh));
     }
   }
   if (!hasPictures) reporter.failed(from, Error::invalidInput("the icon family holds no picture"));
@@ -127,7 +128,8 @@ Result<Image> readBasePicture(const std::filesystem::path& path) {
 
 Result<void> writeOutputFile(const std::filesystem::path& path, ByteView bytes) {
   if (path == "-") {
-    const bool isWritten = std::fwrite(bytes.data(), 1, bytes.size(), stdout) == bytes.size() && std::fflush(stdout) == 0;
+    const bool isWritten =
+        std::fwrite(bytes.data(), 1, bytes.size(), stdout) == bytes.size() && std::fflush(stdout) == 0;
     return isWritten ? Result<void>() : Error::system(errno, "cannot write to standard output");
   }
   Folder folder = TRY(Folder::open(path.has_parent_path() ? path.parent_path() : ".", Folder::Access::Write));

@@ -16,9 +16,17 @@ void writeLine(std::FILE* stream, const std::string& text) {
   std::fflush(stream);
 }
 
-QString text(const std::string& words) { return QString::fromStdString(words); }
+QString text(const std::string& words) {
+  return QString::fromStdString(words);
+}
 
 }  // namespace
+
+bool flushOutput() {
+  if (std::fflush(stdout) == 0 && std::ferror(stdout) == 0) return true;
+  writeLine(stderr, "quorvane: cannot write to standard output");
+  return false;
+}
 
 void setPath(QJsonObject& object, const QString& key, const std::filesystem::path& path) {
   const std::string& bytes = path.native();
@@ -35,10 +43,10 @@ Reporter::Reporter(std::string command, OutputForm form, bool isQuiet, bool isDr
   }
 }
 
-Reporter::~Reporter() {
+bool Reporter::finish() {
   if (_form == OutputForm::Json)
     std::printf("%s], \"succeeded\": %d, \"failed\": %d}\n", _hasItems ? "\n" : "", _successes, _failures);
-  std::fflush(stdout);
+  return flushOutput();
 }
 
 void Reporter::writeItem(QJsonObject item) {
@@ -70,7 +78,10 @@ void Reporter::done(const std::filesystem::path& path, const std::string& outcom
 
 void Reporter::failed(const std::filesystem::path& path, const Error& error) {
   ++_failures;
-  writeLine(stderr, "quorvane: " + printable(error.at(path).message()));
+  // The path that the caller gave is named, and the resolved one of the item at fault where that tells more.
+  const std::string given = path.string();
+  const bool isNamed = error.where().string().starts_with(given);
+  writeLine(stderr, "quorvane: " + printable(isNamed ? error.at(path).message() : given + ": " + error.message()));
   if (!isJson()) return;
   QJsonObject item;
   setPath(item, QStringLiteral("path"), path);

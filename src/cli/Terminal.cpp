@@ -68,7 +68,9 @@ std::string printable(std::string_view text) {
   return shown;
 }
 
-std::string printable(const std::filesystem::path& path) { return printable(std::string_view(path.native())); }
+std::string printable(const std::filesystem::path& path) {
+  return printable(std::string_view(path.native()));
+}
 
 bool isUtf8(std::string_view bytes) {
   while (!bytes.empty()) {

@@ -11,7 +11,9 @@ namespace quorvane::cli {
 /// Text that cannot drive a terminal: control characters, bytes that are no UTF-8, and the characters that turn or hide
 /// text are shown as \xHH or \u{HHHH}; a backslash as it is.
 std::string printable(std::string_view text);
-inline std::string printable(const std::string& text) { return printable(std::string_view(text)); }
+inline std::string printable(const std::string& text) {
+  return printable(std::string_view(text));
+}
 std::string printable(const std::filesystem::path& path);
 
 /// True when the bytes are well-formed UTF-8 (surrogates and overlong forms are not).

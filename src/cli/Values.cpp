@@ -25,7 +25,8 @@ std::string shortNumber(double value) {
 }
 
 Result<QColor> parseColor(std::string_view text) {
-  const Error wrong = Error::invalidInput("'" + printable(text) + "' is no colour; use #rgb, #rrggbb, #rrggbbaa or a name");
+  const Error wrong =
+      Error::invalidInput("'" + printable(text) + "' is no colour; use #rgb, #rrggbb, #rrggbbaa or a name");
   if (!text.starts_with('#')) {
     const QString name = QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
     if (!QColor::isValidColor(name) || name.startsWith(u'#')) return wrong;

@@ -45,7 +45,9 @@ bool isForWindow(int argc, char** argv) {
 }
 
 /// Text needs fonts, fonts need this; other commands start faster without.
-bool drawsText(Command command) { return command == Command::Apply || command == Command::Render; }
+bool drawsText(Command command) {
+  return command == Command::Apply || command == Command::Render;
+}
 
 }  // namespace
 

@@ -12,7 +12,6 @@
 #include "foundation/base/Limits.h"
 #include "iconfamily/ElementStore.h"
 #include "iconfamily/IconFile.h"
-#include "iconfamily/format/IcnsContainer.h"
 
 namespace quorvane {
 
@@ -36,8 +35,9 @@ void addIconResources(ResourceFork& fork, const IconFamily& family, bool withCom
 }
 
 Result<void> checkFamily(const IconFamily& family) {
-  TRY(icnsElements(family.bytes()));
-  if (family.bytes().size() > limits::writtenFamilyBytes) return Error::tooLarge("the icon is too large for a resource");
+  TRY_VOID(family.check());
+  if (family.bytes().size() > limits::writtenFamilyBytes)
+    return Error::tooLarge("the icon is too large for a resource");
   return {};
 }
 
@@ -108,7 +108,8 @@ Result<std::optional<IconFamily>> readFolderIconResource(const Folder& folder, c
 Result<std::optional<IconFamily>> readCustomIcon(const std::filesystem::path& path, const ForkStore& forks) {
   if (isDirectory(path)) {
     const Folder folder = TRY(Folder::open(path, Folder::Access::Read));
-    if ((TRY(forks.readFolderInfo(folder)).flags() & FinderInfo::hasCustomIcon) == 0) return std::optional<IconFamily>();
+    if ((TRY(forks.readFolderInfo(folder)).flags() & FinderInfo::hasCustomIcon) == 0)
+      return std::optional<IconFamily>();
     return readFolderIconResource(folder, forks);
   }
   const Located file = TRY(locate(path, Folder::Access::Read));
@@ -177,7 +178,8 @@ Result<void> IconFamily::removeCustomIconFromFile(const std::filesystem::path& p
   return services.notices.noteDirectoryModified(file.folder);
 }
 
-Result<void> IconFamily::removeCustomIconFromDirectory(const std::filesystem::path& path, const IconServices& services) {
+Result<void> IconFamily::removeCustomIconFromDirectory(const std::filesystem::path& path,
+                                                       const IconServices& services) {
   Folder folder = TRY(Folder::open(path, Folder::Access::Write));
   TRY(services.forks.changeFolderFlags(folder, 0, FinderInfo::hasCustomIcon | FinderInfo::hasBeenInited));
   TRY_VOID(services.notices.noteDirectoryModified(folder));

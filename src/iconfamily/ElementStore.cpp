@@ -30,8 +30,7 @@ BitmapLayout rgbaLayout(int wide, int high) {
 }
 
 Result<BitmapImageRep> bitmapOf(const ElementType& type, Bytes rgba) {
-  auto bitmap =
-      BitmapImageRep::bitmapImageRepWithLayout(rgbaLayout(type.pixelsWide, type.pixelsHigh), std::move(rgba));
+  auto bitmap = BitmapImageRep::bitmapImageRepWithLayout(rgbaLayout(type.pixelsWide, type.pixelsHigh), std::move(rgba));
   if (!bitmap) return Error::broken("element pixels do not fill a bitmap");
   return *std::move(bitmap);
 }
@@ -50,7 +49,9 @@ Result<BitmapImageRep> decodePicture(const ElementType& type, ByteView data) {
   return picture;
 }
 
-bool isPicture(ByteView data) { return isPng(data) || isJpeg2000(data); }
+bool isPicture(ByteView data) {
+  return isPng(data) || isJpeg2000(data);
+}
 
 Bytes rgbaFromArgb(ByteView argb) {
   Bytes rgba(argb.size());
@@ -78,8 +79,8 @@ Bytes argbOf(const BitmapImageRep& bitmap) {
 
 ByteView withoutWidePrefix(ByteView data) {
   // Readers differ on data without the four bytes; real files always have them, as zeros.
-  const bool hasPrefix =
-      data.size() >= widePrefix && std::all_of(data.begin(), data.begin() + widePrefix, [](auto byte) { return byte == 0; });
+  const bool hasPrefix = data.size() >= widePrefix &&
+                         std::all_of(data.begin(), data.begin() + widePrefix, [](auto byte) { return byte == 0; });
   return hasPrefix ? data.subspan(widePrefix) : data;
 }
 
@@ -88,7 +89,9 @@ Result<Bytes> unpackedColor(const ElementType& type, ByteView data) {
   return unpackColorChannels(type.form == ElementForm::Packed24Wide ? withoutWidePrefix(data) : data, pixelCount(type));
 }
 
-bool bitAt(ByteView bits, std::size_t index) { return (bits[index / 8] >> (7 - index % 8) & 1) != 0; }
+bool bitAt(ByteView bits, std::size_t index) {
+  return (bits[index / 8] >> (7 - index % 8) & 1) != 0;
+}
 
 /// Puts the alpha of the mask element, 8-bit or the second half of a 1-bit one, into RGBA pixels; opaque without one.
 void applyMask(ByteView family, const ElementType& type, Bytes& rgba) {
@@ -123,8 +126,8 @@ Result<BitmapImageRep> decodeIndexed(ByteView family, const ElementType& type, B
   if (data.size() < (isWide ? pixels : pixels / 2)) return wrongData(type, "is too short");
   Bytes rgba(pixels * 4);
   for (std::size_t i = 0; i < pixels; ++i) {
-    const Rgb color = isWide ? systemColorTable()[data[i]]
-                             : smallColorTable()[i % 2 == 0 ? data[i / 2] >> 4 : data[i / 2] & 0x0F];
+    const Rgb color =
+        isWide ? systemColorTable()[data[i]] : smallColorTable()[i % 2 == 0 ? data[i / 2] >> 4 : data[i / 2] & 0x0F];
     rgba[4 * i] = color.red;
     rgba[4 * i + 1] = color.green;
     rgba[4 * i + 2] = color.blue;
@@ -181,8 +184,9 @@ Result<Bytes> getIconFamilyData(ByteView family, FourCharCode type) {
   const auto data = icnsElement(family, type);
   if (!data) return Error(ErrorKind::NotFound, "there is no element '" + type.toDisplayText() + "'");
   const ElementType* known = elementType(type);
-  const bool isColor = known != nullptr && (known->form == ElementForm::Packed24 ||
-                                            known->form == ElementForm::Packed24Wide || known->form == ElementForm::Picture);
+  const bool isColor =
+      known != nullptr && (known->form == ElementForm::Packed24 || known->form == ElementForm::Packed24Wide ||
+                           known->form == ElementForm::Picture);
   if (!isColor) return Bytes(data->begin(), data->end());
   if (known->form == ElementForm::Picture || isPicture(*data)) return argbOf(TRY(decodePicture(*known, *data)));
   return unpackedColor(*known, *data);

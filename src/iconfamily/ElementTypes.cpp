@@ -70,14 +70,18 @@ constexpr auto written = std::to_array<WrittenElement>({
 
 }  // namespace
 
-std::span<const ElementType> elementTypes() { return allTypes; }
+std::span<const ElementType> elementTypes() {
+  return allTypes;
+}
 
 const ElementType* elementType(FourCharCode type) {
   const auto* found = std::ranges::find(allTypes, type, &ElementType::type);
   return found == allTypes.end() ? nullptr : found;
 }
 
-std::span<const WrittenElement> writtenElements() { return written; }
+std::span<const WrittenElement> writtenElements() {
+  return written;
+}
 
 const WrittenElement* writtenElement(FourCharCode type) {
   const auto* found = std::ranges::find(written, type, &WrittenElement::type);

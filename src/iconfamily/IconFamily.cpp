@@ -96,6 +96,11 @@ std::optional<BitmapImageRep> IconFamily::bitmapImageRepWithAlphaForIconFamilyEl
   return BitmapImageRep::bitmapImageRepWithLayout(layout, *std::move(argb));
 }
 
+Result<void> IconFamily::check() const {
+  const auto elements = icnsElements(hIconFamily);
+  return elements ? Result<void>() : elements.error();
+}
+
 std::optional<Image> IconFamily::imageWithAllReps() const {
   const auto elements = icnsElements(hIconFamily);
   if (!elements) return std::nullopt;
@@ -117,12 +122,13 @@ std::optional<Image> IconFamily::imageWithAllReps() const {
     for (auto type = first; type != last; ++type)
       if (type->isPicture() && holds(type->type)) candidates.push_back(type->type);
     if (!candidates.empty()) {
-      image.addRepresentation(ImageRep::pending(
-          first->pixelsWide, first->pixelsHigh, iconPoints, [bytes, candidates]() -> std::optional<BitmapImageRep> {
-            for (const FourCharCode type : candidates)
-              if (auto decoded = decodeIconFamilyElement(*bytes, type)) return *std::move(decoded);
-            return std::nullopt;
-          }));
+      image.addRepresentation(ImageRep::pending(first->pixelsWide, first->pixelsHigh, iconPoints,
+                                                [bytes, candidates]() -> std::optional<BitmapImageRep> {
+                                                  for (const FourCharCode type : candidates)
+                                                    if (auto decoded = decodeIconFamilyElement(*bytes, type))
+                                                      return *std::move(decoded);
+                                                  return std::nullopt;
+                                                }));
     }
     first = last;
   }

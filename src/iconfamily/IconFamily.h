@@ -48,6 +48,9 @@ class IconFamily {
   /// when it is first needed. nullopt when the bytes are no family or hold no picture.
   [[nodiscard]] std::optional<Image> imageWithAllReps() const;
 
+  /// Why the bytes are no icon family, if they are none.
+  [[nodiscard]] Result<void> check() const;
+
   /// A copy of the whole resource: the content of an icns file.
   [[nodiscard]] Bytes data() const { return hIconFamily; }
   [[nodiscard]] ByteView bytes() const { return hIconFamily; }
@@ -72,7 +75,9 @@ class IconFamily {
   static bool canInitWithScrap(const Pasteboard& pasteboard);
   /// The pasteboard's icon family, unchecked; nullopt without one.
   static std::optional<IconFamily> initWithScrap(const Pasteboard& pasteboard);
-  static std::optional<IconFamily> iconFamilyWithScrap(const Pasteboard& pasteboard) { return initWithScrap(pasteboard); }
+  static std::optional<IconFamily> iconFamilyWithScrap(const Pasteboard& pasteboard) {
+    return initWithScrap(pasteboard);
+  }
   /// Puts the family on the pasteboard under both of its types. Always true.
   bool putOnScrap(Pasteboard& pasteboard) const;
 

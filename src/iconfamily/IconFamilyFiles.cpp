@@ -6,7 +6,6 @@
 #include "iconfamily/CustomIcon.h"
 #include "iconfamily/IconFamily.h"
 #include "iconfamily/IconServices.h"
-#include "iconfamily/format/IcnsContainer.h"
 
 namespace quorvane {
 
@@ -20,12 +19,13 @@ Result<IconFamily> familyOfImage(const std::optional<Image>& image) {
 }  // namespace
 
 Result<IconFamily> IconFamily::iconFamilyWithContentsOfFile(const std::filesystem::path& path) {
-  Bytes bytes = TRY(readPlainFile(path, limits::iconFileBytes));
-  if (const auto elements = icnsElements(bytes); !elements) return elements.error().at(path);
-  return iconFamilyWithIconFamilyHandle(std::move(bytes));
+  IconFamily family = iconFamilyWithIconFamilyHandle(TRY(readPlainFile(path, limits::iconFileBytes)));
+  if (const auto checked = family.check(); !checked) return checked.error().at(path);
+  return family;
 }
 
-Result<IconFamily> IconFamily::iconFamilyWithIconOfFile(const std::filesystem::path& path, const IconServices& services) {
+Result<IconFamily> IconFamily::iconFamilyWithIconOfFile(const std::filesystem::path& path,
+                                                        const IconServices& services) {
   if (auto custom = TRY(readCustomIcon(path, services.forks))) return *std::move(custom);
   auto family = familyOfImage(services.kinds.iconForKindOfFile(path));
   if (!family) return std::move(family).error().at(path);

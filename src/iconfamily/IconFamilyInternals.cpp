@@ -27,7 +27,9 @@ Layout layoutOf(const BitmapImageRep& bitmap) {
   return Layout::Other;
 }
 
-bool isSquareOf(const BitmapImageRep& bitmap, int n) { return bitmap.pixelsWide() == n && bitmap.pixelsHigh() == n; }
+bool isSquareOf(const BitmapImageRep& bitmap, int n) {
+  return bitmap.pixelsWide() == n && bitmap.pixelsHigh() == n;
+}
 
 /// The checks that the producers share, with their messages; `producer` is the operation's published name.
 bool isReadable(const BitmapImageRep& bitmap, int n, const char* producer, bool logsDepth) {
@@ -44,7 +46,9 @@ bool isReadable(const BitmapImageRep& bitmap, int n, const char* producer, bool 
   return true;
 }
 
-std::size_t squareOf(int n) { return static_cast<std::size_t>(n) * static_cast<std::size_t>(n); }
+std::size_t squareOf(int n) {
+  return static_cast<std::size_t>(n) * static_cast<std::size_t>(n);
+}
 
 }  // namespace
 
@@ -68,10 +72,8 @@ std::optional<Image> resampleImage(const Image& image, int toIconWidth, ImageInt
   }
 
   BitmapImageRep result = BitmapImageRep::bitmapImageRepWithSize({square, square});
-  const PixelRect target{.x = (square - newWidth) * 0.5,
-                         .y = (square - newHeight) * 0.5,
-                         .width = newWidth,
-                         .height = newHeight};
+  const PixelRect target{
+      .x = (square - newWidth) * 0.5, .y = (square - newHeight) * 0.5, .width = newWidth, .height = newHeight};
   // An extreme aspect can round to no height at all; then nothing is drawn.
   if (target.width > 0 && target.height > 0) drawResampled(source->toStandard(), result, target, interpolation);
   return Image::imageWithBitmapImageRep(result);

@@ -12,8 +12,8 @@ namespace quorvane::kernels {
 inline constexpr int middleBits = 6;
 
 /// sums[i] = sum over k of weights[k] * rows[k * rowBytes + i], with middleBits of fraction, for `count` samples (a
-/// multiple of 4). weights[taps] must be 0. Clamped to 0 <= colour <= alpha <= 255 like the result: a kernel's overshoot
-/// in one direction does not ring on in the other.
+/// multiple of 4). weights[taps] must be 0. Clamped to 0 <= colour <= alpha <= 255 like the result: a kernel's
+/// overshoot in one direction does not ring on in the other.
 void gatherRows(const std::uint8_t* rows, std::ptrdiff_t rowBytes, const std::int16_t* weights, int taps, int count,
                 std::int16_t* sums);
 

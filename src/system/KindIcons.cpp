@@ -10,7 +10,9 @@
 #include "system/linux/ThemeKindIcons.h"
 
 // A static library's resources are registered by hand, outside any namespace.
-static void registerPictures() { Q_INIT_RESOURCE(pictures); }
+static void registerPictures() {
+  Q_INIT_RESOURCE(pictures);
+}
 
 namespace quorvane {
 

@@ -50,7 +50,8 @@ TEST_P(FolderBrandingTest, ResetLeavesTheTreeAsItWasBitForBit) {
   test::writeFile(folder / "letter.txt", std::string("Dear all"));
   test::writeFile(tree / "._Neighbour", std::string("not ours"));
   ::chmod(folder.c_str(), 02750);
-  const timespec times[2] = {{.tv_sec = 1'000'000'000, .tv_nsec = 5}, {.tv_sec = 1'000'000'001, .tv_nsec = 123'456'789}};
+  const timespec times[2] = {{.tv_sec = 1'000'000'000, .tv_nsec = 5},
+                             {.tv_sec = 1'000'000'001, .tv_nsec = 123'456'789}};
   ::utimensat(AT_FDCWD, folder.c_str(), times, 0);
   // The folder above gets a companion for a moment; its date is not ours to keep.
   const auto picture = [&] { return test::describeTree(folder, true); };
@@ -92,7 +93,8 @@ TEST_P(FolderBrandingTest, ResetKeepsADateThatSomebodyElseSet) {
 
 TEST_P(FolderBrandingTest, DryRunWritesNothing) {
   const std::string before = test::describeTree(tree.path(), true);
-  EXPECT_EQ(*branding.writeIconWithImage(test::plainImage(Qt::red), folder, WriteMode::DryRun), BrandingOutcome::Changed);
+  EXPECT_EQ(*branding.writeIconWithImage(test::plainImage(Qt::red), folder, WriteMode::DryRun),
+            BrandingOutcome::Changed);
   EXPECT_EQ(*branding.revert(folder, WriteMode::DryRun), BrandingOutcome::NothingToRevert);
   EXPECT_EQ(test::describeTree(tree.path(), true), before);
 }
@@ -137,7 +139,8 @@ TEST_P(FolderBrandingTest, PlantedThingsAreRefusedAndTheOldIconStays) {
 
 TEST_P(FolderBrandingTest, WhatIsNoFolderOrNobodysToBrandIsRefused) {
   test::writeFile(tree / "file", std::string("x"));
-  for (const fs::path& path : {tree / "file", tree / "missing", fs::path("/"), fs::path("/proc/self"), fs::path("/home")})
+  for (const fs::path& path :
+       {tree / "file", tree / "missing", fs::path("/"), fs::path("/proc/self"), fs::path("/home")})
     EXPECT_FALSE(branding.writeIconWithImage(test::plainImage(Qt::red), path, WriteMode::DryRun).ok()) << path;
   EXPECT_FALSE(branding.writeIconWithImage(std::nullopt, folder).ok());
   EXPECT_TRUE(fs::is_empty(folder));

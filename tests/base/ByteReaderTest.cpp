@@ -49,7 +49,9 @@ Result<int> half(int value) {
   if (value % 2 != 0) return Error::invalidInput("odd");
   return value / 2;
 }
-Result<int> quarter(int value) { return half(TRY(half(value))); }
+Result<int> quarter(int value) {
+  return half(TRY(half(value)));
+}
 
 TEST(Result, PassesFailuresUpAndKeepsThePathNearestToTheCause) {
   EXPECT_EQ(*quarter(12), 3);

@@ -78,9 +78,16 @@ TEST(Arguments, WrongUseSaysWhatAndEndsWithTwo) {
 }
 
 TEST(Arguments, HelpOnEachLevelBeginsWithUseAndTwoExamples) {
-  for (const std::vector<std::string>& words : std::vector<std::vector<std::string>>{
-           {"--help"}, {"apply", "-h"}, {"revert", "--help"}, {"reset", "--help"}, {"status", "--help"}, {"render", "-h"},
-           {"icns", "--help"}, {"icns", "make", "--help"}, {"icns", "list", "-h"}, {"icns", "extract", "--help"}}) {
+  for (const std::vector<std::string>& words : std::vector<std::vector<std::string>>{{"--help"},
+                                                                                     {"apply", "-h"},
+                                                                                     {"revert", "--help"},
+                                                                                     {"reset", "--help"},
+                                                                                     {"status", "--help"},
+                                                                                     {"render", "-h"},
+                                                                                     {"icns", "--help"},
+                                                                                     {"icns", "make", "--help"},
+                                                                                     {"icns", "list", "-h"},
+                                                                                     {"icns", "extract", "--help"}}) {
     const auto outcome = parse(words);
     EXPECT_EQ(outcome.exitCode, exitDone);
     EXPECT_TRUE(outcome.complaint.empty());
@@ -95,13 +102,16 @@ TEST(Printable, NothingThatDrivesATerminalGetsThrough) {
   EXPECT_EQ(printable(std::string("a\x1B]0;\n\x7F")), "a\\x1B]0;\\x0A\\x7F");
   EXPECT_EQ(printable(std::string("caf\xC3\xA9 \xE2\x80\xAE gpj")), "caf\xC3\xA9 \\u{202E} gpj");
   EXPECT_EQ(printable(std::string("\xFF\xC0\x80\xED\xA0\x80")), "\\xFF\\xC0\\x80\\xED\\xA0\\x80");
-  EXPECT_EQ(printable(std::string("\xC2\x9B" "31m")), "\\u{009B}31m");
+  EXPECT_EQ(printable(std::string("\xC2\x9B"
+                                  "31m")),
+            "\\u{009B}31m");
 }
 
 TEST(Numbers, AreReadTheSameInEveryLocale) {
   EXPECT_EQ(parseNumber("+1.5"), 1.5);
   EXPECT_EQ(parseNumber("-1e2"), -100);
-  for (const char* text : {"", "1,5", "inf", "nan", "1e999", "0x10", "5 ", "--1"}) EXPECT_FALSE(parseNumber(text)) << text;
+  for (const char* text : {"", "1,5", "inf", "nan", "1e999", "0x10", "5 ", "--1"})
+    EXPECT_FALSE(parseNumber(text)) << text;
   EXPECT_EQ(*parseColor("#abc"), QColor(0xAA, 0xBB, 0xCC));
   EXPECT_EQ(*parseColor("DarkRed"), QColor(0x8B, 0, 0));
   EXPECT_FALSE(parseColor("#12345g"));

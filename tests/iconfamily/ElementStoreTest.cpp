@@ -87,8 +87,9 @@ TEST(ElementStore, DamagedElementsAreRefused) {
   ASSERT_TRUE(setIcnsElement(family, "ic04", Bytes{'A', 'R', 'G'}).ok());
   ASSERT_TRUE(setIcnsElement(family, "ic07", Bytes{'n', 'o', 'n', 'e'}).ok());
   ASSERT_TRUE(setIcnsElement(family, "s8mk", Bytes(256)).ok());
-  for (const FourCharCode type : {FourCharCode("is32"), FourCharCode("ics8"), FourCharCode("ics#"), FourCharCode("ic04"),
-                                  FourCharCode("ic07"), FourCharCode("s8mk"), FourCharCode("nope")})
+  for (const FourCharCode type :
+       {FourCharCode("is32"), FourCharCode("ics8"), FourCharCode("ics#"), FourCharCode("ic04"), FourCharCode("ic07"),
+        FourCharCode("s8mk"), FourCharCode("nope")})
     EXPECT_FALSE(decodeIconFamilyElement(family, type)) << type.toDisplayText();
 }
 

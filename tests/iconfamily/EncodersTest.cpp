@@ -23,8 +23,8 @@ class CapturedLog {
 };
 
 BitmapImageRep bitmapOf(int n, int bits, int samples, int pixelBits, const Bytes& pixel, bool planar = false) {
-  BitmapLayout layout{.pixelsWide = n, .pixelsHigh = n, .bitsPerSample = bits, .samplesPerPixel = samples,
-                      .bitsPerPixel = pixelBits};
+  BitmapLayout layout{
+      .pixelsWide = n, .pixelsHigh = n, .bitsPerSample = bits, .samplesPerPixel = samples, .bitsPerPixel = pixelBits};
   layout.hasAlpha = samples == 4 || samples == 2;
   layout.isPlanar = planar;
   auto bitmap = BitmapImageRep::bitmapImageRepWithLayout(layout);
@@ -36,9 +36,13 @@ BitmapImageRep bitmapOf(int n, int bits, int samples, int pixelBits, const Bytes
   return *bitmap;
 }
 
-BitmapImageRep rgba(int n, const Bytes& pixel) { return bitmapOf(n, 8, 4, 32, pixel); }
+BitmapImageRep rgba(int n, const Bytes& pixel) {
+  return bitmapOf(n, 8, 4, 32, pixel);
+}
 
-Bytes firstPixel(const std::optional<Bytes>& data) { return data ? Bytes(data->begin(), data->begin() + 4) : Bytes(); }
+Bytes firstPixel(const std::optional<Bytes>& data) {
+  return data ? Bytes(data->begin(), data->begin() + 4) : Bytes();
+}
 
 TEST(Get32BitData, UndoesPremultiplicationByTruncationAndWrapsAround) {
   EXPECT_EQ(firstPixel(get32BitData(rgba(16, {128, 0, 0, 128}), 16)), (Bytes{128, 255, 0, 0}));
@@ -57,7 +61,8 @@ TEST(Get32BitData, ReadsRowsThatAreLongerThanTheirPixels) {
   auto bitmap = BitmapImageRep::bitmapImageRepWithLayout(layout);
   ASSERT_TRUE(bitmap);
   for (int y = 0; y < 16; ++y)
-    for (int i = 0; i < 80; ++i) bitmap->mutableRow(y)[i] = i < 64 ? (i % 4 == 3 ? 255 : static_cast<std::uint8_t>(y)) : 99;
+    for (int i = 0; i < 80; ++i)
+      bitmap->mutableRow(y)[i] = i < 64 ? (i % 4 == 3 ? 255 : static_cast<std::uint8_t>(y)) : 99;
   const auto data = get32BitData(*bitmap, 16);
   ASSERT_TRUE(data);
   EXPECT_EQ(Bytes(data->end() - 4, data->end()), (Bytes{255, 15, 15, 15}));
@@ -108,9 +113,10 @@ TEST(Producers, RefuseWrongSizesSilentlyAndPlanarOrDeepSourcesWithAMessage) {
                            "get1BitMaskFromBitmapImageRep:requiredPixelSize: returning NULL due to isPlanar == YES"}));
   log.lines.clear();
   EXPECT_FALSE(all(bitmapOf(16, 16, 4, 64, {0}), 16));
-  EXPECT_EQ(log.lines, (std::vector<std::string>{
-                           "get8BitDataFromBitmapImageRep:requiredPixelSize: returning NULL due to bitsPerSample == 16",
-                           "get8BitMaskFromBitmapImageRep:requiredPixelSize: returning NULL due to bitsPerSample == 16"}));
+  EXPECT_EQ(log.lines,
+            (std::vector<std::string>{
+                "get8BitDataFromBitmapImageRep:requiredPixelSize: returning NULL due to bitsPerSample == 16",
+                "get8BitMaskFromBitmapImageRep:requiredPixelSize: returning NULL due to bitsPerSample == 16"}));
 }
 
 TEST(ResampleImage, FitsWithTheAspectKeptAndMeasuresInPixels) {

@@ -31,8 +31,8 @@ TEST(IconFamily, HoldsExactlyTheTwelveWrittenElements) {
 
 TEST(IconFamily, DecodesAlphaFirstWithTheMaskOrOpaque) {
   auto family = *IconFamily::iconFamilyWithThumbnailsOfImage(filledImage(512, {64, 0, 0, 128}));
-  for (const FourCharCode type : {FourCharCode("ic09"), FourCharCode("ic08"), FourCharCode("it32"), FourCharCode("il32"),
-                                  FourCharCode("is32")}) {
+  for (const FourCharCode type :
+       {FourCharCode("ic09"), FourCharCode("ic08"), FourCharCode("it32"), FourCharCode("il32"), FourCharCode("is32")}) {
     const auto bitmap = family.bitmapImageRepWithAlphaForIconFamilyElement(type);
     ASSERT_TRUE(bitmap) << type.toString();
     EXPECT_TRUE(bitmap->layout().alphaFirst);

@@ -22,7 +22,9 @@ const QString originalTimeKey = QStringLiteral("modified_before");
 const QString ourTimeKey = QStringLiteral("modified_by_us");
 
 // Seconds and nanoseconds as text: JSON numbers hold no 64-bit times.
-QString timeText(const timespec& time) { return QStringLiteral("%1.%2").arg(time.tv_sec).arg(time.tv_nsec, 9, 10, QLatin1Char('0')); }
+QString timeText(const timespec& time) {
+  return QStringLiteral("%1.%2").arg(time.tv_sec).arg(time.tv_nsec, 9, 10, QLatin1Char('0'));
+}
 
 std::optional<timespec> timeFrom(const QString& text) {
   const qsizetype dot = text.indexOf(u'.');
@@ -82,9 +84,8 @@ Result<void> BrandingRecord::make(Folder& folder, const ForkStore& forks, const 
     TRY_VOID(forks.saveOriginal(folder, original));
     const bool hadBackup = TRY(folder.statusOf(backupName)).has_value();
     if (hadBackup) TRY_VOID(folder.preserve(backupName, record, keptBackupName));
-    return writeRecord(record, {{versionKey, recordVersion},
-                                {backupKey, hadBackup},
-                                {originalTimeKey, timeText(before.st_mtim)}});
+    return writeRecord(
+        record, {{versionKey, recordVersion}, {backupKey, hadBackup}, {originalTimeKey, timeText(before.st_mtim)}});
   };
   auto done = build();
   if (done.ok()) done = folder.rename(temporary, folder, folderName);

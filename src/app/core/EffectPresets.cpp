@@ -22,11 +22,15 @@ LabelShadow dropShadow(float blurRadius) {
   return {.offsetX = 2, .offsetY = -2, .blurRadius = blurRadius, .color = QColor::fromRgbF(0, 0, 0, 0.5F)};
 }
 
-LabelShadow glow(Qt::GlobalColor color) { return {.blurRadius = 4, .color = QColor(color)}; }
+LabelShadow glow(Qt::GlobalColor color) {
+  return {.blurRadius = 4, .color = QColor(color)};
+}
 
 }  // namespace
 
-std::span<const EffectPreset> effectPresets() { return presets; }
+std::span<const EffectPreset> effectPresets() {
+  return presets;
+}
 
 std::optional<LabelShadow> shadowForEffectTag(int tag) {
   if (tag <= 0) return std::nullopt;

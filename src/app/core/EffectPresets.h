@@ -18,8 +18,8 @@ struct EffectPreset {
 /// The presets that can be chosen, in menu order.
 std::span<const EffectPreset> effectPresets();
 
-/// The shadow of a tag. None for tags of 0 or less. Tags that no preset has give a shadow as a new one is: no offset, no
-/// blur, the default colour; 4 and 5 are kept for later and are such tags.
+/// The shadow of a tag. None for tags of 0 or less. Tags that no preset has give a shadow as a new one is: no offset,
+/// no blur, the default colour; 4 and 5 are kept for later and are such tags.
 std::optional<LabelShadow> shadowForEffectTag(int tag);
 
 /// The tag of a preset's name.

@@ -7,7 +7,6 @@
 #include "foundation/base/Log.h"
 #include "iconfamily/CustomIcon.h"
 #include "iconfamily/IconFile.h"
-#include "iconfamily/format/IcnsContainer.h"
 
 namespace quorvane {
 
@@ -20,14 +19,17 @@ constexpr Size canvasSize{128, 128};
 Result<std::optional<IconFamily>> readBackup(const Folder& folder) {
   const auto bytes = TRY(folder.readFile(FolderBranding::backupName, limits::iconFileBytes));
   if (!bytes) return std::optional<IconFamily>();
-  if (const auto elements = icnsElements(*bytes); !elements)
-    return elements.error().at(folder.pathOf(FolderBranding::backupName));
-  return std::optional(IconFamily::initWithData(*bytes));
+  const IconFamily family = IconFamily::initWithData(*bytes);
+  if (const auto checked = family.check(); !checked)
+    return checked.error().at(folder.pathOf(FolderBranding::backupName));
+  return std::optional(family);
 }
 
-Result<Image> imageOf(const IconFamily& family, const std::filesystem::path& path, Size size) {
+/// The family's picture; of one that holds none, the picture of the folder's kind, as the desktop shows then.
+Result<Image> imageOf(const IconFamily& family, const std::filesystem::path& path, Size size, const KindIcons& kinds) {
   auto image = family.imageWithAllReps();
-  if (!image || !image->bitmapRepresentation()) return Error::invalidInput("its icon holds no picture").at(path);
+  if (!image || !image->bitmapRepresentation()) image = kinds.iconForKindOfFile(path);
+  if (!image) return Error::invalidInput("its icon holds no picture").at(path);
   image->setSize(size);
   return *std::move(image);
 }
@@ -47,18 +49,17 @@ std::filesystem::path FolderBranding::_backupPathForFolder(const std::filesystem
 }
 
 Result<Image> FolderBranding::_iconImageForPath(const std::filesystem::path& path) const {
-  return imageOf(TRY(IconFamily::iconFamilyWithIconOfFile(path, _services)), path, shownSize);
+  return imageOf(TRY(IconFamily::iconFamilyWithIconOfFile(path, _services)), path, shownSize, _services.kinds);
 }
 
 Result<Image> FolderBranding::originalIconImage(const std::filesystem::path& path) const {
   const Folder folder = TRY(Folder::open(path, Folder::Access::Read));
-  if (const auto backup = TRY(readBackup(folder))) return imageOf(*backup, path, canvasSize);
-  return imageOf(TRY(IconFamily::iconFamilyWithIconOfFile(path, _services)), path, canvasSize);
+  if (const auto backup = TRY(readBackup(folder))) return imageOf(*backup, path, canvasSize, _services.kinds);
+  return imageOf(TRY(IconFamily::iconFamilyWithIconOfFile(path, _services)), path, canvasSize, _services.kinds);
 }
 
 Result<Folder> FolderBranding::openForWriting(const std::filesystem::path& path, WriteMode mode) const {
-  Folder folder =
-      TRY(Folder::open(path, mode == WriteMode::Write ? Folder::Access::Write : Folder::Access::Read));
+  Folder folder = TRY(Folder::open(path, mode == WriteMode::Write ? Folder::Access::Write : Folder::Access::Read));
   TRY_VOID(checkTarget(folder.path()));
   TRY_VOID(checkBrandFiles(folder, brandFileNames(_services.forks, backupName)));
   if (mode == WriteMode::DryRun) TRY_VOID(checkWritable(folder));
@@ -139,7 +140,7 @@ Result<FolderStatus> FolderBranding::status(const std::filesystem::path& path) c
     fault(info.error());
   }
   if (const auto family = readFolderIconResource(folder, _services.forks)) {
-    status.hasIconFamily = family->has_value() && icnsElements((*family)->bytes()).ok();
+    status.hasIconFamily = family->has_value() && (*family)->check().ok();
     if (family->has_value() && !status.hasIconFamily) status.faults.emplace_back("the icon resource is no icon family");
   } else {
     fault(family.error());
@@ -154,8 +155,10 @@ Result<FolderStatus> FolderBranding::status(const std::filesystem::path& path) c
   } else {
     fault(record.error());
   }
-  if (status.hasCustomFlag && !status.hasIconFamily) status.faults.emplace_back("the folder claims an icon that is not there");
-  if (status.hasIconFamily && !status.hasCustomFlag) status.faults.emplace_back("the folder does not say that it has an icon");
+  if (status.hasCustomFlag && !status.hasIconFamily)
+    status.faults.emplace_back("the folder claims an icon that is not there");
+  if (status.hasIconFamily && !status.hasCustomFlag)
+    status.faults.emplace_back("the folder does not say that it has an icon");
   status.hasCustomIcon = status.hasIconFamily && status.hasCustomFlag;
   return status;
 }

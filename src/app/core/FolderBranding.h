@@ -17,12 +17,12 @@ namespace quorvane {
 
 /// What is there of a brand in a folder.
 struct FolderStatus {
-  bool hasCustomIcon = false;   ///< a readable icon family and the folder's flag: a Mac shows it
-  bool hasIconFamily = false;   ///< a readable family in the icon file's fork
-  bool hasCustomFlag = false;   ///< the folder says that it has a custom icon
-  bool hasBackup = false;       ///< .BackupIcon.icns is there: revert has something to put back
-  bool hasRecord = false;       ///< we changed this folder, and reset can give back what was there before
-  std::uint64_t bytes = 0;      ///< of all files of the brand
+  bool hasCustomIcon = false;       ///< a readable icon family and the folder's flag: a Mac shows it
+  bool hasIconFamily = false;       ///< a readable family in the icon file's fork
+  bool hasCustomFlag = false;       ///< the folder says that it has a custom icon
+  bool hasBackup = false;           ///< .BackupIcon.icns is there: revert has something to put back
+  bool hasRecord = false;           ///< we changed this folder, and reset can give back what was there before
+  std::uint64_t bytes = 0;          ///< of all files of the brand
   std::vector<std::string> faults;  ///< what contradicts itself, in words
 
   /// Part of a custom icon without the rest.

@@ -52,8 +52,8 @@ Result<LabelFont> labelFontNamed(const std::string& name, double size) {
     const QString style = sameName(QFontDatabase::styles(family), wanted.mid(space + 1));
     if (!style.isEmpty()) return LabelFont{family, style, size};
     return Error::invalidInput("the font '" + family.toStdString() + "' has no style '" +
-                               wanted.mid(space + 1).toStdString() + "'; it has: " +
-                               QFontDatabase::styles(family).join(QLatin1String(", ")).toStdString());
+                               wanted.mid(space + 1).toStdString() +
+                               "'; it has: " + QFontDatabase::styles(family).join(QLatin1String(", ")).toStdString());
   }
   return Error::invalidInput("no font '" + name + "' is installed");
 }

@@ -32,8 +32,8 @@ inline constexpr int picturePixels = 32768;
 inline constexpr std::int64_t pictureArea = 100'000'000;
 /// Area of a JPEG 2000 picture: its decoder takes 16 bytes a pixel and more.
 inline constexpr std::int64_t jpeg2000Area = std::int64_t{1} << 25;
-/// Tiles, code blocks, and packets of one JPEG 2000 picture: each costs the decoder memory (about 6 KB, 700 and 2 bytes)
-/// whatever the file's length. Usual ones of the largest area have 32,000 code blocks.
+/// Tiles, code blocks, and packets of one JPEG 2000 picture: each costs the decoder memory (about 6 KB, 700 and 2
+/// bytes) whatever the file's length. Usual ones of the largest area have 32,000 code blocks.
 inline constexpr std::int64_t jpeg2000Tiles = 4096;
 inline constexpr std::int64_t jpeg2000Blocks = 1 << 18;
 inline constexpr std::int64_t jpeg2000Packets = 1 << 22;

@@ -25,6 +25,8 @@ void logMessage(std::string_view category, std::string_view message) {
   if (currentSink()) currentSink()(category, message);
 }
 
-LogSink setLogSink(LogSink sink) { return std::exchange(currentSink(), std::move(sink)); }
+LogSink setLogSink(LogSink sink) {
+  return std::exchange(currentSink(), std::move(sink));
+}
 
 }  // namespace quorvane

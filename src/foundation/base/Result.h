@@ -61,11 +61,11 @@ class [[nodiscard]] Result<void> {
 }  // namespace quorvane
 
 // One in another must not hide the outer one's name.
-#define QUORVANE_TRY_VALUE(name, expression)          \
-  __extension__({                                     \
-    auto&& name = (expression);                       \
-    if (!name.ok()) return std::move(name).error();   \
-    std::move(name).value();                          \
+#define QUORVANE_TRY_VALUE(name, expression)        \
+  __extension__({                                   \
+    auto&& name = (expression);                     \
+    if (!name.ok()) return std::move(name).error(); \
+    std::move(name).value();                        \
   })
 #define QUORVANE_TRY_NAME(count) tryResult##count##_
 #define QUORVANE_TRY_COUNTED(count, expression) QUORVANE_TRY_VALUE(QUORVANE_TRY_NAME(count), expression)
@@ -74,7 +74,7 @@ class [[nodiscard]] Result<void> {
 #define TRY(expression) QUORVANE_TRY_COUNTED(__COUNTER__, expression)
 
 /// The same for a Result<void>.
-#define TRY_VOID(expression)                                                \
-  do {                                                                      \
+#define TRY_VOID(expression)                                                   \
+  do {                                                                         \
     if (auto tryDone_ = (expression); !tryDone_.ok()) return tryDone_.error(); \
   } while (false)

@@ -10,7 +10,8 @@ namespace quorvane {
 
 std::vector<std::string> ClipboardPasteboard::types() const {
   std::vector<std::string> names;
-  for (const QString& format : QGuiApplication::clipboard()->mimeData()->formats()) names.push_back(format.toStdString());
+  for (const QString& format : QGuiApplication::clipboard()->mimeData()->formats())
+    names.push_back(format.toStdString());
   return names;
 }
 

@@ -47,7 +47,7 @@ QString specialFolderIcon(const QString& path) {
     const char* icon;
   };
   static constexpr Special specials[] = {
-      {QStandardPaths::HomeLocation, "user-home"},          {QStandardPaths::DesktopLocation, "user-desktop"},
+      {QStandardPaths::HomeLocation, "user-home"},           {QStandardPaths::DesktopLocation, "user-desktop"},
       {QStandardPaths::DownloadLocation, "folder-download"}, {QStandardPaths::DocumentsLocation, "folder-documents"},
       {QStandardPaths::MusicLocation, "folder-music"},       {QStandardPaths::PicturesLocation, "folder-pictures"},
       {QStandardPaths::MoviesLocation, "folder-videos"},
@@ -64,12 +64,14 @@ QString sessionIconTheme() {
   if (desktops.isEmpty()) return {};
   QStringList candidates;
   if (desktops.contains(QLatin1String("KDE"))) {
-    candidates << fromSettingsFile(QStringLiteral("kdeglobals"), QStringLiteral("Icons/Theme")) << QStringLiteral("breeze");
+    candidates << fromSettingsFile(QStringLiteral("kdeglobals"), QStringLiteral("Icons/Theme"))
+               << QStringLiteral("breeze");
   } else if (desktops.contains(QLatin1String("LXQT"))) {
     candidates << fromSettingsFile(QStringLiteral("lxqt/lxqt.conf"), QStringLiteral("icon_theme"))
                << QStringLiteral("breeze");
   } else {
-    candidates << fromSettingsFile(QStringLiteral("gtk-3.0/settings.ini"), QStringLiteral("Settings/gtk-icon-theme-name"));
+    candidates << fromSettingsFile(QStringLiteral("gtk-3.0/settings.ini"),
+                                   QStringLiteral("Settings/gtk-icon-theme-name"));
     if (desktops.contains(QLatin1String("MATE"))) candidates << QStringLiteral("menta") << QStringLiteral("mate");
     if (desktops.contains(QLatin1String("XFCE"))) candidates << QStringLiteral("elementary-xfce");
     candidates << QStringLiteral("Adwaita") << QStringLiteral("gnome");
@@ -114,7 +116,8 @@ std::optional<Image> ThemeKindIcons::iconForKindOfFile(const std::filesystem::pa
   if (!_hasTheme) return std::nullopt;
   const QString name = QFile::decodeName(QByteArray::fromStdString(path.string()));
   if (isDirectory(path))
-    return iconNamed({specialFolderIcon(QDir::cleanPath(name)), QStringLiteral("folder"), QStringLiteral("inode-directory")});
+    return iconNamed(
+        {specialFolderIcon(QDir::cleanPath(name)), QStringLiteral("folder"), QStringLiteral("inode-directory")});
   const QMimeType type = QMimeDatabase().mimeTypeForFile(name, QMimeDatabase::MatchExtension);
   return iconNamed({type.iconName(), type.genericIconName(), QStringLiteral("text-x-generic")});
 }
