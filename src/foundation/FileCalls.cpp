@@ -125,6 +125,10 @@ Result<void> removeAttribute(int handle, const std::string& name) {
   return flush(handle, what);
 }
 
+bool isSameItem(const struct stat& a, const struct stat& b) {
+  return a.st_dev == b.st_dev && a.st_ino == b.st_ino;
+}
+
 std::string kindWords(mode_t mode) {
   switch (mode & S_IFMT) {
     case S_IFREG:

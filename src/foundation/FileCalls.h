@@ -28,6 +28,8 @@ Result<std::optional<Bytes>> attribute(int handle, const std::string& name);
 Result<void> setAttribute(int handle, const std::string& name, ByteView value);
 Result<void> removeAttribute(int handle, const std::string& name);
 
+/// Whether both tell of one file or folder, by whatever names.
+bool isSameItem(const struct stat& a, const struct stat& b);
 /// "a link", "a folder", "a fifo" ...
 std::string kindWords(mode_t mode);
 

@@ -18,10 +18,6 @@ namespace {
 
 constexpr int openFolderFlags = O_RDONLY | O_DIRECTORY | O_CLOEXEC | O_NONBLOCK;
 
-bool sameItem(const struct stat& a, const struct stat& b) {
-  return a.st_dev == b.st_dev && a.st_ino == b.st_ino;
-}
-
 // The path that really leads to an open folder now; `given` when the system cannot tell.
 fs::path resolvedPath(int handle, const fs::path& given) {
   struct stat opened {
@@ -31,7 +27,7 @@ fs::path resolvedPath(int handle, const fs::path& given) {
   for (const bool canonical : {false, true}) {
     const fs::path candidate =
         canonical ? fs::canonical(given, error) : fs::read_symlink("/proc/self/fd/" + std::to_string(handle), error);
-    if (!error && ::stat(candidate.c_str(), &found) == 0 && sameItem(opened, found)) return candidate;
+    if (!error && ::stat(candidate.c_str(), &found) == 0 && calls::isSameItem(opened, found)) return candidate;
   }
   const fs::path absolute = fs::absolute(given, error);
   return error ? given : absolute;
@@ -41,7 +37,7 @@ fs::path resolvedPath(int handle, const fs::path& given) {
 Result<std::string> nameInParent(const Folder& parent, const struct stat& child, const std::string& guess) {
   const auto leadsToChild = [&](const std::string& name) {
     const auto found = parent.statusOf(name);
-    return found.ok() && found->has_value() && sameItem(**found, child);
+    return found.ok() && found->has_value() && calls::isSameItem(**found, child);
   };
   if (leadsToChild(guess)) return guess;
   for (const std::string& name : TRY(parent.names()))
@@ -64,7 +60,7 @@ Result<Folder::Parent> Folder::openParent(Access access) const {
   if (!handle.isOpen()) return Error::system(errno, "cannot open the folder above").at(_path);
   const struct stat self = status();
   const struct stat above = TRY(calls::status(handle.get(), "cannot open the folder above"));
-  if (sameItem(self, above)) return Error(ErrorKind::NotFound, "has no folder above it").at(_path);
+  if (calls::isSameItem(self, above)) return Error(ErrorKind::NotFound, "has no folder above it").at(_path);
   fs::path path = resolvedPath(handle.get(), _path.parent_path());
   Folder parent = TRY(_make(std::move(handle), std::move(path), access, patience));
   std::string name = TRY(nameInParent(parent, self, resolvedPath(_handle.get(), _path).filename().string()));

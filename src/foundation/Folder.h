@@ -77,7 +77,7 @@ class Folder {
   /// (its access list with them); a new one gets the folder's owner when we are root, its group where we may, and its
   /// mode without execute bits under the umask. An owner that only root could keep becomes ours; a group that we may
   /// not give leaves its members no more than everybody has. A hard link's other name keeps the old content. On failure
-  /// nothing under `name` has changed, unless only the last flush failed.
+  /// nothing under `name` has changed, unless only what comes after the renaming failed.
   Result<WriteOutcome> writeFile(const std::string& name, ByteView bytes);
   /// The same for a file that was read before and edited: refused when the file (nullopt: no file) is no longer what it
   /// was then, so that nobody's change in between is lost.
@@ -88,7 +88,8 @@ class Folder {
   /// Removes a folder directly inside with everything in it, never through links or into another file system; success
   /// when there is none. It vanishes at once: what an interruption leaves stands under a temporary name.
   Result<void> removeChild(const std::string& name);
-  /// Renames within this folder or into another one; replaces a plain file, or an empty folder by a folder.
+  /// Renames within this folder or into another one; replaces a plain file, or an empty folder by a folder. Of two
+  /// names of one file the new one stays.
   Result<void> rename(const std::string& from, const Folder& to, const std::string& name);
   /// Gives a plain file a second name in another folder of the same file system, or, where that cannot be, copies
   /// bytes, owner, mode, times and extended attributes. The copy stays what it was when the original is later replaced

@@ -39,7 +39,9 @@ Result<void> removeTree(int parent, const std::string& name, const fs::path& pat
   handle.release();
   // All names first: removing while reading may skip some.
   std::vector<std::string> inside;
+  errno = 0;
   while (const dirent* entry = ::readdir(stream.get())) inside.emplace_back(entry->d_name);
+  if (errno != 0) return Error::system(errno, what).at(path);
   for (const std::string& item : inside) {
     if (item == "." || item == "..") continue;
     if (::unlinkat(folder, item.c_str(), 0) == 0 || errno == ENOENT) continue;
@@ -107,8 +109,12 @@ Result<void> Folder::rename(const std::string& from, const Folder& to, const std
   const auto target = TRY(to.statusOf(name));
   if (target && (target->st_mode & S_IFMT) != (source->st_mode & S_IFMT))
     return Error::refused(what + ": " + calls::kindWords(target->st_mode) + " stands there").at(to.pathOf(name));
-  if (::renameat(_handle.get(), from.c_str(), to._handle.get(), name.c_str()) != 0)
-    return to._failure(errno, what, name);
+  // The system does nothing when both are names of one file, and would leave both.
+  const bool isSame = target && calls::isSameItem(*target, *source);
+  const bool isOneName = isSame && from == name && calls::isSameItem(status(), to.status());
+  const int failed = isSame && !isOneName ? ::unlinkat(_handle.get(), from.c_str(), 0)
+                                          : ::renameat(_handle.get(), from.c_str(), to._handle.get(), name.c_str());
+  if (failed != 0) return to._failure(errno, what, name);
   TRY_VOID(calls::flush(to._handle.get(), what));
   return flush();
 }

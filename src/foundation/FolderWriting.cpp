@@ -103,7 +103,7 @@ Result<WriteOutcome> Folder::_replace(const std::string& name, ByteView bytes, c
     if (now.has_value() != old.has_value()) return changedMeanwhile();
     if (!old) return {};
     const struct stat opened = TRY(calls::status(old->get(), cannotWrite));
-    if (opened.st_ino != now->st_ino || opened.st_dev != now->st_dev) return changedMeanwhile();
+    if (!calls::isSameItem(opened, *now)) return changedMeanwhile();
     if (asRead != nullptr && !TRY(calls::holds(old->get(), **asRead, cannotWrite))) return changedMeanwhile();
     return {};
   };

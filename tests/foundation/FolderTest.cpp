@@ -214,6 +214,12 @@ TEST(Folder, RenamesFilesOverFilesAndFoldersOverEmptyFolders) {
   EXPECT_TRUE(folder.rename("a", staging, "a").ok());
   EXPECT_EQ(test::listing(root / "own"), "a=2\n");
   EXPECT_EQ(folder.rename("a", staging, "a").error().kind(), ErrorKind::NotFound);
+
+  fs::create_hard_link(root / "own/a", root / "twin");
+  EXPECT_TRUE(folder.rename("twin", staging, "a").ok());
+  EXPECT_TRUE(staging.rename("a", staging, "a").ok());
+  EXPECT_FALSE(fs::exists(root / "twin"));
+  EXPECT_EQ(test::listing(root / "own"), "a=2\n");
 }
 
 TEST(Folder, KeepsAttributesOfFoldersAndFiles) {
