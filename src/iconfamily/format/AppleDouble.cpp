@@ -118,9 +118,12 @@ Result<Bytes> AppleDouble::serialize() const {
     writer.writeU32(static_cast<std::uint32_t>(entry.data.size()));
   }
   for (const Entry* entry : order) {
+    if (entry->id != static_cast<std::uint32_t>(EntryId::FinderInfo)) {
+      writer.writeBytes(entry->data);
+      continue;
+    }
     Bytes data = entry->data;
-    if (entry->id == static_cast<std::uint32_t>(EntryId::FinderInfo))
-      AttributeBlock::relocate(data, entry->originalOffset, static_cast<std::uint32_t>(offsets[entry]));
+    AttributeBlock::relocate(data, entry->originalOffset, static_cast<std::uint32_t>(offsets[entry]));
     writer.writeBytes(data);
   }
   return std::move(writer).take();

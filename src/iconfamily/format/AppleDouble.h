@@ -3,7 +3,6 @@
 
 #include <cstdint>
 #include <optional>
-#include <string>
 #include <vector>
 
 #include "foundation/base/Bytes.h"
@@ -16,7 +15,8 @@ namespace quorvane {
 ///
 /// Entries that we do not know are kept whole, in order, when the file is written again; so is the filler, and the
 /// attribute block behind the 32 bytes of a longer Finder entry (offsets inside that block count from the start of the
-/// file and are moved along). Of entries that stand twice the first counts; changing one drops the others.
+/// file and are moved along). Of entries that stand twice the first counts; changing one drops the others. A file of
+/// version 1 stays one.
 class AppleDouble {
  public:
   enum class EntryId : std::uint32_t { DataFork = 1, ResourceFork = 2, FinderInfo = 9 };

@@ -25,20 +25,19 @@ bool hasBlock(ByteView entry) {
   return reader.seek(blockOffset) && reader.readCode() == blockMagic;
 }
 
-// The offsets kept in the block and where in the entry they stand; nullopt when one of them, or what it leads to, is
-// outside the entry.
+// An offset kept in the block, and where in the entry it stands.
 struct OffsetField {
   std::size_t place;
   std::uint32_t offset;
 };
 
+// All of them; nullopt when one, or what it leads to, is outside the entry, which begins at `start` of the file.
 std::optional<std::vector<OffsetField>> offsetFields(ByteView entry, std::uint32_t start) {
   std::vector<OffsetField> fields;
   ByteReader reader(entry);
-  // Notes the offset at the reader's place; `length` bytes from there must lie in the entry.
-  const auto note = [&](std::uint32_t offset, std::size_t length) {
-    if (offset < start || !ByteReader(entry).slice(offset - start, length)) return false;
-    fields.push_back({reader.position(), offset});
+  const auto note = [&](std::size_t place, std::uint32_t offset, std::size_t length) {
+    if (offset < start || !reader.slice(offset - start, length)) return false;
+    fields.push_back({place, offset});
     return true;
   };
 
@@ -46,9 +45,8 @@ std::optional<std::vector<OffsetField>> offsetFields(ByteView entry, std::uint32
   const auto end = reader.readU32();
   const auto values = reader.readU32();
   const auto valuesLength = reader.readU32();
-  if (!end || !values || !valuesLength || !reader.seek(endField) || !note(*end, 0) || !reader.seek(valuesField))
-    return std::nullopt;
-  if (!note(*values, *valuesLength)) return std::nullopt;
+  if (!end || !values || !valuesLength) return std::nullopt;
+  if (!note(endField, *end, 0) || !note(valuesField, *values, *valuesLength)) return std::nullopt;
 
   const auto count = AttributeBlock::countIn(entry);
   if (!count) return std::nullopt;
@@ -60,9 +58,8 @@ std::optional<std::vector<OffsetField>> offsetFields(ByteView entry, std::uint32
     const auto flags = reader.readU16();
     const auto nameLength = reader.readU8();
     if (!offset || !length || !flags || !nameLength || !reader.skip(*nameLength)) return std::nullopt;
-    const std::size_t padded = (reader.position() - begin + 3) / 4 * 4;
-    if (!reader.seek(begin) || !note(*offset, *length)) return std::nullopt;
-    begin += padded;
+    if (!note(begin, *offset, *length)) return std::nullopt;
+    begin += (reader.position() - begin + 3) / 4 * 4;
   }
   return fields;
 }

@@ -64,7 +64,7 @@ double levelOf(float component) {
   if (!(component > 0)) return 0;
   if (component >= 1) return 255;
   const double level = 255.0 * static_cast<double>(component);
-  const double sample = static_cast<int>(level + 0.5);
+  const double sample = std::round(level);
   return std::fabs(level - sample) < 1e-4 ? sample : level;
 }
 

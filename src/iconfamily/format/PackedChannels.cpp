@@ -187,8 +187,8 @@ bool isTooLarge(std::size_t pixels) {
 Bytes packColorChannels(ByteView argb) {
   const std::size_t pixels = argb.size() / 4;
   Bytes channel(pixels + block);
-  // Each step takes at least one byte and puts out at most one more than it takes.
-  Bytes packed(3 * 2 * pixels + block);
+  // Each step takes at least one byte and puts out at most one more than it takes, in three channels.
+  Bytes packed(6 * pixels + block);
   std::uint8_t* out = packed.data();
   for (std::size_t color = 1; color <= 3; ++color) {
     for (std::size_t i = 0; i < pixels; ++i) channel[i] = argb[4 * i + color];
