@@ -22,6 +22,11 @@ inline constexpr int elementPixels = 4096;
 inline constexpr std::size_t forkResources = 8192;
 inline constexpr std::size_t companionEntries = 512;
 
+/// Depth of folders that are removed with what is in them; ours are two deep.
+inline constexpr int removedFolderDepth = 32;
+/// Largest file that is copied to be kept where it cannot be kept by a second link.
+inline constexpr std::size_t preservedCopyBytes = std::size_t{64} << 20;
+
 /// Width and height of a picture file, and its area; 100 megapixels is a 400 MB bitmap.
 inline constexpr int picturePixels = 32768;
 inline constexpr std::int64_t pictureArea = 100'000'000;
@@ -41,5 +46,9 @@ inline constexpr std::size_t pictureFileBytes = std::size_t{512} << 20;
 /// Longest label in bytes and lines; each costs layout time.
 inline constexpr std::size_t labelBytes = 64 * 1024;
 inline constexpr std::size_t labelLines = 1000;
+
+/// Width and height of a composed icon and of a label's picture: four times the largest slot of a family. A larger base
+/// is composed at this size.
+inline constexpr int composedPixels = 4096;
 
 }  // namespace quorvane::limits

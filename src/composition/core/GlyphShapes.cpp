@@ -1,0 +1,145 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "composition/core/GlyphShapes.h"
+
+#include <QPainter>
+#include <QRawFont>
+#include <algorithm>
+#include <cmath>
+
+#include "composition/core/GlyphOutlines.h"
+#include "composition/core/OutlineClip.h"
+
+namespace quorvane {
+
+namespace {
+
+// How far from its position a glyph may draw, in ems. The widest known ones (a phrase in one glyph) take 11.
+constexpr double glyphReach = 16;
+
+// Pixels an em that colour pictures are taken at: the bitmaps of the usual font lie at this size, unscaled.
+constexpr double pictureSize = 128;
+
+// How far outside the picture an outline may reach before it is clipped.
+constexpr double safeDistance = 2048;
+
+// How many times over outlines may cover the picture. A label covers it once or twice; thousands of squeezed lines
+// under a steep shear would cover it thousands of times, at a millisecond each.
+constexpr double mostCoverage = 256;
+
+/// The longest side of a unit square after the transform.
+double largestScale(const QTransform& transform) {
+  return std::hypot(transform.m11(), transform.m12()) + std::hypot(transform.m21(), transform.m22());
+}
+
+/// The run without the glyphs that are out of reach: a label of a thousand lines has but a few in the picture.
+QGlyphRun visiblePart(const QGlyphRun& run, const QTransform& toPixels, const QRectF& visible) {
+  const double reach = glyphReach * run.rawFont().pixelSize() * largestScale(toPixels);
+  const QRectF reachable = visible.adjusted(-reach, -reach, reach, reach);
+  QList<quint32> indexes;
+  QList<QPointF> positions;
+  const QList<quint32> allIndexes = run.glyphIndexes();
+  const QList<QPointF> allPositions = run.positions();
+  for (qsizetype i = 0; i < allIndexes.size(); ++i) {
+    if (!reachable.contains(toPixels.map(allPositions[i]))) continue;
+    indexes.append(allIndexes[i]);
+    positions.append(allPositions[i]);
+  }
+  QGlyphRun part;
+  part.setRawFont(run.rawFont());
+  part.setGlyphIndexes(indexes);
+  part.setPositions(positions);
+  return part;
+}
+
+/// True for a font whose glyphs are layers in colours of their own ("CPAL" is their palette); such glyphs may have an
+/// outline as well.
+bool hasColorLayers(const QRawFont& font) {
+  return !font.fontTable("CPAL").isEmpty();
+}
+
+/// A colour glyph at pictureSize, and where it lies from the glyph's position (y downwards).
+QImage glyphPicture(const QRawFont& font, quint32 glyph, QRectF& place) {
+  // A pixel of room round it keeps the edges smooth when it is turned.
+  place = QRectF(font.boundingRect(glyph).toAlignedRect().adjusted(-1, -1, 1, 1));
+  QImage image(place.size().toSize(), QImage::Format_ARGB32_Premultiplied);
+  image.fill(Qt::transparent);
+  QGlyphRun single;
+  single.setRawFont(font);
+  single.setGlyphIndexes({glyph});
+  single.setPositions({QPointF()});
+  QPainter painter(&image);
+  painter.drawGlyphRun(-place.topLeft(), single);
+  return image;
+}
+
+}  // namespace
+
+void GlyphShapes::add(const QGlyphRun& run, const QTransform& toPixels, const QRectF& visible) {
+  const QGlyphRun part = visiblePart(run, toPixels, visible);
+  if (part.isEmpty()) return;
+  const std::size_t before = _outlines.size();
+  if (!hasColorLayers(part.rawFont())) addOutlines(part, toPixels);
+  if (_outlines.size() == before) addPictures(part, toPixels);
+}
+
+void GlyphShapes::addOutlines(const QGlyphRun& run, const QTransform& toPixels) {
+  for (const QPainterPath& outline : glyphOutlines(run)) {
+    QPainterPath path = toPixels.map(outline);
+    const QRectF box = path.controlPointRect();
+    _bounds |= box;
+    _outlines.push_back({std::move(path), box});
+  }
+}
+
+void GlyphShapes::addPictures(const QGlyphRun& run, const QTransform& toPixels) {
+  QRawFont font = run.rawFont();
+  const double scale = font.pixelSize() / pictureSize;
+  font.setPixelSize(pictureSize);
+  const QList<quint32> indexes = run.glyphIndexes();
+  const QList<QPointF> positions = run.positions();
+  for (qsizetype i = 0; i < indexes.size(); ++i) {
+    QRectF place;
+    if (font.boundingRect(indexes[i]).isEmpty()) continue;  // a space
+    QImage image = glyphPicture(font, indexes[i], place);
+    QTransform transform = QTransform::fromTranslate(place.x(), place.y()) * QTransform::fromScale(scale, scale) *
+                           QTransform::fromTranslate(positions[i].x(), positions[i].y()) * toPixels;
+    const QRectF box = transform.mapRect(QRectF(QPointF(), place.size()));
+    _bounds |= box;
+    // Shrunk by averaging first: what the painter does when it shrinks by more than half is to skip pixels.
+    const QSizeF drawn(std::hypot(transform.m11(), transform.m12()) * image.width(),
+                       std::hypot(transform.m21(), transform.m22()) * image.height());
+    const QSize shrunk(std::clamp(static_cast<int>(std::ceil(drawn.width())), 1, image.width()),
+                       std::clamp(static_cast<int>(std::ceil(drawn.height())), 1, image.height()));
+    if (shrunk != image.size()) {
+      transform = QTransform::fromScale(static_cast<double>(image.width()) / shrunk.width(),
+                                        static_cast<double>(image.height()) / shrunk.height()) *
+                  transform;
+      image = image.scaled(shrunk, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    }
+    _pictures.push_back({std::move(image), transform, box});
+  }
+}
+
+void GlyphShapes::paint(QImage& image, QPointF topLeft, const QColor& color) const {
+  const QRectF target(topLeft, QSizeF(image.size()));
+  const QRectF safe = target.adjusted(-safeDistance, -safeDistance, safeDistance, safeDistance);
+  QPainter painter(&image);
+  painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
+  const QTransform toImage = QTransform::fromTranslate(-topLeft.x(), -topLeft.y());
+  painter.setTransform(toImage);
+  double areaLeft = mostCoverage * target.width() * target.height();
+  for (const Outline& outline : _outlines) {
+    const QRectF covered = outline.box & target;
+    if (covered.isEmpty()) continue;
+    areaLeft -= covered.width() * covered.height();
+    if (areaLeft < 0) break;
+    painter.fillPath(safe.contains(outline.box) ? outline.path : clippedOutline(outline.path, safe), color);
+  }
+  for (const Picture& picture : _pictures) {
+    if (!picture.box.intersects(target)) continue;
+    painter.setTransform(picture.toPixels * toImage);
+    painter.drawImage(QPointF(), picture.image);
+  }
+}
+
+}  // namespace quorvane
