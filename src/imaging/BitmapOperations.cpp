@@ -23,7 +23,7 @@ void fill(BitmapImageRep& bitmap, const QColor& color) {
       premultiplied(static_cast<unsigned>(rgb.blue()), alpha), static_cast<std::uint8_t>(alpha)};
   for (int y = 0; y < bitmap.pixelsHigh(); ++y) {
     std::uint8_t* row = bitmap.mutableRow(y);
-    for (int x = 0; x < bitmap.pixelsWide(); ++x) std::memcpy(row + x * 4, pixel, 4);
+    for (int x = 0; x < bitmap.pixelsWide(); ++x) std::memcpy(row + std::ptrdiff_t{4} * x, pixel, 4);
   }
 }
 
@@ -68,12 +68,13 @@ BitmapImageRep rearranged(const BitmapImageRep& source, const AxisPlacement& how
   auto result = BitmapImageRep::bitmapImageRepWithSize({static_cast<float>(width), static_cast<float>(height)});
   const std::uint8_t* from = source.row(0);
   const std::ptrdiff_t fromRow = source.bytesPerRow();
+  constexpr std::ptrdiff_t pixelBytes = 4;
   for (int y = 0; y < height; ++y) {
     std::uint8_t* to = result.mutableRow(y);
     const int v = how.mirrorsY ? height - 1 - y : y;
     for (int x = 0; x < width; ++x, to += 4) {
       const int u = how.mirrorsX ? width - 1 - x : x;
-      std::memcpy(to, how.swapsAxes ? from + u * fromRow + v * 4 : from + v * fromRow + u * 4, 4);
+      std::memcpy(to, from + (how.swapsAxes ? u * fromRow + pixelBytes * v : v * fromRow + pixelBytes * u), 4);
     }
   }
   return result;
@@ -154,7 +155,7 @@ BitmapImageRep BitmapImageRep::bitmapImageRepByRotating180() const {
 
 unsigned BitmapImageRep::brightnessAt(int x, int y) const {
   const std::uint8_t* sample =
-      _pixels->data() + static_cast<std::ptrdiff_t>(_layout.bytesPerRow) * y + x * _layout.samplesPerPixel;
+      _pixels->data() + std::ptrdiff_t{_layout.bytesPerRow} * y + std::ptrdiff_t{_layout.samplesPerPixel} * x;
   if (_layout.samplesPerPixel != 3) return sample[0];
   return static_cast<unsigned>(std::rint(0.222 * sample[0] + 0.707 * sample[1] + 0.071 * sample[2]));
 }

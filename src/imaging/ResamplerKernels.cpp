@@ -154,9 +154,9 @@ void gatherPixel(const std::int16_t* pixels, const std::int16_t* weights, int ta
 
 void blendOver(const std::uint8_t* source, std::uint8_t* destination, int count) {
   for (int i = 0; i < count; ++i, source += 4, destination += 4) {
-    if (source[3] == 255) {
-      std::memcpy(destination, source, 4);
-    } else if (std::uint32_t below; std::memcpy(&below, destination, 4), below == 0) {
+    std::uint32_t below;
+    std::memcpy(&below, destination, 4);
+    if (source[3] == 255 || below == 0) {
       std::memcpy(destination, source, 4);
     } else {
       const unsigned rest = 255U - source[3];
