@@ -106,7 +106,7 @@ Result<std::optional<FolderInfoPlace>> AppleDoubleForkStore::changeFolderFlags(F
     const Result<void> changed = changeIt();
     if (changed.ok()) {
       if (set != 0 && !place) place = kind;
-    } else if (set == 0 || !place) {
+    } else if (!place) {
       return noPlace(folder, attributeError, changed.error());
     } else {
       note(changed.error());  // readers take the flags from where they were set
