@@ -61,8 +61,8 @@ void Parser::addLook(CLI::App& command) {
   for (const EffectPreset& preset : effectPresets()) effects += (effects.empty() ? "" : ", ") + std::string(preset.name);
   option("-l,--label", raw.label, "TEXT", "Label; \\n breaks the line, \\\\ is a backslash");
   option("-b,--base", raw.base, "PICTURE", "Picture to draw on (icns, PNG, JPEG, TIFF ...) instead of the folder's icon");
-  option("--font", raw.font, "NAME", "Font: a family, or a family and a style (\"DejaVu Sans Bold\")");
-  option("--size", raw.size, "POINTS", "Largest font size on a 128 point icon; it shrinks to fit [50]");
+  option("--font", raw.font, "NAME", "Family, or family and style, e.g. \"DejaVu Sans Bold\" [system font, bold]");
+  option("--size", raw.size, "POINTS", "Font size on a 128 point icon; shrinks to fit [what fits the folder's front]");
   option("--color", raw.color, "COLOR", "#rgb, #rrggbb, #rrggbbaa or a name [black]");
   option("--effect", raw.effect, "NAME", "Shadow: " + effects + " [none]");
   option("--line-spacing", raw.lineSpacing, "FACTOR", "Largest line height by the font's own; 0 sets no limit [1]");
@@ -192,7 +192,7 @@ Result<Look> readLook(const RawLook& raw) {
     to = static_cast<std::remove_reference_t<decltype(to)>>(*value);
     return {};
   };
-  TRY_VOID(number(raw.size, "--size", 1, 2000, look.fontSize));
+  if (!raw.size.empty()) TRY_VOID(number(raw.size, "--size", 1, 2000, look.fontSize.emplace()));
   TRY_VOID(number(raw.lineSpacing, "--line-spacing", 0, 100, look.lineSpacingFactor));
   TRY_VOID(number(raw.shear, "--shear", -100, 100, look.shearFactor));
   TRY_VOID(number(raw.rotate, "--rotate", -36000, 36000, look.rotation));

@@ -51,7 +51,7 @@ void runApply(const Arguments& arguments, const IconServices& services, Reporter
     base = *std::move(picture);
   }
   // A font that is not there fails every folder alike; it is said once.
-  if (const auto font = labelFontNamed(arguments.look.fontName, arguments.look.fontSize); !font)
+  if (const auto font = labelFontNamed(arguments.look.fontName, 1); !font)
     return reporter.failed({}, font.error());
   if (arguments.look.label.isNull() && !arguments.labelFromName && !base)
     return reporter.failed({}, Error::invalidInput("nothing to apply: give a --label, a --base or both"));

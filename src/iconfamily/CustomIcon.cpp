@@ -25,12 +25,12 @@ constexpr FourCharCode compatibilityTypes[] = {"icl8", "ICN#", "ics8", "ics#"};
 bool addResourceType(ResourceFork& fork, const IconFamily& family, FourCharCode type, std::int16_t resId) {
   auto data = getIconFamilyData(family.bytes(), type);
   if (!data || data->empty()) return false;
-  fork.set({.type = type, .id = resId, .data = *std::move(data)});
+  fork.set({type, resId, 0, {}, *std::move(data)});
   return true;
 }
 
 void addIconResources(ResourceFork& fork, const IconFamily& family, bool withCompatibility) {
-  fork.set({.type = "icns", .id = customIconResourceId, .data = family.data()});
+  fork.set({"icns", customIconResourceId, 0, {}, family.data()});
   if (!withCompatibility) return;
   for (const FourCharCode type : compatibilityTypes) (void)addResourceType(fork, family, type, customIconResourceId);
 }
@@ -128,7 +128,7 @@ Result<void> setFolderIcon(const IconFamily& family, Folder& folder, const IconS
 
   // The old icon file with its resources goes; nothing of it is kept. Other spellings would be second icon files.
   for (const std::string& spelling : iconFileNames)
-    if (spelling != std::string(iconFileName)) TRY_VOID(services.forks.removeFile(folder, spelling));
+    if (spelling != iconFileName) TRY_VOID(services.forks.removeFile(folder, spelling));
   TRY_VOID(folder.writeFile(iconFileName, {}));
   ForkedFile content;
   content.info.setTypeAndCreator("icon", "MACS");

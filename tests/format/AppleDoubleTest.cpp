@@ -4,7 +4,6 @@
 #include <gtest/gtest.h>
 
 #include "format/Fixtures.h"
-#include "foundation/base/ByteReader.h"
 #include "foundation/base/ByteWriter.h"
 #include "foundation/base/Limits.h"
 #include "iconfamily/format/ResourceFork.h"
@@ -35,13 +34,11 @@ AppleDouble read(const Bytes& bytes) {
   return companion.ok() ? *companion : AppleDouble();
 }
 
-// The Finder entry (from offset 50) with an attribute block of one attribute, its value "value" behind it.
-Bytes entryWithAttribute() {
-  Bytes entry = noFinderInfo;
-  entry = join({entry, hex("0000"), letters("ATTR"), hex("00000001 00000095 00000090 00000005"), Bytes(12),
-                hex("0000 0001"), hex("00000090 00000005 0000"), hex("0B"), letters("user.label"), Bytes(3),
-                letters("value")});
-  return entry;
+// The Finder entry (from offset 50) with an attribute block of two attributes, their values "value" and "w" behind it.
+Bytes entryWithAttributes() {
+  return join({noFinderInfo, hex("0000"), letters("ATTR"), hex("00000001 000000A6 000000A0 00000006"), Bytes(12),
+               hex("0000 0002"), hex("000000A0 00000005 0000"), hex("0B"), letters("user.label"), Bytes(3),
+               hex("000000A5 00000001 0000 02"), letters("u"), Bytes(4), letters("valuew")});
 }
 
 Bytes entryWithoutAttributes() {
@@ -81,8 +78,8 @@ TEST(AppleDouble, WritesBackWhatItReadByteForByte) {
             hex("0000000F 00000079 00000000"), hex("0000000F 00000079 00000001"), hex("00000002 0000007A 00000004"),
             Bytes(32, 7), letters("xyzd"), letters("fork")});
   const Bytes rows[] = {
-      systemFile(entryWithAttribute(), blankFork()), systemFile(entryWithoutAttributes(), {}), otherOrder, strangers,
-      patched(otherOrder, 4, 4, 0x00010000),         join({start, zeroFiller, hex("0000")})};
+      systemFile(entryWithAttributes(), blankFork()), systemFile(entryWithoutAttributes(), {}), otherOrder, strangers,
+      patched(otherOrder, 4, 4, 0x00010000),          join({start, zeroFiller, hex("0000")})};
   for (const Bytes& bytes : rows) EXPECT_EQ(written(read(bytes)), bytes);
   for (const Bytes& bytes : {otherOrder, strangers}) {
     const AppleDouble companion = read(bytes);
@@ -92,7 +89,7 @@ TEST(AppleDouble, WritesBackWhatItReadByteForByte) {
 }
 
 TEST(AppleDouble, ChangesTheFinderInfoAndNothingElse) {
-  const Bytes before = systemFile(entryWithAttribute(), blankFork());
+  const Bytes before = systemFile(entryWithAttributes(), blankFork());
   AppleDouble companion = read(before);
   FinderInfo info = *companion.finderInfo();
   info.setFlags(FinderInfo::hasCustomIcon);
@@ -101,21 +98,16 @@ TEST(AppleDouble, ChangesTheFinderInfoAndNothingElse) {
 }
 
 TEST(AppleDouble, MovesTheOffsetsOfTheAttributeBlockAlong) {
-  const Bytes before = systemFile(entryWithAttribute(), letters("fork"));
+  const Bytes before = systemFile(entryWithAttributes(), letters("fork"));
   AppleDouble companion = read(before);
   companion.setResourceFork({});
   const Bytes alone = written(companion);
   // One row less in the table: the Finder entry stands at 38, and all that counts from the file's start with it.
-  EXPECT_EQ(alone.size(), 38 + entryWithAttribute().size());
-  ByteReader reader(alone);
-  const std::size_t attribute = 38 + 70;
-  ASSERT_TRUE(reader.seek(attribute));
-  const auto place = reader.readU32();
-  EXPECT_EQ(*place, 0x90U - 12);
-  EXPECT_EQ(letters("value"), Bytes(reader.slice(*place, 5)->begin(), reader.slice(*place, 5)->end()));
-  ASSERT_TRUE(reader.seek(38 + 42));
-  EXPECT_EQ(reader.readU32(), alone.size());
-  EXPECT_EQ(reader.readU32(), *place);
+  Bytes expected = entryWithAttributes();
+  const std::pair<std::size_t, std::uint32_t> moved[] = {{42, 0x9A}, {46, 0x94}, {70, 0x94}, {94, 0x99}};
+  for (const auto& [place, value] : moved) expected = patched(expected, place, 4, value);
+  EXPECT_EQ(Bytes(alone.begin() + 38, alone.end()), expected);
+  EXPECT_EQ(Bytes(alone.begin() + 0x94, alone.begin() + 0x99), letters("value"));
 
   AppleDouble back = read(alone);
   back.setResourceFork(letters("fork"));
@@ -123,11 +115,11 @@ TEST(AppleDouble, MovesTheOffsetsOfTheAttributeBlockAlong) {
 
   // A block with an offset into nowhere is not understood, so it is left alone.
   std::vector<Bytes> odd;
-  for (const std::size_t offset : {42, 46, 50, 70, 74})
-    odd.push_back(patched(entryWithAttribute(), offset, 4, 0xFFFFFFF0));
-  // A second attribute is announced, and cut short.
+  for (const std::size_t offset : {42, 46, 50, 70, 74, 94, 98})
+    odd.push_back(patched(entryWithAttributes(), offset, 4, 0xFFFFFFF0));
+  // A third attribute is announced, and cut short.
   for (std::uint32_t extra = 0; extra < 11; ++extra)
-    odd.push_back(join({patched(patched(entryWithAttribute(), 42, 4, 0x95 + extra), 68, 2, 2), Bytes(extra)}));
+    odd.push_back(join({patched(patched(entryWithAttributes(), 42, 4, 0xA6 + extra), 68, 2, 3), Bytes(extra)}));
   for (const Bytes& lying : odd) {
     AppleDouble untouched = read(systemFile(lying, letters("fork")));
     untouched.setResourceFork({});
@@ -166,7 +158,7 @@ TEST(AppleDouble, IsBlankWhenNothingIsWorthKeeping) {
   EXPECT_TRUE(read(systemFile(Bytes(40), {})).isBlank());
   EXPECT_FALSE(read(systemFile(patched(noFinderInfo, 31, 1, 1), {})).isBlank());
   EXPECT_FALSE(read(systemFile(patched(Bytes(40), 39, 1, 1), {})).isBlank());
-  EXPECT_FALSE(read(systemFile(entryWithAttribute(), blankFork())).isBlank());
+  EXPECT_FALSE(read(systemFile(entryWithAttributes(), blankFork())).isBlank());
   EXPECT_FALSE(read(systemFile(noFinderInfo, *fork.serialize())).isBlank());
   EXPECT_FALSE(read(systemFile(noFinderInfo, letters("no fork"))).isBlank());
   EXPECT_FALSE(read(stranger).isBlank());
@@ -199,9 +191,19 @@ TEST(AppleDouble, RefusesAFileWithAFault) {
     EXPECT_NE(bad, good) << row.what;
     EXPECT_FALSE(AppleDouble::parse(bad).ok()) << row.what;
   }
-  for (std::size_t length = 0; length < good.size(); ++length)
-    EXPECT_FALSE(AppleDouble::parse(ByteView(good).first(length)).ok()) << length;
+  for (const Bytes& whole : {good, join({start, zeroFiller, hex("0000")})})
+    for (std::size_t length = 0; length < whole.size(); ++length)
+      EXPECT_FALSE(AppleDouble::parse(ByteView(whole).first(length)).ok()) << length;
 
+  EXPECT_TRUE(AppleDouble::parse(patched(systemFile(noFinderInfo, {}), 42, 4, 60)).ok()) << "no bytes, no overlap";
+
+  const auto withEntries = [](std::uint16_t count) {
+    return join({start, zeroFiller, patched(Bytes(2), 0, 2, count), Bytes(std::size_t{12} * count)});
+  };
+  EXPECT_EQ(AppleDouble::parse(withEntries(limits::companionEntries + 1)).error().kind(), ErrorKind::TooLarge);
+  AppleDouble full = read(withEntries(limits::companionEntries));
+  full.setResourceFork(letters("x"));
+  EXPECT_EQ(full.serialize().error().kind(), ErrorKind::TooLarge);
   AppleDouble tooLong;
   tooLong.setResourceFork(Bytes(limits::iconFileBytes));
   EXPECT_EQ(tooLong.serialize().error().kind(), ErrorKind::TooLarge);

@@ -89,6 +89,7 @@ TEST(PackedChannels, UnpacksWhatOthersWrite) {
   EXPECT_EQ(*unpackColorChannels(hex("99010101 FF010102 00010103 7F010104"), 4), wanted) << "4 bytes a pixel";
   // 12 bytes that are packed data all the same.
   EXPECT_EQ(*unpackColorChannels(hex("08 010203040506070809 8007"), 4), hex("00010509 00020607 00030707 00040807"));
+  EXPECT_EQ(*unpackColorChannels(hex("06 01020304050607 8204 0000"), 4), hex("00060102 00030405 00060782 00040000"));
   EXPECT_EQ(unpackColorChannels({}, 0)->size(), 0U);
   EXPECT_EQ(*unpackArgbChannels(hex("01 0A0B 01 1A1B 01 2A2B 01 3A3B 00"), 2), hex("0A1A2A3A 0B1B2B3B"));
 }

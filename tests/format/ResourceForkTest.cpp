@@ -3,6 +3,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 #include "format/Fixtures.h"
 #include "foundation/base/ByteWriter.h"
 #include "foundation/base/Limits.h"
@@ -32,6 +34,18 @@ std::string describe(const ResourceFork& fork) {
     text += each.type.toDisplayText() + " " + std::to_string(each.id) + " '" + each.name + "' " +
             std::to_string(each.attributes) + " " + std::string(each.data.begin(), each.data.end()) + "\n";
   return text;
+}
+
+// A fork of ready parts; the map's first 16 bytes are left to the reader to ignore.
+Bytes laidOut(std::size_t dataOffset, const Bytes& data, std::size_t mapOffset, const Bytes& map) {
+  ByteWriter header;
+  for (const std::size_t value : {dataOffset, mapOffset, data.size(), map.size()})
+    header.writeU32(static_cast<std::uint32_t>(value));
+  Bytes fork = header.bytes();
+  fork.resize(std::max(dataOffset + data.size(), mapOffset + map.size()));
+  std::copy(data.begin(), data.end(), fork.begin() + static_cast<std::ptrdiff_t>(dataOffset));
+  std::copy(map.begin() + 16, map.end(), fork.begin() + static_cast<std::ptrdiff_t>(mapOffset + 16));
+  return fork;
 }
 
 // Two types, three resources, one name. The map begins at 256 + 23 = 279, its type list at 307, its references at 325
@@ -74,23 +88,18 @@ TEST(ResourceFork, ReadsForksLaidOutOtherwise) {
   const std::string same = describe(*ResourceFork::parse(good));
   const Bytes data(good.begin() + 256, good.begin() + 279);
   const Bytes map(good.begin() + 279, good.end());
-  const auto header = [&](std::size_t dataOffset, std::size_t mapOffset) {
-    ByteWriter writer;
-    for (const std::size_t value : {dataOffset, mapOffset, data.size(), map.size()})
-      writer.writeU32(static_cast<std::uint32_t>(value));
-    return std::move(writer).take();
-  };
   const std::pair<const char*, Bytes> rows[] = {
-      {"map before data", join({header(16 + map.size(), 16), map, data})},
-      {"data right behind the header", join({header(16, 16 + data.size()), data, map})},
-      {"gaps and a tail", join({header(20, 30 + data.size()), Bytes(4, 1), data, Bytes(10, 1), map, Bytes(5, 1)})},
-      {"header copy zero", join({header(256, 279), Bytes(240), data, Bytes(16), Bytes(map.begin() + 16, map.end())})},
+      {"map before data", laidOut(16 + map.size(), data, 16, map)},
+      {"map in the reserved bytes", laidOut(256, data, 20, map)},
+      {"data right behind the header", laidOut(16, data, 300, map)},
+      {"gaps, a tail, header copy zero", join({laidOut(260, data, 300, map), Bytes(5, 1)})},
       {"header copy different, handles rubbish", patched(patched(good, 279, 4, 0xDEADBEEF), 333, 4, 0xDEADBEEF)},
   };
   for (const auto& [what, bytes] : rows) {
     const auto fork = ResourceFork::parse(bytes);
     ASSERT_TRUE(fork.ok()) << what;
     EXPECT_EQ(describe(*fork), same) << what;
+    EXPECT_EQ(written(*fork), good) << what;
   }
   const auto unnamed = ResourceFork::parse(patched(good, 361, 1, 0));
   ASSERT_TRUE(unnamed.ok());
@@ -141,19 +150,14 @@ TEST(ResourceFork, RefusesAForkWithAFault) {
   };
   const Row rows[] = {
       {"data offset past the end", 0, 4, 0xFFFFFFFF},
-      {"data on the header", 0, 4, 0},
       {"data runs past the end", 8, 4, 0xFFFFFF00},
       {"data overlaps the map", 8, 4, 24},
-      {"map on the header", 4, 4, 8},
       {"map offset one too large", 4, 4, 280},
       {"map too short", 12, 4, 27},
-      {"type list on the map's header", 303, 2, 27},
       {"type list outside", 303, 2, 0x7FFF},
       {"name list outside", 305, 2, 0x7FFF},
       {"too many types for the map", 307, 2, 0xFFFE},
-      {"type without resources", 313, 2, 0xFFFF},
       {"too many references for the map", 313, 2, 6},
-      {"more references than the limit", 313, 2, 0xFFFE},
       {"references inside the type list", 315, 2, 17},
       {"references outside the map", 315, 2, 0xFFFF},
       {"name outside the map", 351, 2, 6},
@@ -173,6 +177,43 @@ TEST(ResourceFork, RefusesAForkWithAFault) {
     EXPECT_FALSE(ResourceFork::parse(ByteView(good).first(length)).ok()) << length;
 }
 
+TEST(ResourceFork, ReadsAsManyResourcesAsTheLimitSays) {
+  for (const std::size_t count : {limits::forkResources, limits::forkResources + 1}) {
+    ByteWriter map;
+    map.writeZeros(24);
+    for (const std::size_t value : {std::size_t{28}, std::size_t{38}, std::size_t{0}})
+      map.writeU16(static_cast<std::uint16_t>(value));
+    map.writeCode("STR ");
+    map.writeU16(static_cast<std::uint16_t>(count - 1));
+    map.writeU16(10);
+    for (std::uint32_t i = 0; i < count; ++i) {
+      map.writeU32(i << 16 | 0xFFFF);
+      map.writeU32(4 * i);
+      map.writeU32(0);
+    }
+    const auto fork = ResourceFork::parse(laidOut(16, Bytes(4 * count), 16 + 4 * count, map.bytes()));
+    EXPECT_EQ(fork.ok(), count == limits::forkResources);
+  }
+}
+
+TEST(ResourceFork, RefusesPartsOnTopOfOthersThoughTheyReadWell) {
+  ResourceFork one;
+  one.set(icon(Bytes(50, 'x')));
+  const Bytes good = written(one);
+  const Bytes map(good.begin() + 310, good.end());
+  const Bytes data(good.begin() + 256, good.begin() + 310);
+  EXPECT_TRUE(ResourceFork::parse(laidOut(70, data, 20, map)).ok());
+  // The map's length, 50, serves as the resource's.
+  EXPECT_FALSE(ResourceFork::parse(laidOut(12, data, 66, map)).ok());
+  // The header serves as its own copy.
+  EXPECT_FALSE(ResourceFork::parse(laidOut(50, data, 0, map)).ok());
+  // The fork's attributes serve as the count of types; the references lie where they may.
+  EXPECT_FALSE(ResourceFork::parse(laidOut(70, data, 20, patched(patched(map, 24, 2, 22), 28, 4, 16))).ok());
+  // The type's row serves as the reference too: no name, no attributes, data at 2.
+  const Bytes row = patched(patched(map, 30, 4, 0x6963FFFF), 34, 4, 2);
+  EXPECT_FALSE(ResourceFork::parse(laidOut(70, patched(patched(data, 0, 2, 0), 2, 4, 48), 20, row)).ok());
+}
+
 TEST(ResourceFork, RefusesToWriteWhatOffsetsCannotReach) {
   ResourceFork fork;
   const Bytes huge(limits::writtenFamilyBytes + 8192);
@@ -187,6 +228,11 @@ TEST(ResourceFork, RefusesToWriteWhatOffsetsCannotReach) {
   EXPECT_EQ(ResourceFork::parse(written(named))->resources()[0].name.size(), 255U);
   named.set({"STR ", 2, 0, std::string(256, 'n'), {}});
   EXPECT_FALSE(named.serialize().ok());
+
+  for (std::int16_t id = 2; id <= 256; ++id) named.set({"STR ", id, 0, std::string(255, 'n'), {}});
+  EXPECT_TRUE(named.serialize().ok());
+  named.set({"STR ", 257, 0, "n", {}});
+  EXPECT_EQ(named.serialize().error().kind(), ErrorKind::TooLarge);
 
   ResourceFork many;
   for (std::int16_t id = 0; id < 5458; ++id) many.set({"STR ", id, 0, "", {}});

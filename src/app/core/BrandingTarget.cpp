@@ -27,8 +27,8 @@ Result<void> checkTarget(const std::filesystem::path& resolvedPath) {
 
 std::vector<std::string> brandFileNames(const ForkStore& forks, const std::string& backupName) {
   std::vector<std::string> names{backupName};
-  for (const char* spelling : iconFileNames) {
-    names.emplace_back(spelling);
+  for (const std::string& spelling : iconFileNames) {
+    names.push_back(spelling);
     for (std::string& beside : forks.filesBeside(spelling)) names.push_back(std::move(beside));
   }
   return names;

@@ -3,6 +3,7 @@
 
 #include <QColor>
 #include <QString>
+#include <optional>
 #include <string>
 
 #include "composition/core/LabelValues.h"
@@ -15,8 +16,9 @@ namespace quorvane {
 /// Everything that makes up a branded icon save the picture it is drawn on, in the words that people choose it by.
 struct Look {
   QString label;             ///< null: no label
-  std::string fontName;      ///< family, or family and style; empty: the system font
-  double fontSize = 50;      ///< on a canvas of 128 units; the label shrinks until it fits
+  std::string fontName;      ///< family, or family and style; empty: the system font, bold where it can be
+  /// On a canvas of 128 units; the label shrinks until it fits the icon. None: as large as fits the front of a folder.
+  std::optional<double> fontSize;
   QColor color = Qt::black;
   int effectTag = 0;         ///< EffectPresets.h
   float lineSpacingFactor = 1;
@@ -27,7 +29,7 @@ struct Look {
 };
 
 /// The font of a name: a family, or a family followed by one of its styles, whatever the letters' case. Empty gives the
-/// system font. Fails on a name that no installed font has. Needs a QGuiApplication.
+/// system font, bold where it can be: thin strokes do not survive small icons. Fails on a name that no installed font has. Needs a QGuiApplication.
 Result<LabelFont> labelFontNamed(const std::string& name, double size);
 
 /// The label drawn on the picture, which has no fewer than 512 pixels a side then. Needs a QGuiApplication.

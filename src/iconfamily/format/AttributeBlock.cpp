@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "iconfamily/format/AttributeBlock.h"
 
-#include <algorithm>
 #include <utility>
 #include <vector>
 
@@ -52,18 +51,18 @@ std::optional<std::vector<OffsetField>> offsetFields(ByteView entry, std::uint32
   if (!note(*values, *valuesLength)) return std::nullopt;
 
   const auto count = AttributeBlock::countIn(entry);
-  if (!count || !reader.seek(firstAttribute)) return std::nullopt;
+  if (!count) return std::nullopt;
+  std::size_t begin = firstAttribute;
   for (std::uint16_t i = 0; i < *count; ++i) {
-    const std::size_t begin = reader.position();
+    if (!reader.seek(begin)) return std::nullopt;
     const auto offset = reader.readU32();
     const auto length = reader.readU32();
     const auto flags = reader.readU16();
     const auto nameLength = reader.readU8();
     if (!offset || !length || !flags || !nameLength || !reader.skip(*nameLength)) return std::nullopt;
-    const std::size_t next = begin + (reader.position() - begin + 3) / 4 * 4;
+    const std::size_t padded = (reader.position() - begin + 3) / 4 * 4;
     if (!reader.seek(begin) || !note(*offset, *length)) return std::nullopt;
-    // The padding of the last one may be missing.
-    if (!reader.seek(std::min(next, reader.size()))) return std::nullopt;
+    begin += padded;
   }
   return fields;
 }

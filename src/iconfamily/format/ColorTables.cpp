@@ -48,22 +48,15 @@ constexpr std::array<Rgb, 256> makeSystemColorTable() {
 constexpr std::array<Rgb, 256> systemTable = makeSystemColorTable();
 static_assert(blackIndex == 255);
 
-constexpr std::array<Rgb, 16> smallTable{{{0xFF, 0xFF, 0xFF},
-                                          {0xFC, 0xF3, 0x05},
-                                          {0xFF, 0x64, 0x02},
-                                          {0xDD, 0x08, 0x06},
-                                          {0xF2, 0x08, 0x84},
-                                          {0x46, 0x00, 0xA5},
-                                          {0x00, 0x00, 0xD4},
-                                          {0x02, 0xAB, 0xEA},
-                                          {0x1F, 0xB7, 0x14},
-                                          {0x00, 0x64, 0x11},
-                                          {0x56, 0x2C, 0x05},
-                                          {0x90, 0x71, 0x3A},
-                                          {0xC0, 0xC0, 0xC0},
-                                          {0x80, 0x80, 0x80},
-                                          {0x40, 0x40, 0x40},
-                                          {0x00, 0x00, 0x00}}};
+constexpr Rgb rgb(std::uint32_t value) {
+  return {static_cast<std::uint8_t>(value >> 16), static_cast<std::uint8_t>(value >> 8),
+          static_cast<std::uint8_t>(value)};
+}
+
+constexpr std::array<Rgb, 16> smallTable{rgb(0xFFFFFF), rgb(0xFCF305), rgb(0xFF6402), rgb(0xDD0806),
+                                         rgb(0xF20884), rgb(0x4600A5), rgb(0x0000D4), rgb(0x02ABEA),
+                                         rgb(0x1FB714), rgb(0x006411), rgb(0x562C05), rgb(0x90713A),
+                                         rgb(0xC0C0C0), rgb(0x808080), rgb(0x404040), rgb(0x000000)};
 
 // A component in 1/255. A value that is an 8-bit sample but for the rounding of k / 255.0f becomes that sample: then
 // all distances are whole numbers, and entries that are equally near come out equal.

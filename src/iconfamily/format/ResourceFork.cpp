@@ -86,7 +86,6 @@ class MapReader {
       const auto lastReference = reader.readU16();
       const auto offset = reader.readU16();
       if (!type || !lastReference || !offset) return fault("type list outside the map");
-      if (*lastReference == noneMinusOne) return fault("type without resources");
       if (*offset < typeListLength) return fault("references inside the type list");
       TRY_VOID(readReferences(*type, _typeList + *offset, *lastReference + std::size_t{1}));
     }

@@ -41,7 +41,7 @@ class PartsWriter {
     std::vector<const Resource*> order;
     for (const TypeGroup& group : _groups) order.insert(order.end(), group.resources.begin(), group.resources.end());
     const auto largest = std::max_element(order.begin(), order.end(), [](const Resource* one, const Resource* other) {
-      return one->data.size() <= other->data.size();  // of equals the last
+      return one->data.size() < other->data.size();
     });
     std::rotate(largest, largest + 1, order.end());
 
