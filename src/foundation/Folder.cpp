@@ -60,7 +60,7 @@ Result<Folder::Parent> Folder::openParent(Access access) const {
   if (!handle.isOpen()) return Error::system(errno, "cannot open the folder above").at(_path);
   const struct stat self = status();
   const struct stat above = TRY(calls::status(handle.get(), "cannot open the folder above"));
-  if (calls::isSameItem(self, above)) return Error(ErrorKind::NotFound, "has no folder above it").at(_path);
+  if (calls::isSameItem(self, above)) return Error(ErrorKind::Unsupported, "has no folder above it").at(_path);
   fs::path path = resolvedPath(handle.get(), _path.parent_path());
   Folder parent = TRY(_make(std::move(handle), std::move(path), access, patience));
   std::string name = TRY(nameInParent(parent, self, resolvedPath(_handle.get(), _path).filename().string()));

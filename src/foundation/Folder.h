@@ -47,7 +47,7 @@ class Folder {
   static Result<Folder> open(const std::filesystem::path& path, Access access,
                              std::chrono::milliseconds wait = patience);
   /// The folder that holds this one (same access rules), for the companion of the folder itself; and the name that this
-  /// folder has there. Fails for the root of the file system.
+  /// folder has there. ErrorKind::Unsupported for the root of the whole file system.
   struct Parent;
   [[nodiscard]] Result<Parent> openParent(Access access) const;
   /// A folder directly inside this one. Never through a link.

@@ -60,13 +60,12 @@ class TemporaryFile {
     return {};
   }
 
-  /// Takes its final name; what stands there is replaced only when that is said.
-  Result<void> moveTo(const std::string& name, bool replacing) {
-    int failed = ::renameat2(_folder, _name.c_str(), _folder, name.c_str(), replacing ? 0 : RENAME_NOREPLACE);
-    if (failed != 0 && !replacing && (errno == EINVAL || errno == ENOSYS)) {
+  /// Takes its final name, under which nothing may stand.
+  Result<void> moveTo(const std::string& name) {
+    int failed = ::renameat2(_folder, _name.c_str(), _folder, name.c_str(), RENAME_NOREPLACE);
+    if (failed != 0 && (errno == EINVAL || errno == ENOSYS)) {
       // A file system without exclusive renaming: a look must do.
-      struct stat info {};
-      if (::fstatat(_folder, name.c_str(), &info, AT_SYMLINK_NOFOLLOW) == 0) return changedMeanwhile();
+      if (_identity(name) != Identity{}) return changedMeanwhile();
       failed = ::renameat(_folder, _name.c_str(), _folder, name.c_str());
     }
     if (failed != 0) return errno == EEXIST ? changedMeanwhile() : Error::system(errno, cannotWrite);
@@ -74,8 +73,51 @@ class TemporaryFile {
     return {};
   }
 
+  /// Takes the place of the file that stands under its final name, if that is the one that is meant. `isMeant` is asked
+  /// about a name. The two change places first, so that the answer holds for the very file that goes; one that somebody
+  /// else put there in the last moment gets its place back. (Killed just then, it would stay under our temporary name.)
+  template <typename IsMeant>
+  Result<void> replace(const std::string& name, const IsMeant& isMeant) {
+    TRY_VOID(isMeant(name));
+    auto placed = _identity(_name);
+    if (!_exchange(name)) {
+      if (errno == ENOENT) return changedMeanwhile();
+      if (errno != EINVAL && errno != ENOSYS) return Error::system(errno, cannotWrite);
+      // A file system that cannot exchange: the look before must do.
+      if (::renameat(_folder, _name.c_str(), _folder, name.c_str()) != 0) return Error::system(errno, cannotWrite);
+      _exists = false;
+      return {};
+    }
+    const Result<void> meant = isMeant(_name);
+    if (meant.ok()) return {};  // what was replaced goes with this object
+    // Again until what comes out is what was put in: whatever comes out else is newer and belongs there.
+    for (auto taken = _identity(_name); _exchange(name);) {
+      const auto next = _identity(_name);
+      if (next == placed) break;
+      placed = taken;
+      taken = next;
+    }
+    return meant;
+  }
+
  private:
+  /// Which file stands under a name; all zero when none does.
+  struct Identity {
+    dev_t device = 0;
+    ino_t inode = 0;
+    bool operator==(const Identity&) const = default;
+  };
+
   TemporaryFile() = default;
+
+  [[nodiscard]] Identity _identity(const std::string& name) const {
+    struct stat info {};
+    if (::fstatat(_folder, name.c_str(), &info, AT_SYMLINK_NOFOLLOW) != 0) return {};
+    return {info.st_dev, info.st_ino};
+  }
+  [[nodiscard]] bool _exchange(const std::string& name) const {
+    return ::renameat2(_folder, _name.c_str(), _folder, name.c_str(), RENAME_EXCHANGE) == 0;
+  }
 
   int _folder = -1;
   std::string _name;
@@ -97,22 +139,18 @@ Result<WriteOutcome> Folder::_replace(const std::string& name, ByteView bytes, c
   TRY_VOID(_mayChange(cannotWrite, name));
   const auto here = [&](const Result<void>& result) { return result.ok() ? result : result.error().at(pathOf(name)); };
   const auto old = TRY(_openPlain(name, cannotWrite));
-  // Whether the name still leads to the file (or to nothing) that it led to, with the content that the caller read.
-  const auto isAsBefore = [&]() -> Result<void> {
-    const auto now = TRY(statusOf(name));
-    if (now.has_value() != old.has_value()) return changedMeanwhile();
-    if (!old) return {};
+  // Whether a name leads to the file that stood there when we began, with the content that the caller read.
+  const auto isAsBefore = [&](const std::string& which) -> Result<void> {
+    const auto now = TRY(statusOf(which));
+    if (!now) return changedMeanwhile();
     const struct stat opened = TRY(calls::status(old->get(), cannotWrite));
     if (!calls::isSameItem(opened, *now)) return changedMeanwhile();
     if (asRead != nullptr && !TRY(calls::holds(old->get(), **asRead, cannotWrite))) return changedMeanwhile();
     return {};
   };
-  if (asRead != nullptr) {
-    if (asRead->has_value() != old.has_value()) return changedMeanwhile().at(pathOf(name));
-    TRY_VOID(here(isAsBefore()));
-  }
-
+  if (asRead != nullptr && asRead->has_value() != old.has_value()) return changedMeanwhile().at(pathOf(name));
   if (old) {
+    TRY_VOID(here(isAsBefore(name)));
     const auto same = calls::holds(old->get(), bytes, cannotWrite);
     if (!same.ok()) return same.error().at(pathOf(name));
     if (*same) return WriteOutcome::Unchanged;
@@ -131,8 +169,7 @@ Result<WriteOutcome> Folder::_replace(const std::string& name, ByteView bytes, c
     TRY_VOID(old ? ownership::copyProperties(old->get(), file.handle()) : ownership::giveToFolder(file.handle(), own));
     TRY_VOID(file.finish());
     TRY_VOID(readBack(file.name()));
-    TRY_VOID(isAsBefore());
-    return file.moveTo(name, old.has_value());
+    return old ? file.replace(name, isAsBefore) : file.moveTo(name);
   };
   TRY_VOID(here(build()));
   TRY_VOID(flush());
@@ -182,7 +219,7 @@ Result<void> Folder::_copy(const std::string& name, const Folder& in, const std:
     if (!TRY(calls::holds(file.handle(), bytes, what)))
       return Error(ErrorKind::System, what + ": what was read back differs");
     TRY_VOID(file.finish());
-    TRY_VOID(file.moveTo(as, false));
+    TRY_VOID(file.moveTo(as));
     return calls::flush(in._handle.get(), what);
   };
   const auto built = build();

@@ -2,6 +2,7 @@
 #include "iconfamily/Companion.h"
 
 #include <algorithm>
+#include <cerrno>
 
 #include "foundation/base/Limits.h"
 
@@ -22,6 +23,17 @@ Result<Companion> read(const Folder& folder, const std::string& file) {
   if (!content.ok()) return content.error().at(folder.pathOf(file));
   companion.content = std::move(*content);
   return companion;
+}
+
+bool isNotOurs(const Error& error) {
+  switch (error.kind()) {
+    case ErrorKind::InvalidInput:
+    case ErrorKind::TooLarge:
+    case ErrorKind::Refused:
+      return true;
+    default:
+      return error.systemCode() == EACCES || error.systemCode() == EPERM;
+  }
 }
 
 Result<void> write(Folder& folder, const std::string& file, const Companion& companion) {

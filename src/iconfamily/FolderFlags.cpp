@@ -22,12 +22,13 @@ void note(const Error& error) {
   logMessage("iconfamily", error.message());
 }
 
-// What a companion of the folder says; nothing when it cannot be read.
-std::optional<FinderInfo> infoSaidBy(const Folder& holder, const std::string& file) {
+// What a companion of the folder says; one that is not ours says nothing.
+Result<std::optional<FinderInfo>> infoSaidBy(const Folder& holder, const std::string& file) {
   const auto kept = companion::read(holder, file);
   if (kept.ok()) return kept->content.finderInfo();
+  if (!companion::isNotOurs(kept.error())) return kept.error();
   note(kept.error());
-  return std::nullopt;
+  return std::optional<FinderInfo>();
 }
 
 Result<void> changeCompanion(Folder& holder, const std::string& file, FlagChange change) {
@@ -50,10 +51,11 @@ Error noPlace(const Folder& folder, const std::optional<Error>& attribute, const
 Result<FinderInfo> AppleDoubleForkStore::readFolderInfo(const Folder& folder) const {
   std::vector<FinderInfo> said;
   const auto own = companion::ofFolder(folder, Access::Read);
+  if (!own.ok() && !companion::isNotOurs(own.error())) return own.error();
   if (own.ok() && own->above) {
-    if (const auto info = infoSaidBy(*own->above, own->file)) said.push_back(*info);
+    if (const auto info = TRY(infoSaidBy(*own->above, own->file))) said.push_back(*info);
   }
-  if (const auto info = infoSaidBy(folder, companion::insideName)) said.push_back(*info);
+  if (const auto info = TRY(infoSaidBy(folder, companion::insideName))) said.push_back(*info);
   if (_usesAttributes()) {
     if (const auto value = TRY(folder.attribute(infoAttribute))) said.emplace_back(*value);
   }
@@ -92,12 +94,13 @@ Result<std::optional<FolderInfoPlace>> AppleDoubleForkStore::changeFolderFlags(F
   }
 
   const auto own = companion::ofFolder(folder, Access::Read);
+  if (!own.ok() && !place && !companion::isNotOurs(own.error())) return own.error();
   const bool belongsAbove = own.ok() && own->above.has_value();
   // A companion that exists must not say otherwise than the attribute; one is made only where nothing else holds the
   // flags. `changeIt` opens for writing by itself: the folder above is not locked before it is needed.
   const auto visit = [&](const Folder& holder, const std::string& file, FolderInfoPlace kind, bool belongsHere,
                          const auto& changeIt) -> Result<void> {
-    const auto info = infoSaidBy(holder, file);
+    const auto info = TRY(infoSaidBy(holder, file));
     const bool make = belongsHere && set != 0 && !place;
     if (info ? companion::withFlags(*info, set, clear) == *info : !make) {
       if (info && set != 0 && !place) place = kind;
@@ -106,7 +109,7 @@ Result<std::optional<FolderInfoPlace>> AppleDoubleForkStore::changeFolderFlags(F
     const Result<void> changed = changeIt();
     if (changed.ok()) {
       if (set != 0 && !place) place = kind;
-    } else if (set == 0 || !place) {
+    } else if (!place) {
       return noPlace(folder, attributeError, changed.error());
     } else {
       note(changed.error());  // readers take the flags from where they were set

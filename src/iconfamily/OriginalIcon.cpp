@@ -42,10 +42,11 @@ Result<bool> keep(const Folder& folder, const std::string& name, const Folder& i
   return true;
 }
 
-// The same for a companion of the folder. Nothing is said of one that cannot be read: it is never changed.
+// The same for a companion of the folder. Nothing is said of one that is not ours: it is never changed.
 Result<void> keepFoldersCompanion(const Folder& holder, const std::string& file, const Folder& into, const char* key,
                                   OriginalState& state) {
-  if (!companion::read(holder, file).ok()) return {};
+  if (const auto found = companion::read(holder, file); !found.ok())
+    return companion::isNotOurs(found.error()) ? Result<void>() : found.error();
   state.setKept(key, TRY(keep(holder, file, into, key)));
   return {};
 }
@@ -94,7 +95,7 @@ Result<CompanionChange> wayBack(const Folder& holder, const std::string& file, c
   if (kept && isSameItem(holder, file, from, key)) return change;
   auto present = companion::read(holder, file);
   if (!present.ok()) {
-    // Nothing that we would have written.
+    if (!companion::isNotOurs(present.error())) return present.error();
     logMessage("iconfamily", present.error().message());
     return change;
   }
@@ -160,6 +161,7 @@ Result<void> AppleDoubleForkStore::saveOriginal(const Folder& folder, Folder& in
   }
   TRY_VOID(keepFoldersCompanion(folder, companion::insideName, into, insideKey, state));
   const auto own = companion::ofFolder(folder, Access::Read);
+  if (!own.ok() && !companion::isNotOurs(own.error())) return own.error();
   if (own.ok() && own->above) TRY_VOID(keepFoldersCompanion(*own->above, own->file, into, besideKey, state));
   state.setBytes(attributeKey, _usesAttributes() ? TRY(folder.attribute(infoAttribute)) : std::optional<Bytes>());
   TRY_VOID(into.writeFile(OriginalState::fileName, state.serialize()));
@@ -188,28 +190,33 @@ Result<void> AppleDoubleForkStore::restoreOriginal(Folder& folder, const Folder&
     if (info && !S_ISREG(info->st_mode)) return Error::refused("is no plain file").at(folder.pathOf(name));
     return {};
   };
+  struct KeptIconFile {
+    const IconFileKeys& keys;
+    bool file;
+    bool companion;
+    std::optional<Bytes> attribute;
+  };
+  std::vector<KeptIconFile> iconFiles;
   bool hadIconFile = false;
   for (const auto& each : iconFileKeys) {
-    hadIconFile = TRY(isKept(each.key)) || hadIconFile;
-    static_cast<void>(TRY(isKept(each.companionKey)));
-    static_cast<void>(TRY(state.bytes(each.attributeKey)));
     TRY_VOID(isFree(each.name));
     TRY_VOID(isFree(each.companion));
+    const bool file = TRY(isKept(each.key));
+    const bool companion = TRY(isKept(each.companionKey));
+    iconFiles.push_back({each, file, companion, TRY(state.bytes(each.attributeKey))});
+    hadIconFile = hadIconFile || file;
   }
   const bool hadInside = state.tellsOf(insideKey) && TRY(isKept(insideKey));
   const bool hadBeside = state.tellsOf(besideKey) && TRY(isKept(besideKey));
   const auto attribute = TRY(state.bytes(attributeKey));
 
   const auto restoreFiles = [&]() -> Result<void> {
-    for (const auto& each : iconFileKeys) {
-      TRY_VOID(giveBack(folder, each.companion, from, each.companionKey, *isKept(each.companionKey)));
-      const bool kept = *isKept(each.key);
-      TRY_VOID(giveBack(folder, each.name, from, each.key, kept));
-      if (!kept || !_usesAttributes()) continue;
-      const auto wanted = TRY(state.bytes(each.attributeKey));
-      if (TRY(folder.attributeOf(each.name, infoAttribute)) == wanted) continue;
-      TRY_VOID(wanted ? folder.setAttributeOf(each.name, infoAttribute, *wanted)
-                      : folder.removeAttributeOf(each.name, infoAttribute));
+    for (const auto& [keys, file, companion, wanted] : iconFiles) {
+      TRY_VOID(giveBack(folder, keys.companion, from, keys.companionKey, companion));
+      TRY_VOID(giveBack(folder, keys.name, from, keys.key, file));
+      if (!file || !_usesAttributes() || TRY(folder.attributeOf(keys.name, infoAttribute)) == wanted) continue;
+      TRY_VOID(wanted ? folder.setAttributeOf(keys.name, infoAttribute, *wanted)
+                      : folder.removeAttributeOf(keys.name, infoAttribute));
     }
     return {};
   };
@@ -219,7 +226,7 @@ Result<void> AppleDoubleForkStore::restoreOriginal(Folder& folder, const Folder&
       TRY_VOID(giveCompanionBack(folder, companion::insideName, from, insideKey, hadInside));
     if (!state.tellsOf(besideKey)) return {};
     const auto own = companion::ofFolder(folder, Access::Read);
-    if (!own.ok()) return hadBeside ? Result<void>(own.error()) : Result<void>();
+    if (!own.ok()) return !hadBeside && companion::isNotOurs(own.error()) ? Result<void>() : own.error();
     if (!own->above || TRY(wayBack(*own->above, own->file, from, besideKey, hadBeside)).way == WayBack::Nothing)
       return {};
     auto writable = TRY(companion::ofFolder(folder, Access::Write));

@@ -2,10 +2,12 @@
 // Several writers at once, and writers that die.
 #include <fcntl.h>
 #include <gtest/gtest.h>
+#include <sys/mman.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <atomic>
 #include <csignal>
 #include <random>
 #include <thread>
@@ -128,6 +130,42 @@ TEST(FolderLock, AKilledWriterLeavesTheOldOrTheNewFileAndTheNextOneSweeps) {
     EXPECT_LE(folder.names()->size(), 1U) << "round " << round;
   }
   EXPECT_GT(leftovers, 10) << "the loop must meet writers at work";
+}
+
+// Programs that know nothing of our lock change the file as well: an edit based on what they have replaced is refused.
+TEST(FolderLock, EditsLoseNoChangeOfOtherPrograms) {
+  TemporaryFolder root;
+  test::writeFile(root / "f", "1");
+  const auto number = [&] {
+    return std::atoi(std::string(reinterpret_cast<char*>(test::readFile(root / "f").data()), 6).c_str());
+  };
+  Folder folder = Folder::open(root.path(), Access::Write).value();
+  void* const shared = ::mmap(nullptr, sizeof(int), PROT_READ | PROT_WRITE, MAP_SHARED | MAP_ANONYMOUS, -1, 0);
+  std::atomic<int>& lost = *new (shared) std::atomic<int>(0);
+  const pid_t other = test::startChild([&] {
+    for (int last = 100'000;; ++last) {
+      test::writeFile(root / "theirs", std::to_string(last));
+      fs::rename(root / "theirs", root / "f");
+      std::this_thread::sleep_for(last % 3 == 0 ? 30ms : 500us);  // sometimes long enough for a whole write
+      if (number() >= last) continue;
+      std::this_thread::sleep_for(20ms);  // it may be about to get its place back
+      if (number() < last) ++lost;
+    }
+  });
+  int written = 0, refused = 0;
+  const auto end = std::chrono::steady_clock::now() + 10s;
+  while ((written < 20 || refused < 20) && std::chrono::steady_clock::now() < end) {
+    const auto before = folder.readFile("f", 100).value();
+    Bytes edited = before.value();
+    edited.resize(6);
+    for (const char letter : " edit " + std::to_string(written)) edited.push_back(static_cast<std::uint8_t>(letter));
+    const auto done = folder.writeFile("f", edited, before);
+    ++(done.ok() ? written : refused);
+  }
+  ::kill(other, SIGKILL);
+  ::waitpid(other, nullptr, 0);
+  EXPECT_TRUE(written >= 5 && refused >= 5) << written << " written, " << refused << " refused: no race was met";
+  EXPECT_EQ(lost.load(), 0);
 }
 
 // Somebody swaps the folder for a link, and the file in it for another link, while we write.
