@@ -5,10 +5,8 @@ import shutil
 import subprocess
 import unittest
 
-from support import (BACKUP, ICON, LABEL, EndToEndTest, can_store_finder_info, family_file, plant_custom_icon, read,
-                     tree, write)
-
-FOREIGN = family_file(("is32", b"\x81\x40" * 6), ("s8mk", b"\xff" * 256))
+from support import (BACKUP, FOREIGN, ICON, LABEL, EndToEndTest, can_store_finder_info, plant_custom_icon, read, tree,
+                     write)
 
 
 class UndoTest(EndToEndTest):
