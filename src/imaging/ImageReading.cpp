@@ -58,6 +58,8 @@ Result<BitmapImageRep> readWithInstalledReaders(ByteView bytes) {
   reader.setDevice(&buffer);
 
   const QByteArray format = reader.format();
+  if (format.isEmpty() && buffer.data().startsWith("8BPS"))
+    return Error::invalidInput("layered pictures (PSD) are not read; save it as PNG or TIFF");
   if (format.isEmpty()) return Error::invalidInput("not a picture that can be read");
   // Icon families are read by a decoder of ours, elsewhere: this one takes wrong colours for right ones.
   if (format == "icns") return Error::invalidInput("an icon family, not a picture");

@@ -97,6 +97,7 @@ class PngDecoder {
                                 static_cast<int>(sizeof ignoredChunks / 5));
 #ifdef FUZZING_BUILD_MODE_UNSAFE_FOR_PRODUCTION
     png_set_crc_action(_png, PNG_CRC_QUIET_USE, PNG_CRC_QUIET_USE);
+    png_set_option(_png, PNG_IGNORE_ADLER32, PNG_OPTION_ON);
 #endif
     png_read_info(_png, _info);
   }

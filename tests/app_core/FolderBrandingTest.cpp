@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/core/FolderBranding.h"
 
+#include <fcntl.h>
 #include <sys/stat.h>
 
 #include "iconfamily/CustomIcon.h"
@@ -15,7 +16,7 @@ using Attributes = AppleDoubleForkStore::Attributes;
 
 class FolderBrandingTest : public test::BrandingFixture {};
 INSTANTIATE_TEST_SUITE_P(, FolderBrandingTest, ::testing::Values(Attributes::Use, Attributes::Ignore),
-                         [](const auto& info) { return info.param == Attributes::Use ? "Attributes" : "Companions"; });
+                         [](const auto& row) { return row.param == Attributes::Use ? "Attributes" : "Companions"; });
 
 TEST_P(FolderBrandingTest, ApplyKeepsTheFirstIconAndIsIdempotent) {
   ASSERT_EQ(*branding.writeIconWithImage(test::plainImage(Qt::red), folder), BrandingOutcome::Changed);
@@ -62,7 +63,7 @@ TEST_P(FolderBrandingTest, ResetLeavesTheTreeAsItWasBitForBit) {
   ASSERT_TRUE(branding.writeIconWithImage(test::plainImage(Qt::yellow), folder).ok());
   ASSERT_EQ(*branding.reset(folder), BrandingOutcome::Changed);
   EXPECT_EQ(picture(), before);
-  EXPECT_EQ(test::readFile(tree / "._Neighbour"), test::readFile(tree / "._Neighbour"));
+  EXPECT_EQ(test::readFile(tree / "._Neighbour"), (Bytes{'n', 'o', 't', ' ', 'o', 'u', 'r', 's'}));
   EXPECT_FALSE(fs::exists(tree / "._Invoices"));
   EXPECT_EQ(*branding.reset(folder), BrandingOutcome::NothingToRevert);
 }
@@ -112,7 +113,9 @@ TEST_P(FolderBrandingTest, PlantedThingsAreRefusedAndTheOldIconStays) {
       if (kind == 'l') fs::create_symlink(tree / "victim", planted);
       if (kind == 'L') fs::create_symlink(tree / "nowhere", planted);
       if (kind == 'd') fs::create_directories(planted / "inner");
-      if (kind == 'f') ASSERT_EQ(::mkfifo(planted.c_str(), 0600), 0);
+      if (kind == 'f') {
+        ASSERT_EQ(::mkfifo(planted.c_str(), 0600), 0);
+      }
       if (kind == 't') {
         // Plain files with nonsense in them: only what is read as ours matters.
         if (name != "._Icon\r") continue;
@@ -123,7 +126,9 @@ TEST_P(FolderBrandingTest, PlantedThingsAreRefusedAndTheOldIconStays) {
       ASSERT_FALSE(outcome.ok());
       EXPECT_NE(outcome.error().message().find(tree.path().filename().string()), std::string::npos);
       EXPECT_EQ(test::describeTree(tree.path()), before);
-      if (!isIcon) EXPECT_EQ(shownIcon(), former.data());
+      if (!isIcon) {
+        EXPECT_EQ(shownIcon(), former.data());
+      }
       EXPECT_TRUE(branding.status(folder).ok());
     }
   }

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "format/Fixtures.h"
 
+#include <string>
+
 #include "foundation/base/ByteWriter.h"
 
 namespace quorvane::test {

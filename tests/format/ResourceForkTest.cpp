@@ -3,6 +3,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 #include "format/Fixtures.h"
 #include "foundation/base/ByteWriter.h"
 #include "foundation/base/Limits.h"

@@ -124,6 +124,17 @@ TEST(ImageReading, AProfileThatSaysNothingUsefulIsNoReasonToFail) {
   expectPixel(*bitmap, 0, 0, {255, 0, 0, 255});
 }
 
+TEST(ImageReading, TheFuzzersSeedsAreAllGoodPictures) {
+  int count = 0;
+  for (const char* name : {"PngFuzz", "Jpeg2000Fuzz"})
+    for (const auto& entry : fs::directory_iterator(fs::path(QUORVANE_TEST_DATA) / "../../fuzz/corpus" / name)) {
+      const auto image = Image::imageWithContentsOfFile(entry.path());
+      EXPECT_TRUE(image.ok()) << (image.ok() ? "" : image.error().message());
+      ++count;
+    }
+  EXPECT_GE(count, 16);
+}
+
 TEST(ImageReading, TheContentDecidesNotTheName) {
   const test::TemporaryFolder folder;
   test::writeFile(folder / "picture.txt", written(testImage(), "png"));
@@ -150,6 +161,8 @@ TEST(ImageReading, WhatIsNoPictureFailsWithPathAndReason) {
   EXPECT_THAT(failure(folder / "empty.png").message(), HasSubstr("empty.png: file is empty"));
   test::writeFile(folder / "program.png", std::string("#!/bin/sh\nexit 0\n"));
   EXPECT_EQ(failure(folder / "program.png").kind(), ErrorKind::InvalidInput);
+  test::writeFile(folder / "layers.psd", std::string("8BPS") + std::string(60, '\0'));
+  EXPECT_THAT(failure(folder / "layers.psd").why(), HasSubstr("PSD"));
   fs::create_directory(folder / "folder.png");
   EXPECT_EQ(failure(folder / "folder.png").kind(), ErrorKind::Refused);
   ASSERT_EQ(::mkfifo((folder / "fifo.png").c_str(), 0600), 0);

@@ -7,6 +7,7 @@
 #include <cmath>
 
 #include "composition/core/GlyphOutlines.h"
+#include "composition/core/OutlineClip.h"
 
 namespace quorvane {
 
@@ -18,14 +19,21 @@ constexpr double glyphReach = 16;
 // Pixels an em that colour pictures are taken at: the bitmaps of the usual font lie at this size, unscaled.
 constexpr double pictureSize = 128;
 
+// How far outside the picture an outline may reach before it is clipped.
+constexpr double safeDistance = 2048;
+
+// How many times over outlines may cover the picture. A label covers it once or twice; thousands of squeezed lines
+// under a steep shear would cover it thousands of times, at a millisecond each.
+constexpr double mostCoverage = 256;
+
 /// The longest side of a unit square after the transform.
 double largestScale(const QTransform& transform) {
   return std::hypot(transform.m11(), transform.m12()) + std::hypot(transform.m21(), transform.m22());
 }
 
 /// The run without the glyphs that are out of reach: a label of a thousand lines has but a few in the picture.
-QGlyphRun visiblePart(const QGlyphRun& run, double em, const QTransform& toPixels, const QRectF& visible) {
-  const double reach = glyphReach * em * largestScale(toPixels);
+QGlyphRun visiblePart(const QGlyphRun& run, const QTransform& toPixels, const QRectF& visible) {
+  const double reach = glyphReach * run.rawFont().pixelSize() * largestScale(toPixels);
   const QRectF reachable = visible.adjusted(-reach, -reach, reach, reach);
   QList<quint32> indexes;
   QList<QPointF> positions;
@@ -66,17 +74,21 @@ QImage glyphPicture(const QRawFont& font, quint32 glyph, QRectF& place) {
 
 }  // namespace
 
-void GlyphShapes::add(const QGlyphRun& run, double em, const QTransform& toPixels, const QRectF& visible) {
-  const QGlyphRun part = visiblePart(run, em, toPixels, visible);
+void GlyphShapes::add(const QGlyphRun& run, const QTransform& toPixels, const QRectF& visible) {
+  const QGlyphRun part = visiblePart(run, toPixels, visible);
   if (part.isEmpty()) return;
-  QPainterPath path = hasColorLayers(part.rawFont()) ? QPainterPath() : glyphOutlines(part);
-  if (path.isEmpty()) {
-    addPictures(part, toPixels);
-    return;
+  const std::size_t before = _outlines.size();
+  if (!hasColorLayers(part.rawFont())) addOutlines(part, toPixels);
+  if (_outlines.size() == before) addPictures(part, toPixels);
+}
+
+void GlyphShapes::addOutlines(const QGlyphRun& run, const QTransform& toPixels) {
+  for (const QPainterPath& outline : glyphOutlines(run)) {
+    QPainterPath path = toPixels.map(outline);
+    const QRectF box = path.controlPointRect();
+    _bounds |= box;
+    _outlines.push_back({std::move(path), box});
   }
-  path = toPixels.map(path);
-  _bounds |= path.controlPointRect();
-  _outlines.push_back(std::move(path));
 }
 
 void GlyphShapes::addPictures(const QGlyphRun& run, const QTransform& toPixels) {
@@ -91,7 +103,8 @@ void GlyphShapes::addPictures(const QGlyphRun& run, const QTransform& toPixels) 
     QImage image = glyphPicture(font, indexes[i], place);
     QTransform transform = QTransform::fromTranslate(place.x(), place.y()) * QTransform::fromScale(scale, scale) *
                            QTransform::fromTranslate(positions[i].x(), positions[i].y()) * toPixels;
-    _bounds |= transform.mapRect(QRectF(QPointF(), place.size()));
+    const QRectF box = transform.mapRect(QRectF(QPointF(), place.size()));
+    _bounds |= box;
     // Shrunk by averaging first: what the painter does when it shrinks by more than half is to skip pixels.
     const QSizeF drawn(std::hypot(transform.m11(), transform.m12()) * image.width(),
                        std::hypot(transform.m21(), transform.m22()) * image.height());
@@ -103,20 +116,30 @@ void GlyphShapes::addPictures(const QGlyphRun& run, const QTransform& toPixels) 
                   transform;
       image = image.scaled(shrunk, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
     }
-    _pictures.push_back({std::move(image), transform});
+    _pictures.push_back({std::move(image), transform, box});
   }
 }
 
-void GlyphShapes::paint(QPainter& painter, const QColor& color) const {
-  painter.save();
+void GlyphShapes::paint(QImage& image, QPointF topLeft, const QColor& color) const {
+  const QRectF target(topLeft, QSizeF(image.size()));
+  const QRectF safe = target.adjusted(-safeDistance, -safeDistance, safeDistance, safeDistance);
+  QPainter painter(&image);
   painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
-  const QTransform base = painter.transform();
-  for (const QPainterPath& outline : _outlines) painter.fillPath(outline, color);
+  const QTransform toImage = QTransform::fromTranslate(-topLeft.x(), -topLeft.y());
+  painter.setTransform(toImage);
+  double areaLeft = mostCoverage * target.width() * target.height();
+  for (const Outline& outline : _outlines) {
+    const QRectF covered = outline.box & target;
+    if (covered.isEmpty()) continue;
+    areaLeft -= covered.width() * covered.height();
+    if (areaLeft < 0) break;
+    painter.fillPath(safe.contains(outline.box) ? outline.path : clippedOutline(outline.path, safe), color);
+  }
   for (const Picture& picture : _pictures) {
-    painter.setTransform(picture.toPixels * base);
+    if (!picture.box.intersects(target)) continue;
+    painter.setTransform(picture.toPixels * toImage);
     painter.drawImage(QPointF(), picture.image);
   }
-  painter.restore();
 }
 
 }  // namespace quorvane

@@ -8,8 +8,6 @@
 #include <QTransform>
 #include <vector>
 
-class QPainter;
-
 namespace quorvane {
 
 /// Glyphs ready to be drawn on a grid of pixels (y downwards): outlines and colour pictures, already transformed.
@@ -18,24 +16,30 @@ namespace quorvane {
 class GlyphShapes {
  public:
   /// Adds a run's glyphs, save those that surely draw nothing in `visible` (pixels).
-  /// `em` is the font size in the run's coordinates.
-  void add(const QGlyphRun& run, double em, const QTransform& toPixels, const QRectF& visible);
+  void add(const QGlyphRun& run, const QTransform& toPixels, const QRectF& visible);
 
   [[nodiscard]] bool isEmpty() const { return _outlines.empty() && _pictures.empty(); }
   /// Encloses all that is drawn, in pixels.
   [[nodiscard]] QRectF bounds() const { return _bounds; }
-  /// Draws everything with an opaque `color`; colour pictures keep their own.
-  void paint(QPainter& painter, const QColor& color) const;
+  /// Draws what falls into the picture (ARGB32_Premultiplied), whose top left lies at `topLeft`, with an opaque
+  /// `color`; colour pictures keep their own.
+  void paint(QImage& image, QPointF topLeft, const QColor& color) const;
 
  private:
+  struct Outline {
+    QPainterPath path;
+    QRectF box;
+  };
   struct Picture {
     QImage image;
     QTransform toPixels;
+    QRectF box;
   };
 
+  void addOutlines(const QGlyphRun& run, const QTransform& toPixels);
   void addPictures(const QGlyphRun& run, const QTransform& toPixels);
 
-  std::vector<QPainterPath> _outlines;  // one a run: fonts differ in the sense their outlines turn
+  std::vector<Outline> _outlines;
   std::vector<Picture> _pictures;
   QRectF _bounds;
 };

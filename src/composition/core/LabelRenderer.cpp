@@ -4,6 +4,7 @@
 #include <QPainter>
 #include <algorithm>
 #include <cmath>
+#include <cstdint>
 
 #include "composition/core/ComposedGrid.h"
 #include "composition/core/GlyphShapes.h"
@@ -35,18 +36,13 @@ bool isFinite(const QRectF& rect) {
 void paintText(QImage& layer, QPoint topLeft, const GlyphShapes& shapes, const QColor& color) {
   QColor opaque = color.toRgb();
   opaque.setAlphaF(1);
-  const auto paintOpaque = [&](QImage& image) {
-    QPainter painter(&image);
-    painter.translate(-topLeft);
-    shapes.paint(painter, opaque);
-  };
   if (color.alpha() == 255) {
-    paintOpaque(layer);
+    shapes.paint(layer, topLeft, opaque);
     return;
   }
   QImage text(layer.size(), layer.format());
   text.fill(Qt::transparent);
-  paintOpaque(text);
+  shapes.paint(text, topLeft, opaque);
   QPainter painter(&layer);
   painter.setOpacity(color.alphaF());
   painter.drawImage(QPoint(), text);
@@ -69,13 +65,36 @@ void trim(LabelLayer& layer, const QRectF& frame) {
   keep({0, height - 1, width, 1}, outside(-pixels.bottom(), -frame.bottom()));
 }
 
+/// a * b / 255, rounded, for four bytes of a pixel at once.
+std::uint32_t byteProducts(std::uint32_t pixel, std::uint32_t factor) {
+  std::uint32_t even = (pixel & 0xFF00FFU) * factor + 0x800080U;
+  std::uint32_t odd = ((pixel >> 8) & 0xFF00FFU) * factor + 0x800080U;
+  even = ((even + ((even >> 8) & 0xFF00FFU)) >> 8) & 0xFF00FFU;
+  odd = (odd + ((odd >> 8) & 0xFF00FFU)) & 0xFF00FF00U;
+  return even | odd;
+}
+
+/// Source over destination. By hand, because the drawing library blends between these two formats in threads of its
+/// own, which costs more than the blending.
 void blend(const LabelLayer& layer, double opacity, BitmapImageRep& bitmap) {
   if (layer.pixels.isNull()) return;
-  QImage target(bitmap.mutableRow(0), bitmap.pixelsWide(), bitmap.pixelsHigh(), bitmap.bytesPerRow(),
-                QImage::Format_RGBA8888_Premultiplied);
-  QPainter painter(&target);
-  painter.setOpacity(opacity);
-  painter.drawImage(layer.topLeft, layer.pixels);
+  const auto share = static_cast<std::uint32_t>(std::lround(opacity * 255));
+  const QRect rect = QRect(layer.topLeft, layer.pixels.size()) & QRect(0, 0, bitmap.pixelsWide(), bitmap.pixelsHigh());
+  for (int y = rect.top(); y <= rect.bottom(); ++y) {
+    const auto* from = reinterpret_cast<const QRgb*>(layer.pixels.constScanLine(y - layer.topLeft.y()));
+    std::uint8_t* to = bitmap.mutableRow(y) + std::ptrdiff_t{rect.left()} * 4;
+    for (int x = rect.left(); x <= rect.right(); ++x, to += 4) {
+      const QRgb pixel = from[x - layer.topLeft.x()];
+      if (pixel == 0) continue;
+      const QRgb source = byteProducts(pixel, share);
+      const QRgb under = byteProducts(qRgba(to[0], to[1], to[2], to[3]), 255U - static_cast<unsigned>(qAlpha(source)));
+      const QRgb result = source + under;
+      to[0] = static_cast<std::uint8_t>(qRed(result));
+      to[1] = static_cast<std::uint8_t>(qGreen(result));
+      to[2] = static_cast<std::uint8_t>(qBlue(result));
+      to[3] = static_cast<std::uint8_t>(qAlpha(result));
+    }
+  }
 }
 
 }  // namespace
@@ -123,10 +142,9 @@ LabelLayer LabelRenderer::layerFromString(const QString& string, Size size, cons
                                                              (size.height - label.measured.height) * 0.5F) *
                                    transform * toPixels;
   GlyphShapes shapes;
-  block.forEachRun(attributes.font.size, attributes.maximumLineHeight,
-                   [&](const QGlyphRun& run, const QTransform& toBlock) {
-                     shapes.add(run, run.rawFont().pixelSize(), toBlock * blockToPixels, sources);
-                   });
+  for (const TextBlock::Glyphs& glyphs : block.glyphs(attributes.font.size, attributes.maximumLineHeight)) {
+    shapes.add(glyphs.run, glyphs.toBlock * blockToPixels, sources);
+  }
   if (shapes.isEmpty()) return {};
 
   const QRectF drawn = shadow ? shapes.bounds() | shadow->reachOf(shapes.bounds()) : shapes.bounds();

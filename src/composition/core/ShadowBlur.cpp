@@ -3,17 +3,12 @@
 
 #include <algorithm>
 #include <cmath>
-#include <cstdint>
-#include <vector>
 
 namespace quorvane {
 
 namespace {
 
 constexpr int passes = 3;
-
-// Samples have 16 bits between the passes: in 8 bits six roundings would show as steps in a wide blur.
-constexpr int fullSample = 257;  // times an 8-bit alpha
 
 /// A box of 2 * radius + 1 samples of weight 1 and one of weight `edge` (0 to 1) at either side.
 struct Box {
@@ -31,96 +26,99 @@ struct Box {
   }
 };
 
-/// A row of samples with zeros before and behind it.
-class Row {
+// Lines are blurred side by side: along a line each sum needs the one before, across them the compiler has free hand.
+constexpr int lanes = 16;
+
+/// Several lines side by side, sample by sample, with zeros before and behind as far as a box reaches.
+class Strip {
  public:
-  Row(int count, int room) : _room(room), _samples(static_cast<std::size_t>(count + 2 * room)) {}
-  [[nodiscard]] std::uint16_t* samples() { return _samples.data() + _room; }
-  [[nodiscard]] const std::uint16_t* samples() const { return _samples.data() + _room; }
+  Strip(int count, const Box& box)
+      : _count(count),
+        _room(box.radius + 1),
+        _samples(static_cast<std::size_t>(count + 2 * _room) * static_cast<std::size_t>(lanes)) {}
 
- private:
-  int _room;
-  std::vector<std::uint16_t> _samples;
-};
-
-class RowBlur {
- public:
-  RowBlur(const Box& box, int count) : _box(box), _count(count), _row(count, box.radius + 1), _other(_row) {}
-
-  /// Where the row to be blurred is put.
-  [[nodiscard]] std::uint16_t* samples() { return _row.samples(); }
-  /// The blurred row; samples() is lost.
-  const std::uint16_t* blurred() {
-    average(_row, _other);
-    average(_other, _row);
-    average(_row, _other);
-    return _other.samples();
+  /// The samples at a place of the lines, -room to count + room.
+  [[nodiscard]] std::int16_t* at(int place) { return _samples.data() + std::ptrdiff_t{_room + place} * lanes; }
+  [[nodiscard]] const std::int16_t* at(int place) const {
+    return _samples.data() + std::ptrdiff_t{_room + place} * lanes;
   }
 
- private:
-  void average(const Row& from, Row& to) const {
-    const int radius = _box.radius;
-    const float share = 1 / (static_cast<float>(2 * radius + 1) + 2 * _box.edge);
-    const std::uint16_t* in = from.samples();
-    std::uint16_t* out = to.samples();
-    // A sum of whole samples is exact, so no error is carried along the row, and it is the same from both ends.
-    std::uint32_t sum = 0;
-    for (int i = -radius; i < radius; ++i) sum += in[i];
-    for (int i = 0; i < _count; ++i) {
-      // The room behind the row is one box wide: i + radius + 1 reaches into it, not past it.
-      sum += in[i + radius];
-      const auto edges = static_cast<float>(in[i - radius - 1] + in[i + radius + 1]);
-      out[i] = static_cast<std::uint16_t>((static_cast<float>(sum) + _box.edge * edges) * share + 0.5F);
-      sum -= in[i - radius];
+  void average(const Strip& from, const Box& box) {
+    const float share = 1 / (static_cast<float>(2 * box.radius + 1) + 2 * box.edge);
+    const float edgeShare = box.edge * share;
+    // Sums of whole samples are exact: nothing piles up along a line, and they are the same from both ends.
+    std::int32_t sums[lanes] = {};
+    for (int place = 0; place < box.radius; ++place) {
+      for (int lane = 0; lane < lanes; ++lane) sums[lane] += from.at(place)[lane];
+    }
+    for (int place = 0; place < _count; ++place) {
+      const std::int16_t* entering = from.at(place + box.radius);
+      const std::int16_t* leaving = from.at(place - box.radius);
+      const std::int16_t* before = from.at(place - box.radius - 1);
+      const std::int16_t* behind = from.at(place + box.radius + 1);
+      std::int16_t* __restrict out = at(place);
+      for (int lane = 0; lane < lanes; ++lane) {
+        const std::int32_t sum = sums[lane] + entering[lane];
+        const auto edges = static_cast<float>(before[lane] + behind[lane]);
+        out[lane] = static_cast<std::int16_t>(
+            static_cast<std::int32_t>(static_cast<float>(sum) * share + edges * edgeShare + 0.5F));
+        sums[lane] = sum - leaving[lane];
+      }
     }
   }
 
-  Box _box;
+ private:
   int _count;
-  Row _row;
-  Row _other;
+  int _room;
+  std::vector<std::int16_t> _samples;
 };
 
-bool isBlank(const std::uint8_t* row, int count) {
-  return std::all_of(row, row + count, [](std::uint8_t alpha) { return alpha == 0; });
+/// `lines` lines of `count` samples, in memory `lineStep` and `sampleStep` apart.
+void blurLines(std::int16_t* samples, int lines, std::ptrdiff_t lineStep, int count, std::ptrdiff_t sampleStep,
+               const Box& box) {
+  Strip strip(count, box);
+  Strip other(count, box);
+  for (int first = 0; first < lines; first += lanes) {
+    const int used = std::min(lanes, lines - first);
+    std::int16_t* corner = samples + first * lineStep;
+    int seen = 0;
+    for (int place = 0; place < count; ++place) {
+      std::int16_t* lane = strip.at(place);
+      for (int i = 0; i < used; ++i) seen |= lane[i] = corner[place * sampleStep + i * lineStep];
+    }
+    if (seen == 0) continue;
+    other.average(strip, box);
+    strip.average(other, box);
+    other.average(strip, box);
+    for (int place = 0; place < count; ++place) {
+      const std::int16_t* lane = other.at(place);
+      for (int i = 0; i < used; ++i) corner[place * sampleStep + i * lineStep] = lane[i];
+    }
+  }
 }
 
 }  // namespace
 
-int blurReach(double sigma) {
-  return sigma > 0 ? passes * (Box::forSigma(sigma).radius + 1) : 0;
+AlphaPlane::AlphaPlane(const QImage& image)
+    : _width(image.width()),
+      _height(image.height()),
+      _samples(static_cast<std::size_t>(_width) * static_cast<std::size_t>(_height)) {
+  for (int y = 0; y < _height; ++y) {
+    const auto* line = reinterpret_cast<const QRgb*>(image.constScanLine(y));
+    std::transform(line, line + _width, _samples.data() + std::ptrdiff_t{y} * _width,
+                   [](QRgb pixel) { return static_cast<std::int16_t>(qAlpha(pixel) * unit); });
+  }
 }
 
-void blurAlpha(QImage& alpha, double sigma) {
-  if (!(sigma > 0) || alpha.isNull()) return;
+void AlphaPlane::blur(double sigma) {
+  if (!(sigma > 0)) return;
   const Box box = Box::forSigma(sigma);
-  const int width = alpha.width();
-  const int height = alpha.height();
+  blurLines(_samples.data(), _height, _width, _width, 1, box);
+  blurLines(_samples.data(), _width, 1, _height, _width, box);
+}
 
-  // Rows go into a turned copy, so that columns are rows in the second half.
-  std::vector<std::uint16_t> turned(static_cast<std::size_t>(width) * static_cast<std::size_t>(height));
-  RowBlur across(box, width);
-  for (int y = 0; y < height; ++y) {
-    const std::uint8_t* line = alpha.constScanLine(y);
-    if (isBlank(line, width)) continue;
-    std::transform(line, line + width, across.samples(),
-                   [](std::uint8_t value) { return static_cast<std::uint16_t>(value * fullSample); });
-    const std::uint16_t* blurred = across.blurred();
-    for (int x = 0; x < width; ++x) {
-      turned[static_cast<std::size_t>(x) * static_cast<std::size_t>(height) + static_cast<std::size_t>(y)] = blurred[x];
-    }
-  }
-  RowBlur down(box, height);
-  std::uint8_t* pixels = alpha.bits();
-  const qsizetype stride = alpha.bytesPerLine();
-  for (int x = 0; x < width; ++x) {
-    const auto* column = turned.data() + static_cast<std::size_t>(x) * static_cast<std::size_t>(height);
-    std::copy(column, column + height, down.samples());
-    const std::uint16_t* blurred = down.blurred();
-    for (int y = 0; y < height; ++y) {
-      pixels[y * stride + x] = static_cast<std::uint8_t>((blurred[y] + fullSample / 2) / fullSample);
-    }
-  }
+int AlphaPlane::blurReach(double sigma) {
+  return sigma > 0 ? passes * (Box::forSigma(sigma).radius + 1) : 0;
 }
 
 }  // namespace quorvane

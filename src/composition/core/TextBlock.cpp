@@ -3,6 +3,7 @@
 
 #include <QFontDatabase>
 #include <QFontInfo>
+#include <QRawFont>
 #include <QTextCharFormat>
 #include <QTextLayout>
 #include <algorithm>
@@ -157,20 +158,42 @@ Size TextBlock::size(double fontSize, double maximumLineHeight) const {
   return {static_cast<float>(width), static_cast<float>(height)};
 }
 
-void TextBlock::forEachRun(double fontSize, double maximumLineHeight,
-                           const std::function<void(const QGlyphRun&, const QTransform&)>& visit) const {
+std::vector<TextBlock::Glyphs> TextBlock::glyphs(double fontSize, double maximumLineHeight) const {
+  struct FontGlyphs {
+    QRawFont font;
+    double scale = 1;
+    QList<quint32> indexes;
+    QList<QPointF> positions;
+  };
+  std::vector<FontGlyphs> fonts;
   const Size block = size(fontSize, maximumLineHeight);
-  double top = block.height;
+  double top = 0;
   for (const Line& line : _lines) {
     const double height = cappedHeight((line.ascent + line.descent) * fontSize, maximumLineHeight);
-    const double baseline = top - height + line.descent * fontSize;
-    top -= height;
+    const double baseline = top + height - line.descent * fontSize;
+    top += height;
     const double left = line.isRightToLeft ? block.width - line.width * fontSize : 0;
     const double scale = fontSize / line.layoutSize;
-    // A run's own origin is the line's top left; its baseline lies one ascent below.
-    const QTransform toBlock(scale, 0, 0, -scale, left, baseline + line.ascent * fontSize);
-    for (const QGlyphRun& run : line.layout->glyphRuns()) visit(run, toBlock);
+    // A run of the layout counts from the line's top left; the baseline lies one ascent below.
+    const QPointF origin(left / scale, baseline / scale - line.ascent * line.layoutSize);
+    for (const QGlyphRun& run : line.layout->glyphRuns()) {
+      const QRawFont font = run.rawFont();
+      auto group = std::find_if(fonts.begin(), fonts.end(), [&](const FontGlyphs& g) { return g.font == font; });
+      if (group == fonts.end()) group = fonts.insert(group, {font, scale, {}, {}});
+      group->indexes += run.glyphIndexes();
+      for (const QPointF& position : run.positions()) group->positions += position + origin;
+    }
   }
+
+  std::vector<Glyphs> result;
+  for (const FontGlyphs& group : fonts) {
+    Glyphs& glyphs = result.emplace_back();
+    glyphs.run.setRawFont(group.font);
+    glyphs.run.setGlyphIndexes(group.indexes);
+    glyphs.run.setPositions(group.positions);
+    glyphs.toBlock = QTransform(group.scale, 0, 0, -group.scale, 0, block.height);
+  }
+  return result;
 }
 
 }  // namespace quorvane

@@ -2,8 +2,8 @@
 #pragma once
 
 #include <QGlyphRun>
+#include <QString>
 #include <QTransform>
-#include <functional>
 #include <memory>
 #include <vector>
 
@@ -38,10 +38,15 @@ class TextBlock {
   /// other scripts may be higher than the font asked for), but no higher than `maximumLineHeight` if that is above 0.
   [[nodiscard]] Size size(double fontSize, double maximumLineHeight) const;
 
-  /// Hands out all glyphs. `toBlock` maps a run's own coordinates (y downwards) to points from the block's bottom-left
-  /// corner (y upwards). A capped line keeps its descent: lines squeezed together run into the line above.
-  void forEachRun(double fontSize, double maximumLineHeight,
-                  const std::function<void(const QGlyphRun& run, const QTransform& toBlock)>& visit) const;
+  /// Glyphs of one font. `toBlock` maps the run's own coordinates (y downwards) to points from the block's bottom-left
+  /// corner (y upwards).
+  struct Glyphs {
+    QGlyphRun run;
+    QTransform toBlock;
+  };
+  /// All glyphs of all lines, one run for each font: outlines come by the run, and cost most at its start. A capped
+  /// line keeps its descent: lines squeezed together run into the line above.
+  [[nodiscard]] std::vector<Glyphs> glyphs(double fontSize, double maximumLineHeight) const;
 
  private:
   struct Line;

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "composition/core/TextShadow.h"
 
-#include <QPainter>
 #include <algorithm>
 #include <array>
 #include <cmath>
@@ -40,7 +39,7 @@ std::optional<TextShadow> TextShadow::make(const std::optional<LabelShadow>& sha
   const double density = std::sqrt(std::abs(toPixels.m11() * toPixels.m22()));
   const double radius = shadow->blurRadius > 0 ? shadow->blurRadius * density : 0;
   result._sigma = std::min(radius, frame.width() / 2) / 2;
-  result._reach = blurReach(result._sigma) + 1;
+  result._reach = AlphaPlane::blurReach(result._sigma) + 1;
   result._color = shadow->color;
   return result;
 }
@@ -61,20 +60,17 @@ void TextShadow::paint(QImage& layer, QPoint topLeft, const GlyphShapes& shapes,
   const QRectF sources =
       shapes.bounds().translated(_offset) & QRectF(target).adjusted(-_reach, -_reach, _reach, _reach);
   const QRect plane = (QRectF(target) | sources).toAlignedRect();
-  QImage alpha(plane.size(), QImage::Format_Alpha8);
-  alpha.fill(0);
-  {
-    QPainter painter(&alpha);
-    painter.translate(_offset - plane.topLeft());
-    shapes.paint(painter, Qt::black);
-  }
-  blurAlpha(alpha, _sigma);
+  QImage text(plane.size(), QImage::Format_ARGB32_Premultiplied);
+  text.fill(Qt::transparent);
+  shapes.paint(text, plane.topLeft() - _offset, Qt::black);
+  AlphaPlane alpha(text);
+  alpha.blur(_sigma);
 
   const std::array<QRgb, 256> table = tints(_color, _color.alphaF() * textAlpha);
   for (int y = target.top(); y <= target.bottom(); ++y) {
-    const std::uint8_t* from = alpha.constScanLine(y - plane.top()) + (target.left() - plane.left());
-    auto* to = reinterpret_cast<QRgb*>(layer.scanLine(y - topLeft.y())) + (target.left() - topLeft.x());
-    std::transform(from, from + target.width(), to, [&](std::uint8_t value) { return table[value]; });
+    auto* line = reinterpret_cast<QRgb*>(layer.scanLine(y - topLeft.y())) - topLeft.x();
+    for (int x = target.left(); x <= target.right(); ++x)
+      line[x] = table[alpha.alpha(x - plane.left(), y - plane.top())];
   }
 }
 

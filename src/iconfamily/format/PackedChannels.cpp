@@ -4,7 +4,7 @@
 #include <algorithm>
 #include <bit>
 #include <cstring>
-#include <span>
+#include <optional>
 
 #include "foundation/base/ByteReader.h"
 #include "foundation/base/Limits.h"
@@ -21,6 +21,17 @@ constexpr std::size_t longestRepeat = 130;
 constexpr std::uint8_t repeatFlag = 0x80;
 constexpr std::size_t strayBytes = 2;
 
+// Most runs are short, so bytes move in blocks of this length: buffers have room for one more than they hold.
+constexpr std::size_t block = 16;
+
+void copyBlocks(std::uint8_t* to, const std::uint8_t* from, std::size_t count) {
+  for (std::size_t i = 0; i < count; i += block) std::memcpy(to + i, from + i, block);
+}
+
+void fillBlocks(std::uint8_t* to, std::uint8_t byte, std::size_t count) {
+  for (std::size_t i = 0; i < count; i += block) std::memset(to + i, byte, block);
+}
+
 std::uint64_t eightBytesAt(const std::uint8_t* bytes) {
   std::uint64_t word;
   std::memcpy(&word, bytes, sizeof word);
@@ -31,7 +42,8 @@ bool hasZeroByte(std::uint64_t word) {
   return ((word - 0x0101010101010101U) & ~word & 0x8080808080808080U) != 0;
 }
 
-// The first place from `begin` on where three equal bytes begin, or `end`.
+// The first place from `begin` on where three equal bytes begin, or `end`. Words skip stretches without one; the place
+// itself is found byte by byte, since computing it from the word makes every run wait for the one before.
 const std::uint8_t* findRepeat(const std::uint8_t* begin, const std::uint8_t* end) {
   const std::uint8_t* at = begin;
   while (end - at >= 10) {
@@ -57,7 +69,7 @@ std::uint8_t* putLiterals(std::uint8_t* out, const std::uint8_t* begin, const st
   while (begin < end) {
     const std::size_t count = std::min<std::size_t>(end - begin, longestLiteral);
     *out++ = static_cast<std::uint8_t>(count - 1);
-    std::memcpy(out, begin, count);
+    copyBlocks(out, begin, count);
     out += count;
     begin += count;
   }
@@ -98,36 +110,38 @@ std::uint8_t* packChannel(std::uint8_t* out, const std::uint8_t* begin, const st
   return out;
 }
 
-// Fills `out` with unpacked bytes and returns how many of `packed` that took; nullopt when they end too early or the
-// last run goes too far.
-std::optional<std::size_t> unpackInto(std::span<std::uint8_t> out, ByteView packed) {
+// Fills the first `length` bytes of `out`, which has room for a block more, with unpacked bytes and returns how many of
+// `packed` that took; nullopt when they end too early or the last run goes too far.
+std::optional<std::size_t> unpackInto(std::uint8_t* out, std::size_t length, ByteView packed) {
   ByteReader reader(packed);
-  while (!out.empty()) {
+  for (std::size_t done = 0; done < length;) {
     const auto control = reader.readU8();
     if (!control) return std::nullopt;
     const bool isRepeat = *control >= repeatFlag;
     const std::size_t count = isRepeat ? *control - repeatFlag + shortestRepeat : *control + std::size_t{1};
     const auto source = reader.readBytes(isRepeat ? 1 : count);
-    if (!source || count > out.size()) return std::nullopt;
+    if (!source || count > length - done) return std::nullopt;
     if (isRepeat)
-      std::memset(out.data(), source->front(), count);
+      fillBlocks(out + done, source->front(), count);
+    else if (reader.remaining() >= block)
+      copyBlocks(out + done, source->data(), count);
     else
-      std::memcpy(out.data(), source->data(), count);
-    out = out.subspan(count);
+      std::memcpy(out + done, source->data(), count);
+    done += count;
   }
   return reader.position();
 }
 
 struct Channels {
-  Bytes bytes;               // one channel after the other
+  Bytes bytes;               // one channel after the other, and a block
   std::size_t leftOver = 0;  // bytes of the packed data behind them
 };
 
 std::optional<Channels> unpackChannels(ByteView packed, std::size_t length) {
   // No control byte and its data make more than this, so a short element cannot ask for much memory.
   if (length / longestRepeat > packed.size() / 2) return std::nullopt;
-  Channels channels{Bytes(length), 0};
-  const auto taken = unpackInto(channels.bytes, packed);
+  Channels channels{Bytes(length + block), 0};
+  const auto taken = unpackInto(channels.bytes.data(), length, packed);
   if (!taken) return std::nullopt;
   channels.leftOver = packed.size() - *taken;
   return channels;
@@ -139,9 +153,10 @@ constexpr int shiftTo(int index) {
 }
 
 // Interleaves three channels to alpha, red, green, blue with alpha 0, or four. Whole words, which compilers vectorise.
-Bytes interleave(const Bytes& channels, std::size_t pixels) {
+Bytes interleave(const Channels& channels, std::size_t count, std::size_t pixels) {
   Bytes argb(4 * pixels);
-  const std::uint8_t* red = channels.data() + channels.size() - 3 * pixels;
+  const std::uint8_t* alpha = channels.bytes.data();
+  const std::uint8_t* red = alpha + (count - 3) * pixels;
   const std::uint8_t* green = red + pixels;
   const std::uint8_t* blue = green + pixels;
   const auto put = [out = argb.data()](std::size_t i, std::uint32_t a, std::uint32_t r, std::uint32_t g,
@@ -149,8 +164,8 @@ Bytes interleave(const Bytes& channels, std::size_t pixels) {
     const std::uint32_t word = a << shiftTo(0) | r << shiftTo(1) | g << shiftTo(2) | b << shiftTo(3);
     std::memcpy(out + 4 * i, &word, sizeof word);
   };
-  if (channels.size() == 4 * pixels)
-    for (std::size_t i = 0; i < pixels; ++i) put(i, channels[i], red[i], green[i], blue[i]);
+  if (count == 4)
+    for (std::size_t i = 0; i < pixels; ++i) put(i, alpha[i], red[i], green[i], blue[i]);
   else
     for (std::size_t i = 0; i < pixels; ++i) put(i, 0, red[i], green[i], blue[i]);
   return argb;
@@ -171,9 +186,9 @@ bool isTooLarge(std::size_t pixels) {
 
 Bytes packColorChannels(ByteView argb) {
   const std::size_t pixels = argb.size() / 4;
-  Bytes channel(pixels);
+  Bytes channel(pixels + block);
   // Each step takes at least one byte and puts out at most one more than it takes.
-  Bytes packed(3 * 2 * pixels);
+  Bytes packed(3 * 2 * pixels + block);
   std::uint8_t* out = packed.data();
   for (std::size_t color = 1; color <= 3; ++color) {
     for (std::size_t i = 0; i < pixels; ++i) channel[i] = argb[4 * i + color];
@@ -187,10 +202,10 @@ Result<Bytes> unpackColorChannels(ByteView packed, std::size_t pixels) {
   if (isTooLarge(pixels)) return Error::tooLarge("packed colour with too many pixels");
   const auto channels = unpackChannels(packed, 3 * pixels);
   // Data of just the length of unpacked pixels may be packed all the same, so unpacking is tried first.
-  if (channels && channels->leftOver == 0) return interleave(channels->bytes, pixels);
+  if (channels && channels->leftOver == 0) return interleave(*channels, 3, pixels);
   if (packed.size() == 3 * pixels) return fromUnpackedPixels(packed, pixels, 3);
   if (packed.size() == 4 * pixels) return fromUnpackedPixels(packed, pixels, 4);
-  if (channels && channels->leftOver <= strayBytes) return interleave(channels->bytes, pixels);
+  if (channels && channels->leftOver <= strayBytes) return interleave(*channels, 3, pixels);
   return Error::invalidInput("packed colour does not unpack to its pixels");
 }
 
@@ -199,7 +214,7 @@ Result<Bytes> unpackArgbChannels(ByteView packed, std::size_t pixels) {
   const auto channels = unpackChannels(packed, 4 * pixels);
   if (!channels || channels->leftOver > strayBytes)
     return Error::invalidInput("packed picture does not unpack to its pixels");
-  return interleave(channels->bytes, pixels);
+  return interleave(*channels, 4, pixels);
 }
 
 }  // namespace quorvane
