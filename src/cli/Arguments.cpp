@@ -58,9 +58,11 @@ void Parser::addLook(CLI::App& command) {
     command.add_option(name, value, what)->type_name(type);
   };
   std::string effects;
-  for (const EffectPreset& preset : effectPresets()) effects += (effects.empty() ? "" : ", ") + std::string(preset.name);
+  for (const EffectPreset& preset : effectPresets())
+    effects += (effects.empty() ? "" : ", ") + std::string(preset.name);
   option("-l,--label", raw.label, "TEXT", "Label; \\n breaks the line, \\\\ is a backslash");
-  option("-b,--base", raw.base, "PICTURE", "Picture to draw on (icns, PNG, JPEG, TIFF ...) instead of the folder's icon");
+  option("-b,--base", raw.base, "PICTURE",
+         "Picture to draw on (icns, PNG, JPEG, TIFF ...) instead of the folder's icon");
   option("--font", raw.font, "NAME", "Family, or family and style, e.g. \"DejaVu Sans Bold\" [system font, bold]");
   option("--size", raw.size, "POINTS", "Font size on a 128 point icon; shrinks to fit [what fits the folder's front]");
   option("--color", raw.color, "COLOR", "#rgb, #rrggbb, #rrggbbaa or a name [black]");
@@ -100,23 +102,23 @@ Parser::Parser() {
   addDryRun(*apply);
   addCommon(*apply);
 
-  CLI::App* revert = add(app, Command::Revert, "revert", "Put the backed-up icon back as a custom icon",
-                         "revert [OPTIONS] FOLDER...",
-                         {"quorvane revert ~/Invoices", "quorvane revert --json ~/Invoices ~/Taxes"});
+  CLI::App* revert =
+      add(app, Command::Revert, "revert", "Put the backed-up icon back as a custom icon", "revert [OPTIONS] FOLDER...",
+          {"quorvane revert ~/Invoices", "quorvane revert --json ~/Invoices ~/Taxes"});
   folders(revert);
   addDryRun(*revert);
   addCommon(*revert);
 
-  CLI::App* reset = add(app, Command::Reset, "reset", "Give back exactly what was there before the first apply",
-                        "reset [OPTIONS] FOLDER...",
-                        {"quorvane reset ~/Invoices", "quorvane reset --dry-run ~/Invoices ~/Taxes"});
+  CLI::App* reset =
+      add(app, Command::Reset, "reset", "Give back exactly what was there before the first apply",
+          "reset [OPTIONS] FOLDER...", {"quorvane reset ~/Invoices", "quorvane reset --dry-run ~/Invoices ~/Taxes"});
   folders(reset);
   addDryRun(*reset);
   addCommon(*reset);
 
-  CLI::App* status = add(app, Command::Status, "status", "Say what icon, backup and record folders have",
-                         "status [OPTIONS] FOLDER...",
-                         {"quorvane status ~/Invoices", "quorvane status --json ~/Invoices ~/Taxes"});
+  CLI::App* status =
+      add(app, Command::Status, "status", "Say what icon, backup and record folders have", "status [OPTIONS] FOLDER...",
+          {"quorvane status ~/Invoices", "quorvane status --json ~/Invoices ~/Taxes"});
   folders(status);
   addCommon(*status);
 
@@ -138,12 +140,13 @@ Parser::Parser() {
   describeUse(*icns, "icns make|list|extract ...",
               {"quorvane icns make picture.png picture.icns", "quorvane icns extract picture.icns pictures/"});
   icns->require_subcommand(1);
-  CLI::App* make = add(*icns, Command::IcnsMake, "make", "Encode a picture as an icon family", "icns make PICTURE OUT.icns",
-                       {"quorvane icns make picture.png picture.icns", "quorvane icns make photo.jpg photo.icns"});
+  CLI::App* make =
+      add(*icns, Command::IcnsMake, "make", "Encode a picture as an icon family", "icns make PICTURE OUT.icns",
+          {"quorvane icns make picture.png picture.icns", "quorvane icns make photo.jpg photo.icns"});
   CLI::App* list = add(*icns, Command::IcnsList, "list", "List the elements of icon family files", "icns list FILE...",
                        {"quorvane icns list picture.icns", "quorvane icns list --json picture.icns"});
-  CLI::App* extract = add(*icns, Command::IcnsExtract, "extract", "Write each picture of an icon family as DIR/TYPE.png",
-                          "icns extract FILE DIR",
+  CLI::App* extract = add(*icns, Command::IcnsExtract, "extract",
+                          "Write each picture of an icon family as DIR/TYPE.png", "icns extract FILE DIR",
                           {"quorvane icns extract picture.icns pictures/", "quorvane icns extract --json a.icns out"});
   make->add_option("FILES", paths, "PICTURE and OUT.icns")->required()->expected(2)->type_name("");
   list->add_option("FILE", paths, "One or more icns files")->required()->type_name("");
@@ -273,11 +276,11 @@ std::variant<Arguments, Finished> parseArguments(int argc, const char* const* ar
   } catch (const CLI::Success&) {
     std::fputs(chosenCommand(&parser.app)->help().c_str(), stdout);
     return Finished{exitDone};
-  } catch (const CLI::ExtrasError&) {
-    const CLI::App& command = *chosenCommand(&parser.app);
-    return complain(unexpected(parser.app, command), command);
   } catch (const CLI::ParseError& error) {
-    return complain(printable(std::string_view(error.what())), *chosenCommand(&parser.app));
+    const CLI::App& command = *chosenCommand(&parser.app);
+    // A mistyped option may be why something is missing, so it is told first.
+    const bool hasExtras = !parser.app.remaining(true).empty();
+    return complain(hasExtras ? unexpected(parser.app, command) : printable(std::string_view(error.what())), command);
   }
   for (const auto& [command, app] : parser.commands) {
     if (!app->parsed()) continue;

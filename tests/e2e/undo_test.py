@@ -103,7 +103,7 @@ class UndoTest(EndToEndTest):
                 self.assertEqual(tree(self.work), before)
 
     def test_a_broken_backup_is_not_put_in_the_icons_place(self):
-        rows = (("empty", b""), ("cut", FOREIGN[:40]), ("no icon", b"hello" * 10), ("only a header", b"icns\0\0\0\x08"))
+        rows = (("empty", b""), ("cut", FOREIGN[:20]), ("no icon", b"hello" * 10), ("only a header", b"icns\0\0\0\x08"))
         for name, data in rows:
             with self.subTest(backup=name):
                 folder = self.folder(name)

@@ -20,8 +20,11 @@ constexpr Size canvasSize{128, 128};
 Result<std::optional<IconFamily>> readBackup(const Folder& folder) {
   const auto bytes = TRY(folder.readFile(FolderBranding::backupName, limits::iconFileBytes));
   if (!bytes) return std::optional<IconFamily>();
-  if (const auto elements = icnsElements(*bytes); !elements)
-    return elements.error().at(folder.pathOf(FolderBranding::backupName));
+  const auto elements = icnsElements(*bytes);
+  if (!elements) return elements.error().at(folder.pathOf(FolderBranding::backupName));
+  // Put back, a cut file would leave the folder without any picture, and the backup would be gone.
+  if (elements->empty())
+    return Error::invalidInput("the backup holds no whole picture").at(folder.pathOf(FolderBranding::backupName));
   return std::optional(IconFamily::initWithData(*bytes));
 }
 
@@ -57,8 +60,7 @@ Result<Image> FolderBranding::originalIconImage(const std::filesystem::path& pat
 }
 
 Result<Folder> FolderBranding::openForWriting(const std::filesystem::path& path, WriteMode mode) const {
-  Folder folder =
-      TRY(Folder::open(path, mode == WriteMode::Write ? Folder::Access::Write : Folder::Access::Read));
+  Folder folder = TRY(Folder::open(path, mode == WriteMode::Write ? Folder::Access::Write : Folder::Access::Read));
   TRY_VOID(checkTarget(folder.path()));
   TRY_VOID(checkBrandFiles(folder, brandFileNames(_services.forks, backupName)));
   if (mode == WriteMode::DryRun) TRY_VOID(checkWritable(folder));
@@ -154,8 +156,10 @@ Result<FolderStatus> FolderBranding::status(const std::filesystem::path& path) c
   } else {
     fault(record.error());
   }
-  if (status.hasCustomFlag && !status.hasIconFamily) status.faults.emplace_back("the folder claims an icon that is not there");
-  if (status.hasIconFamily && !status.hasCustomFlag) status.faults.emplace_back("the folder does not say that it has an icon");
+  if (status.hasCustomFlag && !status.hasIconFamily)
+    status.faults.emplace_back("the folder claims an icon that is not there");
+  if (status.hasIconFamily && !status.hasCustomFlag)
+    status.faults.emplace_back("the folder does not say that it has an icon");
   status.hasCustomIcon = status.hasIconFamily && status.hasCustomFlag;
   return status;
 }
