@@ -272,18 +272,15 @@ std::variant<Arguments, Finished> parseArguments(int argc, const char* const* ar
     parser.app.parse(argc, argv);
   } catch (const CLI::CallForVersion& version) {
     std::printf("%s\n", version.what());
-    return Finished{flushOutput() ? exitDone : exitFailed};
+    return Finished{exitDone};
   } catch (const CLI::Success&) {
     std::fputs(chosenCommand(&parser.app)->help().c_str(), stdout);
-    return Finished{flushOutput() ? exitDone : exitFailed};
-  } catch (const CLI::ExtrasError&) {
-    const CLI::App& command = *chosenCommand(&parser.app);
-    return complain(unexpected(parser.app, command), command);
+    return Finished{exitDone};
   } catch (const CLI::ParseError& error) {
-    // A word that nothing knows explains better than what is missing because of it.
-    if (const CLI::App& command = *chosenCommand(&parser.app); !parser.app.remaining(true).empty())
-      return complain(unexpected(parser.app, command), command);
-    return complain(printable(std::string_view(error.what())), *chosenCommand(&parser.app));
+    const CLI::App& command = *chosenCommand(&parser.app);
+    // A mistyped option may be why something is missing, so it is told first.
+    const bool hasExtras = !parser.app.remaining(true).empty();
+    return complain(hasExtras ? unexpected(parser.app, command) : printable(std::string_view(error.what())), command);
   }
   for (const auto& [command, app] : parser.commands) {
     if (!app->parsed()) continue;

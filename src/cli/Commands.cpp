@@ -56,13 +56,12 @@ int run(const Arguments& arguments, const IconServices& services) {
       runIcns(arguments, reporter);
       break;
   }
-  const bool isWritten = reporter.finish();
   if (pendingSignal() != 0) {
     reporter.note("interrupted; " + std::to_string(reporter.successes()) + " done, " +
                   std::to_string(reporter.failures()) + " failed");
     return pendingSignal() == SIGTERM ? exitTerminated : exitInterrupted;
   }
-  if (reporter.failures() > 0 || !isWritten) return exitFailed;
+  if (reporter.failures() > 0) return exitFailed;
   return hasNothing ? exitNothing : exitDone;
 }
 

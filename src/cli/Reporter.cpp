@@ -22,12 +22,6 @@ QString text(const std::string& words) {
 
 }  // namespace
 
-bool flushOutput() {
-  if (std::fflush(stdout) == 0 && std::ferror(stdout) == 0) return true;
-  writeLine(stderr, "quorvane: cannot write to standard output");
-  return false;
-}
-
 void setPath(QJsonObject& object, const QString& key, const std::filesystem::path& path) {
   const std::string& bytes = path.native();
   object[key] = text(isUtf8(bytes) ? bytes : printable(path));
@@ -43,10 +37,10 @@ Reporter::Reporter(std::string command, OutputForm form, bool isQuiet, bool isDr
   }
 }
 
-bool Reporter::finish() {
+Reporter::~Reporter() {
   if (_form == OutputForm::Json)
     std::printf("%s], \"succeeded\": %d, \"failed\": %d}\n", _hasItems ? "\n" : "", _successes, _failures);
-  return flushOutput();
+  std::fflush(stdout);
 }
 
 void Reporter::writeItem(QJsonObject item) {

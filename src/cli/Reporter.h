@@ -20,11 +20,10 @@ class Reporter {
   static constexpr int schema = 1;
 
   Reporter(std::string command, OutputForm form, bool isQuiet, bool isDryRun);
+  /// Closes the JSON object.
+  ~Reporter();
   Reporter(const Reporter&) = delete;
   Reporter& operator=(const Reporter&) = delete;
-
-  /// Closes the JSON object. False, and said, when not all output could be written.
-  bool finish();
 
   /// One item that succeeded: `outcome` is the machine's word, `words` the line for people (printable already).
   void done(const std::filesystem::path& path, const std::string& outcome, const std::string& words,
@@ -49,9 +48,6 @@ class Reporter {
   int _successes = 0;
   bool _hasItems = false;
 };
-
-/// Flushes standard output; false, and said on standard error, when something was lost.
-bool flushOutput();
 
 /// Puts a path into a JSON object under `key`; one that is not UTF-8 also as base64 under `key`_base64.
 void setPath(QJsonObject& object, const QString& key, const std::filesystem::path& path);

@@ -44,6 +44,17 @@ bool isForWindow(int argc, char** argv) {
   return !first.starts_with("-") && std::ranges::find(commandWords(), first) == commandWords().end();
 }
 
+/// The exit code of a run whose results may not have reached standard output: no success then. A closed pipe is the
+/// reader's choice.
+int codeAfterOutput(int code) {
+  errno = 0;
+  const bool isFlushed = std::fflush(stdout) == 0;
+  if ((isFlushed && std::ferror(stdout) == 0) || errno == EPIPE) return code;
+  std::fprintf(stderr, "quorvane: cannot write to standard output%s%s\n", errno == 0 ? "" : ": ",
+               errno == 0 ? "" : std::strerror(errno));
+  return code == exitDone ? exitFailed : code;
+}
+
 /// Text needs fonts, fonts need this; other commands start faster without.
 bool drawsText(Command command) {
   return command == Command::Apply || command == Command::Render;
@@ -54,7 +65,7 @@ bool drawsText(Command command) {
 int main(int argc, char** argv) {
   if (isForWindow(argc, argv)) return startWindow(argv);
   const auto parsed = parseArguments(argc, argv);
-  if (const auto* finished = std::get_if<Finished>(&parsed)) return finished->exitCode;
+  if (const auto* finished = std::get_if<Finished>(&parsed)) return codeAfterOutput(finished->exitCode);
   const auto& arguments = std::get<Arguments>(parsed);
 
   // Never a display, whatever the session has; and no word of Qt's among ours.
@@ -71,5 +82,5 @@ int main(int argc, char** argv) {
   AppleDoubleForkStore forks;
   const auto kinds = makeDesktopKindIcons();
   StampingNotices notices;
-  return run(arguments, {.forks = forks, .kinds = *kinds, .notices = notices});
+  return codeAfterOutput(run(arguments, {.forks = forks, .kinds = *kinds, .notices = notices}));
 }

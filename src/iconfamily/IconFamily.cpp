@@ -98,7 +98,10 @@ std::optional<BitmapImageRep> IconFamily::bitmapImageRepWithAlphaForIconFamilyEl
 
 Result<void> IconFamily::check() const {
   const auto elements = icnsElements(hIconFamily);
-  return elements ? Result<void>() : elements.error();
+  if (!elements) return elements.error();
+  // What is left of a cut file: put on a folder, it would show nothing at all.
+  if (elements->empty()) return Error::invalidInput("an icon family without a whole element");
+  return {};
 }
 
 std::optional<Image> IconFamily::imageWithAllReps() const {

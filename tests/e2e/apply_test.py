@@ -7,7 +7,7 @@ import subprocess
 import shutil
 import unittest
 
-from support import (BACKUP, ELEMENTS, ICON, ICON_COMPANION, LABEL, EndToEndTest, companion, elements, family_file,
+from support import (BACKUP, ELEMENTS, FOREIGN, ICON, ICON_COMPANION, LABEL, EndToEndTest, companion, elements, family_file,
                      oracle, pictures, plant_custom_icon, read, resources, tree, write)
 
 RED = (0xB0, 0x00, 0x20)
@@ -167,7 +167,7 @@ class ApplyTest(EndToEndTest):
 
     def test_the_forks_other_resources_are_replaced_with_the_icon_file(self):
         folder = self.folder()
-        plant_custom_icon(folder, family_file(("is32", b"\x81\x10" * 6), ("s8mk", b"\xff" * 256)), flags=0x0500)
+        plant_custom_icon(folder, FOREIGN, flags=0x0500)
         self.expect(0, "apply", *LABEL, folder)
         self.assert_branded(folder)
         _info, fork = companion(os.path.join(folder, ICON_COMPANION))

@@ -6,8 +6,7 @@ import signal
 import subprocess
 import unittest
 
-from support import (LABEL, PROGRAM, EndToEndTest, can_store_finder_info, family_file, plant_custom_icon, tree,
-                     write)
+from support import (FOREIGN, LABEL, PROGRAM, EndToEndTest, can_store_finder_info, plant_custom_icon, tree, write)
 
 COMMANDS = (("apply",), ("revert",), ("reset",), ("status",), ("render",), ("icns",), ("icns", "make"), ("icns", "list"),
             ("icns", "extract"))
@@ -75,7 +74,7 @@ class CommandTest(EndToEndTest):
         os.mkdir(os.path.join(blocked, "Icon\r"))
         foreign = self.folder("foreign")
         if can_store_finder_info(foreign):
-            plant_custom_icon(foreign, family_file(("is32", b"\x81\x40" * 6), ("s8mk", b"\xff" * 256)))
+            plant_custom_icon(foreign, FOREIGN)
         for path in (plain, branded, file, blocked, foreign, os.path.join(self.work, "missing")):
             for command in (("apply", *LABEL), ("apply", "--label", "other"), ("revert",), ("reset",)):
                 with self.subTest(path=os.path.basename(path), command=command):

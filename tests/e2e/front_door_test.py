@@ -22,7 +22,7 @@ class FrontDoorTest(EndToEndTest):
                 if name:
                     self.folder(name)
                 done = self.run_script("apply", "--label", "a  b", "--", name)
-                self.assertEqual(done.returncode, 0 if name else 1, done.stderr)
+                self.assertEqual(done.returncode, 0 if name else 2, done.stderr)
                 if name:
                     self.assert_branded(os.path.join(self.work, name))
 

@@ -226,6 +226,10 @@ def family_file(*parts):
     return struct.pack(">4sI", b"icns", 8 + len(body)) + body
 
 
+# What another program's custom icon holds in these tests: 16 x 16 pixels of one grey. 0xFF repeats a byte 130 times.
+FOREIGN = family_file(("is32", b"\xff\x40\xfb\x40" * 3), ("s8mk", b"\xff" * 256))
+
+
 def plant_custom_icon(folder, family, *, flags=CUSTOM_ICON):
     """What another program leaves that gave the folder a custom icon."""
     data = struct.pack(">I", len(family)) + family

@@ -5,10 +5,8 @@ import shutil
 import subprocess
 import unittest
 
-from support import (BACKUP, ICON, LABEL, EndToEndTest, can_store_finder_info, family_file, plant_custom_icon, read,
-                     tree, write)
-
-FOREIGN = family_file(("is32", b"\x81\x40" * 6), ("s8mk", b"\xff" * 256))
+from support import (BACKUP, FOREIGN, ICON, LABEL, EndToEndTest, can_store_finder_info, plant_custom_icon, read, tree,
+                     write)
 
 
 class UndoTest(EndToEndTest):
@@ -105,7 +103,7 @@ class UndoTest(EndToEndTest):
                 self.assertEqual(tree(self.work), before)
 
     def test_a_broken_backup_is_not_put_in_the_icons_place(self):
-        rows = (("empty", b""), ("cut", FOREIGN[:40]), ("no icon", b"hello" * 10), ("only a header", b"icns\0\0\0\x08"))
+        rows = (("empty", b""), ("cut", FOREIGN[:20]), ("no icon", b"hello" * 10), ("only a header", b"icns\0\0\0\x08"))
         for name, data in rows:
             with self.subTest(backup=name):
                 folder = self.folder(name)
