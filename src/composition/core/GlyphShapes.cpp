@@ -22,9 +22,10 @@ constexpr double pictureSize = 128;
 // How far outside the picture an outline may reach before it is clipped.
 constexpr double safeDistance = 2048;
 
-// How many times over outlines may cover the picture. A label covers it once or twice; thousands of squeezed lines
-// under a steep shear would cover it thousands of times, at a millisecond each.
-constexpr double mostCoverage = 256;
+// Edges of outlines times the rows they cover, which is what filling takes time by: 8 million take about a second. A
+// long label on the largest picture has half of that; a thousand squeezed lines under a steep shear a hundred times as
+// much.
+constexpr double mostEdgeRows = 8e6;
 
 /// The longest side of a unit square after the transform.
 double largestScale(const QTransform& transform) {
@@ -127,12 +128,12 @@ void GlyphShapes::paint(QImage& image, QPointF topLeft, const QColor& color) con
   painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
   const QTransform toImage = QTransform::fromTranslate(-topLeft.x(), -topLeft.y());
   painter.setTransform(toImage);
-  double areaLeft = mostCoverage * target.width() * target.height();
+  double edgeRowsLeft = mostEdgeRows;
   for (const Outline& outline : _outlines) {
     const QRectF covered = outline.box & target;
     if (covered.isEmpty()) continue;
-    areaLeft -= covered.width() * covered.height();
-    if (areaLeft < 0) break;
+    edgeRowsLeft -= outline.path.elementCount() * covered.height();
+    if (edgeRowsLeft < 0) break;
     painter.fillPath(safe.contains(outline.box) ? outline.path : clippedOutline(outline.path, safe), color);
   }
   for (const Picture& picture : _pictures) {

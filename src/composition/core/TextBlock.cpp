@@ -110,6 +110,7 @@ TextBlock::Line::Line(const QString& text, const LabelFont& font)
   // Left to itself the layout would take every line for left-to-right text with some other text in it.
   option.setTextDirection(isRightToLeft ? Qt::RightToLeft : Qt::LeftToRight);
   layout->setTextOption(option);
+  layout->setCacheEnabled(true);  // or glyphs() would shape the text a second time
 
   QList<QTextLayout::FormatRange> formats;
   for (const TextRange& run : parts.emoji) {
