@@ -15,6 +15,8 @@ function(quorvane_module name)
     set(scope INTERFACE)
   endif()
   target_link_libraries(quorvane_${name} ${scope} quorvane_flags ${ARG_LIBRARIES})
+  # The test "headers" compiles each header of this set alone.
+  target_sources(quorvane_${name} ${scope} FILE_SET HEADERS BASE_DIRS ${CMAKE_SOURCE_DIR}/src FILES ${headers})
   foreach(dependency IN LISTS ARG_DEPENDS)
     target_link_libraries(quorvane_${name} ${scope} quorvane_${dependency})
   endforeach()

@@ -12,6 +12,8 @@ namespace quorvane {
 
 namespace {
 
+// bench/ResampleCompare: nearest of all to a trusted filter at every size (40 to 56 dB; Catmull-Rom 39 to 42, Mitchell
+// 33 to 37, which is soft to the eye), and its ringing on labels and edges, half a level at most, is not to be seen.
 constexpr ResampleKernel bestKernel = ResampleKernel::Lanczos3;
 
 /// The source pixels that any of the spans reads, first and one past the last.

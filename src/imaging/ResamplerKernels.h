@@ -8,11 +8,12 @@
 /// bytes. Both forms are always there where the vectorised one exists; the plain names choose.
 namespace quorvane::kernels {
 
-/// Fractional bits of the values between the two passes: 255 becomes 16320, which leaves room for overshoot.
+/// Fractional bits of the values between the two passes: 255 becomes 16320.
 inline constexpr int middleBits = 6;
 
 /// sums[i] = sum over k of weights[k] * rows[k * rowBytes + i], with middleBits of fraction, for `count` samples (a
-/// multiple of 4). weights[taps] must be 0.
+/// multiple of 4). weights[taps] must be 0. Clamped to 0 <= colour <= alpha <= 255 like the result: a kernel's overshoot
+/// in one direction does not ring on in the other.
 void gatherRows(const std::uint8_t* rows, std::ptrdiff_t rowBytes, const std::int16_t* weights, int taps, int count,
                 std::int16_t* sums);
 

@@ -2,6 +2,7 @@
 #include "composition/core/LabelValues.h"
 
 #include <QFontDatabase>
+#include <QFontInfo>
 
 namespace quorvane {
 
@@ -10,7 +11,8 @@ QString LabelFont::displayName() const {
 }
 
 LabelFont systemFont(double size) {
-  return {QFontDatabase::systemFont(QFontDatabase::GeneralFont).family(), QString(), size};
+  // Without a desktop the system font is an alias; the family that it stands for is what can be named.
+  return {QFontInfo(QFontDatabase::systemFont(QFontDatabase::GeneralFont)).family(), QString(), size};
 }
 
 }  // namespace quorvane

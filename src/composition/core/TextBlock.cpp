@@ -2,6 +2,7 @@
 #include "composition/core/TextBlock.h"
 
 #include <QFontDatabase>
+#include <QFontInfo>
 #include <QRawFont>
 #include <QTextCharFormat>
 #include <QTextLayout>
@@ -24,7 +25,10 @@ constexpr double lineWidthWithoutEnd = 3e7;
 
 QFont layoutFont(const LabelFont& font, int pixels) {
   QFont result;
-  result.setFamilies({font.family, QStringLiteral("Noto Color Emoji")});
+  // A family that is not installed (or an alias) would leave the emoji font as the first one, digits and all.
+  const bool isInstalled = QFontDatabase::hasFamily(font.family);
+  const QString family = isInstalled ? font.family : QFontInfo(QFont(font.family)).family();
+  result.setFamilies({family, QStringLiteral("Noto Color Emoji")});
   if (!font.style.isEmpty()) {
     // Weight and slant also steer which faces stand in for missing characters; the style's name alone would not.
     const int weight = QFontDatabase::weight(font.family, font.style);

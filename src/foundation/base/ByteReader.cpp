@@ -23,33 +23,24 @@ std::optional<std::uint32_t> ByteReader::readBigEndian(std::size_t count) {
   return value;
 }
 
-std::optional<std::uint8_t> ByteReader::readU8() {
-  const auto value = readBigEndian(1);
-  if (!value) return std::nullopt;
-  return static_cast<std::uint8_t>(*value);
-}
-
 std::optional<std::uint16_t> ByteReader::readU16() {
   const auto value = readBigEndian(2);
   if (!value) return std::nullopt;
   return static_cast<std::uint16_t>(*value);
 }
 
-std::optional<std::uint32_t> ByteReader::readU24() { return readBigEndian(3); }
+std::optional<std::uint32_t> ByteReader::readU24() {
+  return readBigEndian(3);
+}
 
-std::optional<std::uint32_t> ByteReader::readU32() { return readBigEndian(4); }
+std::optional<std::uint32_t> ByteReader::readU32() {
+  return readBigEndian(4);
+}
 
 std::optional<FourCharCode> ByteReader::readCode() {
   const auto value = readBigEndian(4);
   if (!value) return std::nullopt;
   return FourCharCode(*value);
-}
-
-std::optional<ByteView> ByteReader::readBytes(std::size_t count) {
-  if (count > remaining()) return std::nullopt;
-  const ByteView view = _bytes.subspan(_position, count);
-  _position += count;
-  return view;
 }
 
 ByteView ByteReader::readRest() {

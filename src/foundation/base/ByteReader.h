@@ -24,13 +24,21 @@ class ByteReader {
   [[nodiscard]] bool seek(std::size_t offset);
   [[nodiscard]] bool skip(std::size_t count);
 
-  std::optional<std::uint8_t> readU8();
+  std::optional<std::uint8_t> readU8() {
+    if (atEnd()) return std::nullopt;
+    return _bytes[_position++];
+  }
   std::optional<std::uint16_t> readU16();
   std::optional<std::uint32_t> readU24();
   std::optional<std::uint32_t> readU32();
   std::optional<FourCharCode> readCode();
   /// A view of the next `count` bytes.
-  std::optional<ByteView> readBytes(std::size_t count);
+  std::optional<ByteView> readBytes(std::size_t count) {
+    if (count > remaining()) return std::nullopt;
+    const ByteView view = _bytes.subspan(_position, count);
+    _position += count;
+    return view;
+  }
   /// Everything that is left.
   ByteView readRest();
 

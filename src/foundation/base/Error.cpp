@@ -8,7 +8,10 @@ namespace quorvane {
 
 Error Error::system(int code, std::string what) {
   const std::string words = std::generic_category().message(code);
-  Error error(code == ENOENT ? ErrorKind::NotFound : ErrorKind::System, what.empty() ? words : what + ": " + words);
+  const ErrorKind kind = code == ENOENT    ? ErrorKind::NotFound
+                         : code == ENOTSUP ? ErrorKind::Unsupported
+                                           : ErrorKind::System;
+  Error error(kind, what.empty() ? words : what + ": " + words);
   error._systemCode = code;
   return error;
 }

@@ -28,7 +28,8 @@ class Error {
   static Error refused(std::string why) { return {ErrorKind::Refused, std::move(why)}; }
   static Error broken(std::string why) { return {ErrorKind::Broken, std::move(why)}; }
 
-  /// The failure of a system call, with the system's own words for `code` (an errno value).
+  /// The failure of a system call, with the system's own words for `code` (an errno value). ENOENT is NotFound, ENOTSUP
+  /// is Unsupported, the rest is System.
   static Error system(int code, std::string what);
 
   /// The same failure with the path it concerns. The first path named is the nearest to the cause and stays.

@@ -22,9 +22,24 @@ inline constexpr int elementPixels = 4096;
 inline constexpr std::size_t forkResources = 8192;
 inline constexpr std::size_t companionEntries = 512;
 
+/// Depth of folders that are removed with what is in them; ours are two deep.
+inline constexpr int removedFolderDepth = 32;
+/// Largest file that is copied to be kept where it cannot be kept by a second link.
+inline constexpr std::size_t preservedCopyBytes = std::size_t{64} << 20;
+
 /// Width and height of a picture file, and its area; 100 megapixels is a 400 MB bitmap.
 inline constexpr int picturePixels = 32768;
 inline constexpr std::int64_t pictureArea = 100'000'000;
+/// Area of a JPEG 2000 picture: its decoder takes 16 bytes a pixel and more.
+inline constexpr std::int64_t jpeg2000Area = std::int64_t{1} << 25;
+/// Tiles, code blocks, and packets of one JPEG 2000 picture: each costs the decoder memory (about 6 KB, 700 and 2 bytes)
+/// whatever the file's length. Usual ones of the largest area have 32,000 code blocks.
+inline constexpr std::int64_t jpeg2000Tiles = 4096;
+inline constexpr std::int64_t jpeg2000Blocks = 1 << 18;
+inline constexpr std::int64_t jpeg2000Packets = 1 << 22;
+/// Elements of a vector picture, with everything that is drawn again by reference; and how deep they may nest.
+inline constexpr std::int64_t svgElements = 200'000;
+inline constexpr int svgDepth = 256;
 /// Longest picture file.
 inline constexpr std::size_t pictureFileBytes = std::size_t{512} << 20;
 

@@ -60,16 +60,21 @@ class [[nodiscard]] Result<void> {
 
 }  // namespace quorvane
 
-/// Passes a failure up, or is the value: `auto bytes = TRY(readFile(path));`
-#define TRY(expression)                                       \
-  __extension__({                                             \
-    auto&& tryResult_ = (expression);                         \
-    if (!tryResult_.ok()) return std::move(tryResult_).error(); \
-    std::move(tryResult_).value();                            \
+// One in another must not hide the outer one's name.
+#define QUORVANE_TRY_VALUE(name, expression)          \
+  __extension__({                                     \
+    auto&& name = (expression);                       \
+    if (!name.ok()) return std::move(name).error();   \
+    std::move(name).value();                          \
   })
+#define QUORVANE_TRY_NAME(count) tryResult##count##_
+#define QUORVANE_TRY_COUNTED(count, expression) QUORVANE_TRY_VALUE(QUORVANE_TRY_NAME(count), expression)
+
+/// Passes a failure up, or is the value: `auto bytes = TRY(readFile(path));`
+#define TRY(expression) QUORVANE_TRY_COUNTED(__COUNTER__, expression)
 
 /// The same for a Result<void>.
-#define TRY_VOID(expression)                            \
-  do {                                                  \
-    if (auto tryResult_ = (expression); !tryResult_.ok()) return tryResult_.error(); \
+#define TRY_VOID(expression)                                                \
+  do {                                                                      \
+    if (auto tryDone_ = (expression); !tryDone_.ok()) return tryDone_.error(); \
   } while (false)

@@ -16,7 +16,7 @@ namespace quorvane {
 ///
 /// Entries that we do not know are kept whole, in order, when the file is written again; so is the filler, and the
 /// attribute block behind the 32 bytes of a longer Finder entry (offsets inside that block count from the start of the
-/// file and are moved along).
+/// file and are moved along). Of entries that stand twice the first counts; changing one drops the others.
 class AppleDouble {
  public:
   enum class EntryId : std::uint32_t { DataFork = 1, ResourceFork = 2, FinderInfo = 9 };
@@ -26,7 +26,8 @@ class AppleDouble {
   /// Checks magic, version (1 and 2 are read), the table and each entry's bounds; overlapping entries are refused.
   static Result<AppleDouble> parse(ByteView bytes);
 
-  /// The file's bytes: Finder info first, resource fork last, other entries between.
+  /// The file's bytes: data of the Finder info first, resource fork last, other entries between. The table keeps its
+  /// order; new entries join it in the order of the data.
   [[nodiscard]] Result<Bytes> serialize() const;
 
   /// The first 32 bytes of the Finder entry; nullopt without one (or with fewer bytes).
@@ -49,7 +50,11 @@ class AppleDouble {
   };
 
   [[nodiscard]] const Entry* find(EntryId id) const;
+  /// The entry of that ID, made when there is none; others of the ID are dropped.
+  Entry& theOnly(EntryId id);
+  [[nodiscard]] std::vector<const Entry*> storageOrder() const;
 
+  std::uint32_t _version = 0x00020000;
   Bytes _filler = Bytes(16, 0);
   std::vector<Entry> _entries;
 };

@@ -28,12 +28,18 @@ Result<std::vector<IcnsElement>> nestedIcnsElements(ByteView data);
 /// The first element of that type; nullopt when the family does not hold one or is not a family.
 std::optional<ByteView> icnsElement(ByteView family, FourCharCode type);
 
+/// True for the types whose data is a family of its own: the icon in another state or appearance.
+bool holdsNestedFamily(FourCharCode type);
+
 /// Stores an element: replaces the first of its type in place (and drops later ones of that type), or appends it.
 /// An empty `family` becomes a valid one. All other elements stay byte for byte, in order; a 'TOC ' is brought up to
-/// date. Fails, changing nothing, on bytes that are no family or when the total would pass 32 bits.
+/// date, and an 'icnV' that was last stays last. Stray bytes behind the last whole element go. `data` may lie inside
+/// `family`. Fails, changing nothing, on bytes that are no family, with too many elements, or when the total would pass
+/// 32 bits.
 Result<void> setIcnsElement(Bytes& family, FourCharCode type, ByteView data);
 
-/// One line an element, "TYPE LENGTH" (printable), nested families indented: for goldens and `icns list`.
+/// One line an element, "TYPE LENGTH" (printable; bytes of data), nested families indented: for goldens and `icns
+/// list`. Nothing for bytes that icnsElements() refuses; no more lines than a family may have elements.
 std::string describeIcns(ByteView family);
 
 }  // namespace quorvane

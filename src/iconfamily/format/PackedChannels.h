@@ -17,7 +17,8 @@ Bytes packColorChannels(ByteView argb);
 /// (red, green, blue or x, red, green, blue). One or two stray bytes behind the packed data are ignored.
 Result<Bytes> unpackColorChannels(ByteView packed, std::size_t pixels);
 
-/// Unpacks "ARGB" elements (the four letters already taken off): alpha, red, green, blue channels, to interleaved bytes.
+/// Unpacks "ARGB" elements (the four letters already taken off): alpha, red, green, blue channels, to interleaved
+/// bytes.
 Result<Bytes> unpackArgbChannels(ByteView packed, std::size_t pixels);
 
 }  // namespace quorvane

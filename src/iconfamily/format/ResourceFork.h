@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <array>
 #include <cstdint>
-#include <optional>
 #include <string>
 #include <vector>
 
@@ -33,8 +33,9 @@ class ResourceFork {
   /// with a fault anywhere is refused as a whole.
   static Result<ResourceFork> parse(ByteView bytes);
 
-  /// The bytes of the fork; a fork without resources gives no bytes. The largest resource's data stands last. Refuses
-  /// when a resource would start beyond the 16 MiB that a data offset reaches, or a list outgrows its 16-bit counts.
+  /// The bytes of the fork; a fork without resources gives no bytes. Types stand in order of first appearance, the
+  /// largest resource's data last. Refuses when a resource would start beyond the 16 MiB that a data offset reaches, a
+  /// list outgrows its 16-bit counts, a name its length byte, or the whole what parse() takes.
   [[nodiscard]] Result<Bytes> serialize() const;
 
   [[nodiscard]] const std::vector<Resource>& resources() const { return _resources; }
@@ -43,7 +44,7 @@ class ResourceFork {
   [[nodiscard]] const Resource* find(FourCharCode type, std::int16_t id) const;
   /// Replaces the first of that type and ID, dropping later ones, or appends.
   void set(Resource resource);
-  /// False when there was none.
+  /// Removes all of that type and ID; false when there was none.
   bool remove(FourCharCode type, std::int16_t id);
 
   /// The 16-bit fork attributes of the map; kept.
@@ -51,6 +52,8 @@ class ResourceFork {
 
  private:
   std::vector<Resource> _resources;
+  /// What follows the header, for the system's and the application's own use; kept as long as there are resources.
+  std::array<std::uint8_t, 240> _reserved{};
 };
 
 }  // namespace quorvane

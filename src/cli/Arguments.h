@@ -1,0 +1,45 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <filesystem>
+#include <optional>
+#include <string>
+#include <variant>
+#include <vector>
+
+#include "app/core/Look.h"
+#include "cli/Reporter.h"
+
+namespace quorvane::cli {
+
+enum class Command { Apply, Revert, Reset, Status, Render, IcnsMake, IcnsList, IcnsExtract };
+
+/// The command's name as it is typed and reported ("icns make").
+std::string commandName(Command command);
+
+/// What one call of the program asks for.
+struct Arguments {
+  Command command = Command::Apply;
+  /// Folders, or for the icns commands and render the files, in the order given. Raw bytes.
+  std::vector<std::filesystem::path> paths;
+  Look look;
+  std::optional<std::filesystem::path> base;
+  bool labelFromName = false;
+  int pixels = 512;  ///< side of a rendered PNG
+  OutputForm form = OutputForm::Words;
+  bool isQuiet = false;
+  bool isDryRun = false;
+};
+
+/// The program has nothing more to do than end with this code; what was to be said has been said.
+struct Finished {
+  int exitCode;
+};
+
+/// Reads the command line (argv[0] included). Help and version go to standard output, complaints to standard error.
+std::variant<Arguments, Finished> parseArguments(int argc, const char* const* argv);
+
+/// The commands' first words, for telling a folder from a mistyped command.
+const std::vector<std::string>& commandWords();
+
+}  // namespace quorvane::cli

@@ -1,0 +1,153 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include <QJsonArray>
+#include <cstdio>
+
+#include "app/core/Look.h"
+#include "cli/Commands.h"
+#include "cli/Terminal.h"
+#include "iconfamily/ElementStore.h"
+#include "iconfamily/ElementTypes.h"
+#include "iconfamily/IconFamilyInternals.h"
+#include "iconfamily/format/IcnsContainer.h"
+#include "imaging/PngCodec.h"
+
+namespace quorvane::cli {
+
+namespace {
+
+bool isIcnsName(const std::filesystem::path& path) {
+  const auto extension = QString::fromStdString(path.extension().string());
+  return extension.compare(QLatin1String(".icns"), Qt::CaseInsensitive) == 0;
+}
+
+/// The picture of any file that holds one: an icon family's largest, or a picture file's first.
+Result<Image> readPicture(const std::filesystem::path& path) {
+  auto family = IconFamily::iconFamilyWithContentsOfFile(path);
+  if (!family) {
+    // Not an icon family, but perhaps a picture; what cannot be read at all is said once.
+    if (family.error().kind() != ErrorKind::InvalidInput) return std::move(family).error();
+    return Image::imageWithContentsOfFile(path);
+  }
+  auto image = family->imageWithAllReps();
+  if (!image || !image->bitmapRepresentation()) return Error::invalidInput("the icon family holds no picture").at(path);
+  return *std::move(image);
+}
+
+Result<Bytes> composedFile(const Arguments& arguments, const IconServices& services) {
+  std::optional<Image> base;
+  if (arguments.base) {
+    base = TRY(readBasePicture(*arguments.base));
+  } else {
+    base = services.kinds.systemIcon("fldr");
+  }
+  if (!base) return Error(ErrorKind::NotFound, "there is no folder picture to draw on; give one with --base");
+  const Image icon = TRY(composeIcon(arguments.look, *base));
+  if (isIcnsName(arguments.paths.front())) return TRY(IconFamily::iconFamilyWithThumbnailsOfImage(icon)).data();
+  return encodePng(icon.rendered(arguments.pixels, arguments.pixels));
+}
+
+void makeIcns(const Arguments& arguments, Reporter& reporter) {
+  const auto& [from, to] = std::tie(arguments.paths[0], arguments.paths[1]);
+  const auto picture = readPicture(from);
+  if (!picture) return reporter.failed(from, picture.error());
+  const auto family = IconFamily::iconFamilyWithThumbnailsOfImage(*picture);
+  if (!family) return reporter.failed(from, family.error());
+  if (const auto written = writeOutputFile(to, family->bytes()); !written) return reporter.failed(to, written.error());
+  reporter.done(to, "made", printable(to) + ": " + std::to_string(family->bytes().size()) + " bytes",
+                {{QStringLiteral("bytes"), static_cast<qint64>(family->bytes().size())}});
+}
+
+void listIcns(const std::filesystem::path& path, bool hasSeveral, Reporter& reporter) {
+  const auto family = IconFamily::iconFamilyWithContentsOfFile(path);
+  if (!family) return reporter.failed(path, family.error());
+  const auto elements = icnsElements(family->bytes());
+  if (!elements) return reporter.failed(path, elements.error());
+  QJsonArray rows;
+  for (const IcnsElement& element : *elements) {
+    QJsonObject row{{QStringLiteral("type"), QString::fromStdString(element.type.toDisplayText())},
+                    {QStringLiteral("bytes"), static_cast<qint64>(element.data.size())}};
+    if (const ElementType* known = elementType(element.type)) {
+      row[QLatin1String("width")] = known->pixelsWide;
+      row[QLatin1String("height")] = known->pixelsHigh;
+    }
+    rows.append(row);
+  }
+  std::string words = (hasSeveral ? printable(path) + ":\n" : "") + describeIcns(family->bytes());
+  while (words.ends_with('\n')) words.pop_back();
+  reporter.done(path, "listed", words, {{QStringLiteral("elements"), rows}});
+}
+
+Result<Folder> makeFolder(const std::filesystem::path& path) {
+  std::error_code error;
+  std::filesystem::create_directory(path, error);
+  if (error) return Error::system(error.value(), "cannot make the folder").at(path);
+  return Folder::open(path, Folder::Access::Write);
+}
+
+void extractIcns(const Arguments& arguments, Reporter& reporter) {
+  const auto& [from, to] = std::tie(arguments.paths[0], arguments.paths[1]);
+  const auto family = IconFamily::iconFamilyWithContentsOfFile(from);
+  if (!family) return reporter.failed(from, family.error());
+  auto folder = makeFolder(to);
+  if (!folder) return reporter.failed(to, folder.error());
+  bool hasPictures = false;
+  for (const ElementType& type : elementTypes()) {
+    if (!type.isPicture() || !icnsElement(family->bytes(), type.type)) continue;
+    hasPictures = true;
+    const std::string name = type.type.toString() + ".png";
+    const auto extract = [&]() -> Result<void> {
+      const BitmapImageRep picture = TRY(decodeIconFamilyElement(family->bytes(), type.type));
+      TRY_VOID(folder->writeFile(name, TRY(encodePng(picture))));
+      return {};
+    };
+    if (const auto extracted = extract(); !extracted) {
+      reporter.failed(from, extracted.error());
+    } else {
+      reporter.done(to / name, "extracted",
+                    printable(to / name) + ": " + std::to_string(type.pixelsWide) + " x " + std::to_string(type.pixelsHigh));
+    }
+  }
+  if (!hasPictures) reporter.failed(from, Error::invalidInput("the icon family holds no picture"));
+}
+
+}  // namespace
+
+Result<Image> readBasePicture(const std::filesystem::path& path) {
+  Image picture = TRY(readPicture(path));
+  // What the library does with a picture that is dropped on it: fitted into a square, as large as the canvas.
+  if (picture.representations().size() == 1) {
+    auto fitted = internals::resampleImage(picture, 512, ImageInterpolation::High);
+    if (!fitted) return Error::invalidInput("the file holds no picture").at(path);
+    picture = *std::move(fitted);
+  }
+  picture.setScalesWhenResized(true);
+  picture.setSize({128, 128});
+  return picture;
+}
+
+Result<void> writeOutputFile(const std::filesystem::path& path, ByteView bytes) {
+  if (path == "-") {
+    const bool isWritten = std::fwrite(bytes.data(), 1, bytes.size(), stdout) == bytes.size() && std::fflush(stdout) == 0;
+    return isWritten ? Result<void>() : Error::system(errno, "cannot write to standard output");
+  }
+  Folder folder = TRY(Folder::open(path.has_parent_path() ? path.parent_path() : ".", Folder::Access::Write));
+  TRY_VOID(folder.writeFile(path.filename().string(), bytes));
+  return {};
+}
+
+void runRender(const Arguments& arguments, const IconServices& services, Reporter& reporter) {
+  const std::filesystem::path& out = arguments.paths.front();
+  const auto file = composedFile(arguments, services);
+  if (!file) return reporter.failed(out, file.error());
+  if (!arguments.isDryRun)
+    if (const auto written = writeOutputFile(out, *file); !written) return reporter.failed(out, written.error());
+  if (out != "-") reporter.done(out, "rendered", printable(out) + ": " + std::to_string(file->size()) + " bytes");
+}
+
+void runIcns(const Arguments& arguments, Reporter& reporter) {
+  if (arguments.command == Command::IcnsMake) return makeIcns(arguments, reporter);
+  if (arguments.command == Command::IcnsExtract) return extractIcns(arguments, reporter);
+  for (const auto& path : arguments.paths) listIcns(path, arguments.paths.size() > 1, reporter);
+}
+
+}  // namespace quorvane::cli

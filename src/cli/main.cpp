@@ -1,0 +1,73 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include <unistd.h>
+
+#include <QGuiApplication>
+#include <algorithm>
+#include <cerrno>
+#include <cstdio>
+#include <cstring>
+#include <memory>
+
+#include "cli/Arguments.h"
+#include "cli/Commands.h"
+#include "cli/ExitCode.h"
+#include "cli/Terminal.h"
+#include "iconfamily/AppleDoubleForkStore.h"
+#include "system/FileManagerNotices.h"
+#include "system/KindIcons.h"
+
+namespace {
+
+using namespace quorvane;
+using namespace quorvane::cli;
+
+/// Hands over to the window program beside this one; returns only when that cannot be.
+int startWindow(char** argv) {
+  std::error_code error;
+  const auto self = std::filesystem::read_symlink("/proc/self/exe", error);
+  const std::string window = (self.parent_path() / "quorvane-window").string();
+  if (!error) ::execv(window.c_str(), argv);
+  if (argv[1] == nullptr) {
+    std::fputs("Use: quorvane COMMAND ...\nTry 'quorvane --help'.\n", stderr);
+  } else {
+    const std::string nearest = nearestWord(argv[1], commandWords());
+    std::fprintf(stderr, "quorvane: unknown command '%s'%s\nTry 'quorvane --help'.\n",
+                 printable(std::string_view(argv[1])).c_str(),
+                 nearest.empty() ? "" : (", did you mean '" + nearest + "'?").c_str());
+  }
+  return exitWrongUse;
+}
+
+bool isForWindow(int argc, char** argv) {
+  if (argc < 2) return true;
+  const std::string_view first = argv[1];
+  return !first.starts_with("-") && std::ranges::find(commandWords(), first) == commandWords().end();
+}
+
+/// Text needs fonts, fonts need this; other commands start faster without.
+bool drawsText(Command command) { return command == Command::Apply || command == Command::Render; }
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  if (isForWindow(argc, argv)) return startWindow(argv);
+  const auto parsed = parseArguments(argc, argv);
+  if (const auto* finished = std::get_if<Finished>(&parsed)) return finished->exitCode;
+  const auto& arguments = std::get<Arguments>(parsed);
+
+  // Never a display, whatever the session has; and no word of Qt's among ours.
+  qputenv("QT_QPA_PLATFORM", "offscreen");
+  qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) {});
+  std::unique_ptr<QCoreApplication> application;
+  if (drawsText(arguments.command)) {
+    application = std::make_unique<QGuiApplication>(argc, argv);
+  } else {
+    application = std::make_unique<QCoreApplication>(argc, argv);
+  }
+  watchSignals();
+
+  AppleDoubleForkStore forks;
+  const auto kinds = makeDesktopKindIcons();
+  StampingNotices notices;
+  return run(arguments, {.forks = forks, .kinds = *kinds, .notices = notices});
+}

@@ -1,0 +1,133 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "iconfamily/IconFamily.h"
+
+#include <algorithm>
+#include <memory>
+#include <utility>
+#include <vector>
+
+#include "iconfamily/ElementStore.h"
+#include "iconfamily/ElementTypes.h"
+#include "iconfamily/IconFamilyInternals.h"
+#include "iconfamily/format/IcnsContainer.h"
+
+namespace quorvane {
+
+namespace {
+
+// The canvas's own unit: whatever the pixels of its representations, an icon is this many points wide and high, so that
+// what the canvas shows is what gets applied.
+constexpr Size iconPoints{128, 128};
+
+std::optional<Bytes> elementData(const WrittenElement& element, const BitmapImageRep& bitmap) {
+  switch (element.data) {
+    case ElementData::Argb32:
+      return internals::get32BitData(bitmap, element.pixels);
+    case ElementData::Indexed8:
+      return internals::get8BitData(bitmap, element.pixels);
+    case ElementData::Mask8:
+      return internals::get8BitMask(bitmap, element.pixels);
+    case ElementData::Bit1AndMask:
+      return internals::get1BitMask(bitmap, element.pixels);
+  }
+  return std::nullopt;
+}
+
+}  // namespace
+
+IconFamily IconFamily::iconFamilyWithIconFamilyHandle(Bytes handle) {
+  IconFamily family;
+  family.hIconFamily = std::move(handle);
+  return family;
+}
+
+IconFamily IconFamily::initWithData(ByteView data) {
+  return iconFamilyWithIconFamilyHandle(Bytes(data.begin(), data.end()));
+}
+
+Result<IconFamily> IconFamily::iconFamilyWithThumbnailsOfImage(const Image& image,
+                                                               ImageInterpolation usingImageInterpolation) {
+  const auto resampled = internals::resampleImage(image, 512, usingImageInterpolation);
+  const auto large = resampled ? resampled->bitmapRepresentation() : std::nullopt;
+  if (!large) return Error::invalidInput("the image has no picture to make an icon of");
+
+  IconFamily family;
+  const auto store = [&family](const BitmapImageRep& bitmap, std::initializer_list<FourCharCode> types) {
+    // The outcome of a single store is not looked at: a family without that element is still of use.
+    for (const FourCharCode type : types) (void)family.setIconFamilyElement(type, bitmap);
+  };
+  store(*large, {"ic09"});
+  // Every size is scaled from the 512-pixel bitmap, never from the next larger one.
+  const auto scaled = [&](float pixels) {
+    return large->bitmapImageRepByScalingToSize({pixels, pixels}, usingImageInterpolation, std::nullopt);
+  };
+  store(scaled(256), {"ic08"});
+  store(scaled(128), {"it32", "t8mk"});
+  store(scaled(32), {"il32", "icl8", "l8mk", "ICN#"});
+  store(scaled(16), {"is32", "ics8", "s8mk", "ics#"});
+  return family;
+}
+
+bool IconFamily::setIconFamilyElement(FourCharCode type, const BitmapImageRep& fromBitmapImageRep) {
+  const WrittenElement* element = writtenElement(type);
+  if (element == nullptr) return false;
+  const auto data = elementData(*element, fromBitmapImageRep);
+  return data && setIconFamilyData(hIconFamily, type, *data).ok();
+}
+
+std::optional<BitmapImageRep> IconFamily::bitmapImageRepWithAlphaForIconFamilyElement(FourCharCode type) const {
+  static constexpr FourCharCode decodable[] = {"ic09", "ic08", "it32", "ih32", "il32", "is32"};
+  if (std::ranges::find(decodable, type) == std::end(decodable)) return std::nullopt;
+  const ElementType& known = *elementType(type);
+  auto argb = getIconFamilyData(hIconFamily, type);
+  const std::size_t pixels = static_cast<std::size_t>(known.pixelsWide) * static_cast<std::size_t>(known.pixelsHigh);
+  if (!argb || argb->size() != 4 * pixels) return std::nullopt;
+  if (known.mask) {
+    const auto mask = icnsElement(hIconFamily, *known.mask);
+    const bool usable = mask && mask->size() >= pixels;
+    for (std::size_t i = 0; i < pixels; ++i) {
+      std::uint8_t& alpha = (*argb)[4 * i];
+      alpha = usable ? static_cast<std::uint8_t>(alpha | (*mask)[i]) : std::uint8_t{255};
+    }
+  }
+  BitmapLayout layout = BitmapLayout::rgba(known.pixelsWide, known.pixelsHigh);
+  layout.alphaFirst = true;
+  layout.isPremultiplied = false;
+  return BitmapImageRep::bitmapImageRepWithLayout(layout, *std::move(argb));
+}
+
+std::optional<Image> IconFamily::imageWithAllReps() const {
+  const auto elements = icnsElements(hIconFamily);
+  if (!elements) return std::nullopt;
+  const auto holds = [&](FourCharCode type) {
+    return std::ranges::find(*elements, type, &IcnsElement::type) != elements->end();
+  };
+
+  // Types of one pixel size stand together in the table, best form first: a damaged element gives way to the next.
+  const auto bytes = std::make_shared<const Bytes>(hIconFamily);
+  Image image(iconPoints);
+  image.setScalesWhenResized(true);
+  const auto types = elementTypes();
+  for (auto first = types.begin(); first != types.end();) {
+    const auto isOtherSize = [&](const ElementType& type) {
+      return type.pixelsWide != first->pixelsWide || type.pixelsHigh != first->pixelsHigh;
+    };
+    const auto last = std::find_if(first, types.end(), isOtherSize);
+    std::vector<FourCharCode> candidates;
+    for (auto type = first; type != last; ++type)
+      if (type->isPicture() && holds(type->type)) candidates.push_back(type->type);
+    if (!candidates.empty()) {
+      image.addRepresentation(ImageRep::pending(
+          first->pixelsWide, first->pixelsHigh, iconPoints, [bytes, candidates]() -> std::optional<BitmapImageRep> {
+            for (const FourCharCode type : candidates)
+              if (auto decoded = decodeIconFamilyElement(*bytes, type)) return *std::move(decoded);
+            return std::nullopt;
+          }));
+    }
+    first = last;
+  }
+  if (image.representations().empty()) return std::nullopt;
+  return image;
+}
+
+}  // namespace quorvane

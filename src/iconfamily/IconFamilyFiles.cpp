@@ -1,0 +1,46 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Where icon families come from and go to besides images: files, and the icons that are shown for things.
+#include "foundation/FileReading.h"
+#include "foundation/Folder.h"
+#include "foundation/base/Limits.h"
+#include "iconfamily/CustomIcon.h"
+#include "iconfamily/IconFamily.h"
+#include "iconfamily/IconServices.h"
+#include "iconfamily/format/IcnsContainer.h"
+
+namespace quorvane {
+
+namespace {
+
+Result<IconFamily> familyOfImage(const std::optional<Image>& image) {
+  if (!image) return Error(ErrorKind::NotFound, "there is no icon of its kind");
+  return IconFamily::iconFamilyWithThumbnailsOfImage(*image);
+}
+
+}  // namespace
+
+Result<IconFamily> IconFamily::iconFamilyWithContentsOfFile(const std::filesystem::path& path) {
+  Bytes bytes = TRY(readPlainFile(path, limits::iconFileBytes));
+  if (const auto elements = icnsElements(bytes); !elements) return elements.error().at(path);
+  return iconFamilyWithIconFamilyHandle(std::move(bytes));
+}
+
+Result<IconFamily> IconFamily::iconFamilyWithIconOfFile(const std::filesystem::path& path, const IconServices& services) {
+  if (auto custom = TRY(readCustomIcon(path, services.forks))) return *std::move(custom);
+  auto family = familyOfImage(services.kinds.iconForKindOfFile(path));
+  if (!family) return std::move(family).error().at(path);
+  return family;
+}
+
+Result<IconFamily> IconFamily::iconFamilyWithSystemIcon(FourCharCode type, const IconServices& services) {
+  return familyOfImage(services.kinds.systemIcon(type));
+}
+
+Result<void> IconFamily::writeToFile(const std::filesystem::path& path) const {
+  const auto parent = path.has_parent_path() ? path.parent_path() : std::filesystem::path(".");
+  Folder folder = TRY(Folder::open(parent, Folder::Access::Write));
+  TRY_VOID(folder.writeFile(path.filename().string(), hIconFamily));
+  return {};
+}
+
+}  // namespace quorvane

@@ -1,0 +1,238 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The way back: what stood in a folder before its first icon of ours.
+#include <array>
+
+#include "foundation/base/Log.h"
+#include "iconfamily/AppleDoubleForkStore.h"
+#include "iconfamily/Companion.h"
+#include "iconfamily/FolderCompanion.h"
+#include "iconfamily/IconFile.h"
+#include "iconfamily/OriginalState.h"
+
+namespace quorvane {
+
+namespace {
+
+using Access = Folder::Access;
+
+constexpr std::size_t stateBytes = 1 << 20;
+// The only bits of a folder's Finder info that we ever change.
+constexpr std::uint16_t ourFlags = FinderInfo::hasCustomIcon | FinderInfo::hasBeenInited;
+
+// An icon file and its companion, and the names under which they and the file's attribute are kept.
+struct IconFileKeys {
+  const char* name;
+  const char* companion;
+  const char* key;
+  const char* companionKey;
+  const char* attributeKey;
+};
+constexpr std::array<IconFileKeys, 2> iconFileKeys{{
+    {iconFileName, "._Icon\r", "icon", "icon-companion", "icon-attribute"},
+    {mappedIconFileName, "._Icon\xEF\x80\x8D", "mapped-icon", "mapped-icon-companion", "mapped-icon-attribute"},
+}};
+constexpr const char* besideKey = "folder-companion";
+constexpr const char* insideKey = "inside-companion";
+constexpr const char* attributeKey = "folder-attribute";
+
+// Whether there was something to keep.
+Result<bool> keep(const Folder& folder, const std::string& name, const Folder& into, const char* key) {
+  if (!TRY(folder.statusOf(name))) return false;
+  TRY_VOID(folder.preserve(name, into, key));
+  return true;
+}
+
+// The same for a companion of the folder. Nothing is said of one that cannot be read: it is never changed.
+Result<void> keepFoldersCompanion(const Folder& holder, const std::string& file, const Folder& into, const char* key,
+                                  OriginalState& state) {
+  if (!companion::read(holder, file).ok()) return {};
+  state.setKept(key, TRY(keep(holder, file, into, key)));
+  return {};
+}
+
+bool isSameItem(const Folder& one, const std::string& name, const Folder& other, const std::string& otherName) {
+  const auto a = one.statusOf(name);
+  const auto b = other.statusOf(otherName);
+  return a.ok() && b.ok() && *a && *b && (*a)->st_dev == (*b)->st_dev && (*a)->st_ino == (*b)->st_ino;
+}
+
+bool isSameAge(const Folder& one, const std::string& name, const Folder& other, const std::string& otherName) {
+  const auto a = one.statusOf(name);
+  const auto b = other.statusOf(otherName);
+  return a.ok() && b.ok() && *a && *b && (*a)->st_mode == (*b)->st_mode &&
+         (*a)->st_mtim.tv_sec == (*b)->st_mtim.tv_sec && (*a)->st_mtim.tv_nsec == (*b)->st_mtim.tv_nsec;
+}
+
+// Makes `name` in the folder the file that is kept under `key`, or absent. What is kept stays for another attempt.
+Result<void> giveBack(Folder& folder, const std::string& name, const Folder& from, const char* key, bool kept) {
+  if (!kept) return folder.removeFile(name);
+  if (isSameItem(folder, name, from, key)) return {};
+  const std::string temporary = Folder::temporaryName();
+  TRY_VOID(from.preserve(key, folder, temporary));
+  auto renamed = folder.rename(temporary, folder, name);
+  if (!renamed.ok()) static_cast<void>(folder.removeFile(temporary));  // else the next opening sweeps it
+  return renamed;
+}
+
+AppleDouble withoutOurFlags(AppleDouble content) {
+  content.setFinderInfo(companion::withFlags(content.finderInfo().value_or(FinderInfo()), 0, ourFlags));
+  return content;
+}
+
+// A folder's companion may have been written by others since: then only our flags come out of it.
+enum class WayBack { Nothing, Exact, OurFlags };
+
+struct CompanionChange {
+  WayBack way = WayBack::Nothing;
+  companion::Companion present;
+  std::uint16_t originalFlags = 0;
+};
+
+Result<CompanionChange> wayBack(const Folder& holder, const std::string& file, const Folder& from, const char* key,
+                                bool kept) {
+  CompanionChange change;
+  if (kept && isSameItem(holder, file, from, key)) return change;
+  auto present = companion::read(holder, file);
+  if (!present.ok()) {
+    // Nothing that we would have written.
+    logMessage("iconfamily", present.error().message());
+    return change;
+  }
+  change.present = std::move(*present);
+  if (!change.present.bytes && !kept) return change;
+  companion::Companion original;
+  if (kept) original = TRY(companion::read(from, key));
+  if (const auto info = original.content.finderInfo()) change.originalFlags = info->flags() & ourFlags;
+
+  // Where links are not possible, what is kept is a copy of what may not have been touched.
+  if (kept && change.present.bytes == original.bytes && isSameAge(holder, file, from, key)) return change;
+  const AppleDouble now = withoutOurFlags(change.present.content);
+  const bool onlyOurs = !change.present.bytes || (!kept && now.isBlank()) ||
+                        (kept && TRY(now.serialize()) == TRY(withoutOurFlags(original.content).serialize()));
+  change.way = onlyOurs ? WayBack::Exact : WayBack::OurFlags;
+  return change;
+}
+
+Result<void> giveCompanionBack(Folder& holder, const std::string& file, const Folder& from, const char* key,
+                               bool kept) {
+  auto change = TRY(wayBack(holder, file, from, key, kept));
+  switch (change.way) {
+    case WayBack::Nothing:
+      return {};
+    case WayBack::Exact:
+      return giveBack(holder, file, from, key, kept);
+    case WayBack::OurFlags:
+      break;
+  }
+  const FinderInfo info = change.present.content.finderInfo().value_or(FinderInfo());
+  change.present.content.setFinderInfo(companion::withFlags(info, change.originalFlags, ourFlags));
+  return companion::write(holder, file, change.present);
+}
+
+// The same for the folder's attribute.
+Result<void> giveAttributeBack(Folder& folder, const std::optional<Bytes>& original) {
+  const std::string name = AppleDoubleForkStore::infoAttribute;
+  const auto present = TRY(folder.attribute(name));
+  if (present == original) return {};
+  const auto withoutOurs = [](const std::optional<Bytes>& value) {
+    return companion::withFlags(value.value_or(Bytes()), 0, ourFlags);
+  };
+  if (withoutOurs(present) == withoutOurs(original))
+    return original ? folder.setAttribute(name, *original) : folder.removeAttribute(name);
+  const auto flags = FinderInfo(original.value_or(Bytes())).flags() & ourFlags;
+  return folder.setAttribute(
+      name, companion::withFlags(present.value_or(Bytes()), static_cast<std::uint16_t>(flags), ourFlags));
+}
+
+}  // namespace
+
+Result<void> AppleDoubleForkStore::saveOriginal(const Folder& folder, Folder& into) const {
+  OriginalState state;
+  const auto attributeOf = [&](const std::string& file) -> Result<std::optional<Bytes>> {
+    if (!_usesAttributes()) return std::optional<Bytes>();
+    return folder.attributeOf(file, infoAttribute);
+  };
+  for (const auto& each : iconFileKeys) {
+    state.setKept(each.key, TRY(keep(folder, each.name, into, each.key)));
+    state.setKept(each.companionKey, TRY(keep(folder, each.companion, into, each.companionKey)));
+    // Attributes belong to the file, whatever its names: the kept one shares those that are changed later.
+    state.setBytes(each.attributeKey, TRY(attributeOf(each.name)));
+  }
+  TRY_VOID(keepFoldersCompanion(folder, companion::insideName, into, insideKey, state));
+  const auto own = companion::ofFolder(folder, Access::Read);
+  if (own.ok() && own->above) TRY_VOID(keepFoldersCompanion(*own->above, own->file, into, besideKey, state));
+  state.setBytes(attributeKey, _usesAttributes() ? TRY(folder.attribute(infoAttribute)) : std::optional<Bytes>());
+  TRY_VOID(into.writeFile(OriginalState::fileName, state.serialize()));
+  return {};
+}
+
+Result<void> AppleDoubleForkStore::restoreOriginal(Folder& folder, const Folder& from) {
+  const auto text = TRY(from.readFile(OriginalState::fileName, stateBytes));
+  if (!text)
+    return Error(ErrorKind::NotFound, "there is no record of the original icon")
+        .at(from.pathOf(OriginalState::fileName));
+  const auto parsed = OriginalState::parse(*text);
+  if (!parsed.ok()) return parsed.error().at(from.pathOf(OriginalState::fileName));
+  const OriginalState& state = *parsed;
+
+  // All is looked at before anything is changed.
+  const auto isKept = [&](const char* key) -> Result<bool> {
+    const bool kept = TRY(state.isKept(key));
+    const auto info = kept ? TRY(from.statusOf(key)) : std::optional<struct stat>();
+    if (kept && (!info || !S_ISREG(info->st_mode)))
+      return Error::invalidInput("the kept original is missing").at(from.pathOf(key));
+    return kept;
+  };
+  const auto isFree = [&](const std::string& name) -> Result<void> {
+    const auto info = TRY(folder.statusOf(name));
+    if (info && !S_ISREG(info->st_mode)) return Error::refused("is no plain file").at(folder.pathOf(name));
+    return {};
+  };
+  bool hadIconFile = false;
+  for (const auto& each : iconFileKeys) {
+    hadIconFile = TRY(isKept(each.key)) || hadIconFile;
+    static_cast<void>(TRY(isKept(each.companionKey)));
+    static_cast<void>(TRY(state.bytes(each.attributeKey)));
+    TRY_VOID(isFree(each.name));
+    TRY_VOID(isFree(each.companion));
+  }
+  const bool hadInside = state.tellsOf(insideKey) && TRY(isKept(insideKey));
+  const bool hadBeside = state.tellsOf(besideKey) && TRY(isKept(besideKey));
+  const auto attribute = TRY(state.bytes(attributeKey));
+
+  const auto restoreFiles = [&]() -> Result<void> {
+    for (const auto& each : iconFileKeys) {
+      TRY_VOID(giveBack(folder, each.companion, from, each.companionKey, *isKept(each.companionKey)));
+      const bool kept = *isKept(each.key);
+      TRY_VOID(giveBack(folder, each.name, from, each.key, kept));
+      if (!kept || !_usesAttributes()) continue;
+      const auto wanted = TRY(state.bytes(each.attributeKey));
+      if (TRY(folder.attributeOf(each.name, infoAttribute)) == wanted) continue;
+      TRY_VOID(wanted ? folder.setAttributeOf(each.name, infoAttribute, *wanted)
+                      : folder.removeAttributeOf(each.name, infoAttribute));
+    }
+    return {};
+  };
+  const auto restoreInfo = [&]() -> Result<void> {
+    if (_usesAttributes()) TRY_VOID(giveAttributeBack(folder, attribute));
+    if (state.tellsOf(insideKey))
+      TRY_VOID(giveCompanionBack(folder, companion::insideName, from, insideKey, hadInside));
+    if (!state.tellsOf(besideKey)) return {};
+    const auto own = companion::ofFolder(folder, Access::Read);
+    if (!own.ok()) return hadBeside ? Result<void>(own.error()) : Result<void>();
+    if (!own->above || TRY(wayBack(*own->above, own->file, from, besideKey, hadBeside)).way == WayBack::Nothing)
+      return {};
+    auto writable = TRY(companion::ofFolder(folder, Access::Write));
+    if (!writable.above) return Error::refused("the folder was moved meanwhile").at(folder.path());
+    return giveCompanionBack(*writable.above, writable.file, from, besideKey, hadBeside);
+  };
+  // The flag never stands without the file that it speaks of.
+  if (hadIconFile) {
+    TRY_VOID(restoreFiles());
+    return restoreInfo();
+  }
+  TRY_VOID(restoreInfo());
+  return restoreFiles();
+}
+
+}  // namespace quorvane

@@ -1,0 +1,26 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QStringList>
+
+#include "system/KindIcons.h"
+
+namespace quorvane {
+
+/// Icons from the icon theme of the user's session. Without a session that names a theme, or without a QGuiApplication
+/// (whose pictures need one), it has none.
+class ThemeKindIcons : public KindIcons {
+ public:
+  ThemeKindIcons();
+  [[nodiscard]] std::optional<Image> iconForKindOfFile(const std::filesystem::path& path) const override;
+  [[nodiscard]] std::optional<Image> systemIcon(FourCharCode type) const override;
+
+ private:
+  [[nodiscard]] std::optional<Image> iconNamed(const QStringList& names) const;
+  bool _hasTheme = false;
+};
+
+/// The name of the icon theme that the session's settings give, by the desktop that runs; empty without one.
+QString sessionIconTheme();
+
+}  // namespace quorvane

@@ -1,0 +1,162 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/core/FolderBranding.h"
+
+#include <fcntl.h>
+#include <sys/stat.h>
+
+#include "iconfamily/CustomIcon.h"
+#include "iconfamily/format/IcnsContainer.h"
+#include "support/BrandingFixture.h"
+
+namespace quorvane {
+namespace {
+
+namespace fs = std::filesystem;
+using Attributes = AppleDoubleForkStore::Attributes;
+
+class FolderBrandingTest : public test::BrandingFixture {};
+INSTANTIATE_TEST_SUITE_P(, FolderBrandingTest, ::testing::Values(Attributes::Use, Attributes::Ignore),
+                         [](const auto& row) { return row.param == Attributes::Use ? "Attributes" : "Companions"; });
+
+TEST_P(FolderBrandingTest, ApplyKeepsTheFirstIconAndIsIdempotent) {
+  ASSERT_EQ(*branding.writeIconWithImage(test::plainImage(Qt::red), folder), BrandingOutcome::Changed);
+  const Bytes red = shownIcon();
+  const Bytes backup = test::readFile(folder / ".BackupIcon.icns");
+  EXPECT_EQ(IconFamily::initWithData(backup), *IconFamily::iconFamilyWithThumbnailsOfImage(*kinds.systemIcon("fldr")));
+  EXPECT_FALSE(notices.noted.empty());
+
+  const std::string once = test::describeTree(tree.path(), true);
+  EXPECT_EQ(*branding.writeIconWithImage(test::plainImage(Qt::red), folder), BrandingOutcome::Unchanged);
+  EXPECT_EQ(test::describeTree(tree.path(), true), once);
+
+  ASSERT_EQ(*branding.writeIconWithImage(test::plainImage(Qt::blue), folder), BrandingOutcome::Changed);
+  EXPECT_NE(shownIcon(), red);
+  EXPECT_EQ(test::readFile(folder / ".BackupIcon.icns"), backup);
+}
+
+TEST_P(FolderBrandingTest, RevertPutsTheIconFromBeforeTheFirstApplyBackOnce) {
+  const auto former = *IconFamily::iconFamilyWithThumbnailsOfImage(test::plainImage(Qt::green));
+  ASSERT_TRUE(former.setAsCustomIconForDirectory(folder, services).ok());
+  ASSERT_TRUE(branding.writeIconWithImage(test::plainImage(Qt::red), folder).ok());
+  ASSERT_TRUE(branding.writeIconWithImage(test::plainImage(Qt::blue), folder).ok());
+  EXPECT_EQ(*branding.revert(folder), BrandingOutcome::Changed);
+  EXPECT_EQ(shownIcon(), former.data());
+  EXPECT_FALSE(fs::exists(folder / ".BackupIcon.icns"));
+  EXPECT_EQ(*branding.revert(folder), BrandingOutcome::NothingToRevert);
+  EXPECT_EQ(shownIcon(), former.data());
+}
+
+TEST_P(FolderBrandingTest, ResetLeavesTheTreeAsItWasBitForBit) {
+  test::writeFile(folder / "letter.txt", std::string("Dear all"));
+  test::writeFile(tree / "._Neighbour", std::string("not ours"));
+  ::chmod(folder.c_str(), 02750);
+  const timespec times[2] = {{.tv_sec = 1'000'000'000, .tv_nsec = 5}, {.tv_sec = 1'000'000'001, .tv_nsec = 123'456'789}};
+  ::utimensat(AT_FDCWD, folder.c_str(), times, 0);
+  // The folder above gets a companion for a moment; its date is not ours to keep.
+  const auto picture = [&] { return test::describeTree(folder, true); };
+  const std::string before = picture();
+
+  ASSERT_TRUE(branding.writeIconWithImage(test::plainImage(Qt::red), folder).ok());
+  EXPECT_NE(picture(), before);
+  ASSERT_TRUE(branding.writeIconWithImage(test::plainImage(Qt::blue), folder).ok());
+  ASSERT_TRUE(branding.revert(folder).ok());
+  ASSERT_TRUE(branding.writeIconWithImage(test::plainImage(Qt::yellow), folder).ok());
+  ASSERT_EQ(*branding.reset(folder), BrandingOutcome::Changed);
+  EXPECT_EQ(picture(), before);
+  EXPECT_EQ(test::readFile(tree / "._Neighbour"), (Bytes{'n', 'o', 't', ' ', 'o', 'u', 'r', 's'}));
+  EXPECT_FALSE(fs::exists(tree / "._Invoices"));
+  EXPECT_EQ(*branding.reset(folder), BrandingOutcome::NothingToRevert);
+}
+
+TEST_P(FolderBrandingTest, ResetGivesAFormerCustomIconAndAForeignBackupBack) {
+  const auto former = *IconFamily::iconFamilyWithThumbnailsOfImage(test::plainImage(Qt::green));
+  ASSERT_TRUE(former.setAsCustomIconForDirectory(folder, services, true).ok());
+  ::chmod((folder / "Icon\r").c_str(), 0640);
+  test::writeFile(folder / ".BackupIcon.icns", former.data());
+  const std::string before = test::describeTree(tree.path());
+  ASSERT_TRUE(branding.writeIconWithImage(test::plainImage(Qt::red), folder).ok());
+  ASSERT_TRUE(branding.revert(folder).ok());
+  ASSERT_TRUE(branding.reset(folder).ok());
+  EXPECT_EQ(test::describeTree(tree.path()), before);
+}
+
+TEST_P(FolderBrandingTest, ResetKeepsADateThatSomebodyElseSet) {
+  ASSERT_TRUE(branding.writeIconWithImage(test::plainImage(Qt::red), folder).ok());
+  const timespec times[2] = {{.tv_sec = 7, .tv_nsec = 0}, {.tv_sec = 8, .tv_nsec = 9}};
+  ::utimensat(AT_FDCWD, folder.c_str(), times, 0);
+  ASSERT_TRUE(branding.reset(folder).ok());
+  struct stat info {};
+  ::stat(folder.c_str(), &info);
+  EXPECT_EQ(info.st_mtim.tv_sec, 8);
+}
+
+TEST_P(FolderBrandingTest, DryRunWritesNothing) {
+  const std::string before = test::describeTree(tree.path(), true);
+  EXPECT_EQ(*branding.writeIconWithImage(test::plainImage(Qt::red), folder, WriteMode::DryRun), BrandingOutcome::Changed);
+  EXPECT_EQ(*branding.revert(folder, WriteMode::DryRun), BrandingOutcome::NothingToRevert);
+  EXPECT_EQ(test::describeTree(tree.path(), true), before);
+}
+
+TEST_P(FolderBrandingTest, PlantedThingsAreRefusedAndTheOldIconStays) {
+  const auto former = *IconFamily::iconFamilyWithThumbnailsOfImage(test::plainImage(Qt::green));
+  test::writeFile(tree / "victim", std::string("precious"));
+  for (const std::string name : {"Icon\r", "._Icon\r", ".BackupIcon.icns", ".quorvane", "Icon\xEF\x80\x8D"}) {
+    for (const char kind : {'l', 'L', 'd', 'f', 't'}) {
+      if (name == ".quorvane" && kind == 't') continue;
+      SCOPED_TRACE(name + " as " + kind);
+      fs::remove_all(folder);
+      fs::create_directory(folder);
+      ASSERT_TRUE(former.setAsCustomIconForDirectory(folder, services).ok());
+      const bool isIcon = name == "Icon\r" || name == "._Icon\r";
+      fs::remove(folder / name);
+      const auto planted = folder / name;
+      if (kind == 'l') fs::create_symlink(tree / "victim", planted);
+      if (kind == 'L') fs::create_symlink(tree / "nowhere", planted);
+      if (kind == 'd') fs::create_directories(planted / "inner");
+      if (kind == 'f') {
+        ASSERT_EQ(::mkfifo(planted.c_str(), 0600), 0);
+      }
+      if (kind == 't') {
+        // Plain files with nonsense in them: only what is read as ours matters.
+        if (name != "._Icon\r") continue;
+        test::writeFile(planted, std::string("nonsense"));
+      }
+      const std::string before = test::describeTree(tree.path());
+      const auto outcome = branding.writeIconWithImage(test::plainImage(Qt::red), folder);
+      ASSERT_FALSE(outcome.ok());
+      EXPECT_NE(outcome.error().message().find(tree.path().filename().string()), std::string::npos);
+      EXPECT_EQ(test::describeTree(tree.path()), before);
+      if (!isIcon) {
+        EXPECT_EQ(shownIcon(), former.data());
+      }
+      EXPECT_TRUE(branding.status(folder).ok());
+    }
+  }
+  EXPECT_EQ(test::readFile(tree / "victim"), (Bytes{'p', 'r', 'e', 'c', 'i', 'o', 'u', 's'}));
+}
+
+TEST_P(FolderBrandingTest, WhatIsNoFolderOrNobodysToBrandIsRefused) {
+  test::writeFile(tree / "file", std::string("x"));
+  for (const fs::path& path : {tree / "file", tree / "missing", fs::path("/"), fs::path("/proc/self"), fs::path("/home")})
+    EXPECT_FALSE(branding.writeIconWithImage(test::plainImage(Qt::red), path, WriteMode::DryRun).ok()) << path;
+  EXPECT_FALSE(branding.writeIconWithImage(std::nullopt, folder).ok());
+  EXPECT_TRUE(fs::is_empty(folder));
+}
+
+TEST_P(FolderBrandingTest, StatusNamesWhatIsThereAndWhatContradictsItself) {
+  EXPECT_FALSE(branding.status(folder)->hasCustomIcon);
+  ASSERT_TRUE(branding.writeIconWithImage(test::plainImage(Qt::red), folder).ok());
+  const auto whole = *branding.status(folder);
+  EXPECT_TRUE(whole.hasCustomIcon && whole.hasBackup && whole.hasRecord && !whole.isIncomplete());
+  EXPECT_GT(whole.bytes, 1000U);
+  fs::remove(folder / "._Icon\r");
+  const auto half = *branding.status(folder);
+  EXPECT_TRUE(half.isIncomplete());
+  EXPECT_FALSE(half.hasCustomIcon);
+  // Applying again mends it.
+  ASSERT_EQ(*branding.writeIconWithImage(test::plainImage(Qt::red), folder), BrandingOutcome::Changed);
+  EXPECT_FALSE(branding.status(folder)->isIncomplete());
+}
+
+}  // namespace
+}  // namespace quorvane

@@ -1,0 +1,113 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "cli/Arguments.h"
+
+#include <gtest/gtest.h>
+
+#include "cli/ExitCode.h"
+#include "cli/Terminal.h"
+#include "cli/Values.h"
+
+namespace quorvane::cli {
+namespace {
+
+struct Outcome {
+  int exitCode = -1;  ///< -1: go on with the arguments
+  Arguments arguments;
+  std::string output;
+  std::string complaint;
+};
+
+Outcome parse(std::vector<std::string> words) {
+  words.insert(words.begin(), "quorvane");
+  std::vector<const char*> argv;
+  for (const std::string& word : words) argv.push_back(word.c_str());
+  ::testing::internal::CaptureStdout();
+  ::testing::internal::CaptureStderr();
+  auto parsed = parseArguments(static_cast<int>(argv.size()), argv.data());
+  Outcome outcome;
+  std::fflush(nullptr);
+  outcome.output = ::testing::internal::GetCapturedStdout();
+  outcome.complaint = ::testing::internal::GetCapturedStderr();
+  if (auto* finished = std::get_if<Finished>(&parsed)) outcome.exitCode = finished->exitCode;
+  if (auto* arguments = std::get_if<Arguments>(&parsed)) outcome.arguments = *arguments;
+  return outcome;
+}
+
+TEST(Arguments, ReadALookAndFoldersAsRawBytes) {
+  const auto outcome = parse({"apply", "--label", "A\\nB\\\\n", "--color", "#b0002080", "--effect", "soft", "--center",
+                              "10,-2.5", "--opacity", "0.5", "--json", "--", "-odd", "caf\xE9", "new\nline "});
+  ASSERT_EQ(outcome.exitCode, -1) << outcome.complaint;
+  const Arguments& arguments = outcome.arguments;
+  EXPECT_EQ(arguments.look.label, QStringLiteral("A\nB\\n"));
+  EXPECT_EQ(arguments.look.color, QColor(0xB0, 0, 0x20, 0x80));
+  EXPECT_EQ(arguments.look.effectTag, 1);
+  EXPECT_EQ(arguments.look.labelCenter, (Point{10, -2.5F}));
+  EXPECT_EQ(arguments.form, OutputForm::Json);
+  EXPECT_EQ(arguments.paths, (std::vector<std::filesystem::path>{"-odd", "caf\xE9", "new\nline "}));
+  EXPECT_TRUE(parse({"apply", "x"}).arguments.look.label.isNull());
+}
+
+TEST(Arguments, WrongUseSaysWhatAndEndsWithTwo) {
+  struct Row {
+    std::vector<std::string> words;
+    std::string complaint;
+  };
+  for (const Row& row : {
+           Row{{"apply"}, "FOLDER"},
+           Row{{"apply", "--colour", "red", "x"}, "did you mean --color?"},
+           Row{{"apply", "--size", "12,5", "x"}, "--size takes a number"},
+           Row{{"apply", "--size", "nan", "x"}, "--size takes a number"},
+           Row{{"apply", "--opacity", "2", "x"}, "from 0 to 1"},
+           Row{{"apply", "--effect", "blurry", "x"}, "no effect 'blurry'"},
+           Row{{"apply", "--color", "#12", "x"}, "no colour"},
+           Row{{"apply", "--center", "5", "x"}, "X,Y"},
+           Row{{"apply", "--label", "\xFF", "x"}, "not UTF-8"},
+           Row{{"apply", "--label", "a", "--label-from-name", "x"}, "exclude each other"},
+           Row{{"status", "--json", "--json-lines", "x"}, "exclude each other"},
+           Row{{"revert", ""}, "empty path"},
+           Row{{"icns", "make", "only-one"}, ""},
+           Row{{"icns"}, ""},
+           Row{{"render", "--pixels", "10.5", "out.png"}, "whole number"},
+       }) {
+    const auto outcome = parse(row.words);
+    EXPECT_EQ(outcome.exitCode, exitWrongUse) << row.complaint;
+    EXPECT_NE(outcome.complaint.find(row.complaint), std::string::npos) << outcome.complaint;
+    EXPECT_NE(outcome.complaint.find("Use: quorvane"), std::string::npos) << outcome.complaint;
+    EXPECT_TRUE(outcome.output.empty());
+  }
+}
+
+TEST(Arguments, HelpOnEachLevelBeginsWithUseAndTwoExamples) {
+  for (const std::vector<std::string>& words : std::vector<std::vector<std::string>>{
+           {"--help"}, {"apply", "-h"}, {"revert", "--help"}, {"reset", "--help"}, {"status", "--help"}, {"render", "-h"},
+           {"icns", "--help"}, {"icns", "make", "--help"}, {"icns", "list", "-h"}, {"icns", "extract", "--help"}}) {
+    const auto outcome = parse(words);
+    EXPECT_EQ(outcome.exitCode, exitDone);
+    EXPECT_TRUE(outcome.complaint.empty());
+    EXPECT_TRUE(outcome.output.starts_with("Use: quorvane ")) << outcome.output;
+    const std::size_t first = outcome.output.find("\n  quorvane ");
+    EXPECT_NE(outcome.output.find("\n  quorvane ", first + 1), std::string::npos) << outcome.output;
+  }
+  EXPECT_NE(parse({"--version"}).output.find("quorvane 0."), std::string::npos);
+}
+
+TEST(Printable, NothingThatDrivesATerminalGetsThrough) {
+  EXPECT_EQ(printable(std::string("a\x1B]0;\n\x7F")), "a\\x1B]0;\\x0A\\x7F");
+  EXPECT_EQ(printable(std::string("caf\xC3\xA9 \xE2\x80\xAE gpj")), "caf\xC3\xA9 \\u{202E} gpj");
+  EXPECT_EQ(printable(std::string("\xFF\xC0\x80\xED\xA0\x80")), "\\xFF\\xC0\\x80\\xED\\xA0\\x80");
+  EXPECT_EQ(printable(std::string("\xC2\x9B" "31m")), "\\u{009B}31m");
+}
+
+TEST(Numbers, AreReadTheSameInEveryLocale) {
+  EXPECT_EQ(parseNumber("+1.5"), 1.5);
+  EXPECT_EQ(parseNumber("-1e2"), -100);
+  for (const char* text : {"", "1,5", "inf", "nan", "1e999", "0x10", "5 ", "--1"}) EXPECT_FALSE(parseNumber(text)) << text;
+  EXPECT_EQ(*parseColor("#abc"), QColor(0xAA, 0xBB, 0xCC));
+  EXPECT_EQ(*parseColor("DarkRed"), QColor(0x8B, 0, 0));
+  EXPECT_FALSE(parseColor("#12345g"));
+  EXPECT_EQ(nearestWord("aply", {"apply", "reset"}), "apply");
+  EXPECT_EQ(nearestWord("zzzz", {"apply", "reset"}), "");
+}
+
+}  // namespace
+}  // namespace quorvane::cli

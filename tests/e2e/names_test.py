@@ -1,0 +1,83 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
+"""Folder names of all kinds: branded as they are, and shown so that no terminal is driven by them."""
+import base64
+import json
+import os
+import re
+import unittest
+import urllib.parse
+
+from support import BACKUP, ICON, LABEL, EndToEndTest, read
+
+NAMES = (" ", "a b", "quote'\"`", "back\\slash", "$HOME", "*?[x]", "100%s%n", "#", "-rf", "--help", ".hidden", "...",
+         "trailing ", "two\nlines", "carriage\rreturn", "tab\t", "\x1b]0;title\x07", "\x1b[31m", "\x7f", "b" * 255,
+         "Icon", "\u00e4", "a\u0308",
+         "\u202egnp.exe", "\u05d0\u05d1", "\U0001f4c1", "\udcff\udcfe", "caf\udce9", "a\udcff\x1b[2J")
+CONTROL = re.compile("[\x00-\x09\x0b-\x1f\x7f\x80-\x9f\u202a-\u202e\u2066-\u2069]")
+
+
+class NamesTest(EndToEndTest):
+    def test_every_name_is_branded_shown_safely_and_taken_back(self):
+        for name in NAMES:
+            with self.subTest(name=name):
+                folder = self.folder(name)
+                for command in (("apply", *LABEL), ("status",), ("revert",), ("reset",)):
+                    outcome = self.expect(0, *command, "--", folder)
+                    shown = outcome.out + outcome.err
+                    self.assertIsNone(CONTROL.search(shown), outcome)
+                    if "\n" in name:
+                        self.assertNotIn("two\nlines", shown)
+                    if command[0] == "apply":
+                        self.assert_branded(folder)
+                        self.assertTrue(os.path.isfile(os.path.join(folder, BACKUP)))
+                    for _path, folders, files in os.walk(os.fsencode(self.work)):
+                        for entry in folders + files:
+                            self.assertNotIn(b"\xef\xbf\xbd", entry, "a name was changed into replacement characters")
+
+    def test_machine_output_names_every_folder_without_loss(self):
+        for name in NAMES:
+            with self.subTest(name=name):
+                folder = self.folder(name)
+                outcome = self.run_program("status", "--json", "--", folder)
+                outcome.out.encode("utf-8")  # machine output is valid UTF-8 whatever the name
+                text = json.dumps(json.loads(outcome.out))
+                self.assertTrue(self.lossless(json.loads(outcome.out), folder), text)
+
+    def lossless(self, value, folder):
+        """Whether the path stands somewhere in this value: as text, or percent-escaped, or in base64."""
+        raw = os.fsencode(folder)
+        escaped = urllib.parse.quote_from_bytes(raw)
+        forms = {escaped, "file://" + escaped, base64.b64encode(raw).decode()}
+        try:
+            forms.add(raw.decode("utf-8"))
+        except UnicodeDecodeError:
+            pass
+        if isinstance(value, dict):
+            return any(self.lossless(item, folder) for item in value.values())
+        if isinstance(value, list):
+            return any(self.lossless(item, folder) for item in value)
+        return isinstance(value, str) and (value in forms or urllib.parse.unquote_to_bytes(value) == raw)
+
+    def test_neighbours_that_look_alike_stay_apart(self):
+        pairs = (("\u00e4", "a\u0308"), ("Twin", "twin"), ("x", "x "), ("caf\udce9", "caf\u00e9"))
+        for left, right in pairs:
+            with self.subTest(pair=(left, right)):
+                first, second = self.folder(left), self.folder(right)
+                self.expect(0, "apply", *LABEL, first)
+                self.assert_branded(first)
+                self.assertFalse(os.path.lexists(os.path.join(second, ICON)))
+                self.assertEqual(sorted(os.listdir(second)), ["empty", "letter.txt"])
+
+    def test_a_path_of_the_greatest_length_is_branded(self):
+        path = self.work
+        while len(path) + 201 <= 4000:
+            path += "/" + "d" * 200
+        path += "/" + "e" * (4000 - len(path) - 1)
+        os.makedirs(path)
+        self.expect(0, "apply", *LABEL, path)
+        self.assert_branded(path)
+        self.assertGreater(len(read(os.path.join(path, BACKUP))), 8)
+
+
+if __name__ == "__main__":
+    unittest.main(verbosity=2)

@@ -1,0 +1,180 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The Finder flags of folders in their three places.
+#include <gtest/gtest.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include "iconfamily/AppleDoubleForkStore.h"
+#include "iconfamily/format/AppleDouble.h"
+#include "support/ChildProcess.h"
+#include "support/TemporaryFolder.h"
+
+namespace quorvane {
+namespace {
+
+namespace fs = std::filesystem;
+using test::TemporaryFolder;
+using Access = Folder::Access;
+using Attributes = AppleDoubleForkStore::Attributes;
+
+constexpr std::uint16_t icon = FinderInfo::hasCustomIcon;
+constexpr std::uint16_t inited = FinderInfo::hasBeenInited;
+constexpr std::uint16_t shared = 0x0040;
+constexpr mode_t readOnly = 0555;  // to ordinary users, whoever runs the tests
+
+class FolderFlags : public ::testing::Test {
+ protected:
+  FolderFlags() { fs::create_directory(root / "f"); }
+
+  Folder folder() { return Folder::open(root / "f", Access::Write).value(); }
+  // A companion whose Finder info has these flags and something else that is not ours.
+  void writeCompanion(const fs::path& path, std::uint16_t flags) {
+    AppleDouble companion;
+    Bytes bytes(32);
+    bytes[7] = 77;
+    FinderInfo info(bytes);
+    info.setFlags(flags);
+    companion.setFinderInfo(info);
+    test::writeFile(path, *companion.serialize());
+  }
+  std::optional<std::uint16_t> flagsIn(const fs::path& path) {
+    const auto companion = AppleDouble::parse(test::readFile(path));
+    if (!companion.ok() || !companion->finderInfo()) return std::nullopt;
+    EXPECT_TRUE(companion->finderInfo()->flags() == 0 || companion->finderInfo()->bytes()[7] == 77 ||
+                companion->finderInfo()->bytes()[7] == 0);
+    return companion->finderInfo()->flags();
+  }
+  std::uint16_t attributeFlags() {
+    const auto value = Folder::open(root / "f", Access::Read)->attribute(AppleDoubleForkStore::infoAttribute);
+    return value.ok() && *value ? FinderInfo(**value).flags() : 0;
+  }
+
+  TemporaryFolder root;
+  AppleDoubleForkStore store;
+  AppleDoubleForkStore companionsOnly{Attributes::Ignore};
+};
+
+TEST_F(FolderFlags, StandInAnAttributeWhereThereAreAny) {
+  Folder open = folder();
+  if (!open.setAttribute(AppleDoubleForkStore::infoAttribute, Bytes(40, 1)).ok()) GTEST_SKIP() << "no attributes here";
+  EXPECT_EQ(*store.changeFolderFlags(open, icon, inited), FolderInfoPlace::Attribute);
+  Bytes expected(40, 1);  // foreign bytes, also those behind the 32, stay
+  expected[8] = 0x05 & ~0x01;
+  EXPECT_EQ(**open.attribute(AppleDoubleForkStore::infoAttribute), expected);
+  EXPECT_EQ(test::listing(root.path()), "f/\n");
+
+  EXPECT_TRUE(open.removeAttribute(AppleDoubleForkStore::infoAttribute).ok());
+  EXPECT_TRUE(store.changeFolderFlags(open, icon, inited).ok());
+  EXPECT_TRUE(store.changeFolderFlags(open, 0, icon | inited).ok());
+  EXPECT_FALSE(open.attribute(AppleDoubleForkStore::infoAttribute)->has_value());  // no zeros stay behind
+}
+
+TEST_F(FolderFlags, StandInTheCompanionAboveWhereThereAreNoAttributes) {
+  {
+    Folder open = folder();
+    EXPECT_EQ(*companionsOnly.changeFolderFlags(open, icon, inited), FolderInfoPlace::CompanionBeside);
+    EXPECT_EQ(companionsOnly.readFolderInfo(open)->flags(), icon);
+  }
+  EXPECT_EQ(flagsIn(root / "._f"), icon);
+  EXPECT_EQ(test::listing(root / "f"), "");
+  // The flag of an archive or a volume counts as well, and goes with the others.
+  writeCompanion(root / "f/._.", icon | shared);
+  Folder open = folder();
+  EXPECT_TRUE(companionsOnly.changeFolderFlags(open, 0, icon | inited).ok());
+  EXPECT_FALSE(fs::exists(root / "._f"));  // nothing worth keeping was left in it
+  EXPECT_EQ(flagsIn(root / "f/._."), shared);
+}
+
+TEST_F(FolderFlags, AreSetAndClearedInEveryPlaceThatExists) {
+  Folder open = folder();
+  if (!open.setAttribute(AppleDoubleForkStore::infoAttribute, Bytes(32)).ok()) GTEST_SKIP() << "no attributes here";
+  writeCompanion(root / "._f", inited | shared);
+  writeCompanion(root / "f/._.", inited);
+  EXPECT_EQ(store.readFolderInfo(open)->flags() & icon, 0);
+  EXPECT_EQ(*store.changeFolderFlags(open, icon, inited), FolderInfoPlace::Attribute);
+  EXPECT_EQ(attributeFlags(), icon);
+  EXPECT_EQ(flagsIn(root / "._f"), icon | shared);
+  EXPECT_EQ(flagsIn(root / "f/._."), icon);
+  EXPECT_TRUE(store.changeFolderFlags(open, 0, icon | inited).ok());
+  EXPECT_EQ(store.readFolderInfo(open)->flags(), shared);
+  // Any one place alone says that there is an icon.
+  for (const fs::path& place : {root / "._f", root / "f/._."}) {
+    writeCompanion(place, icon);
+    EXPECT_EQ(store.readFolderInfo(open)->flags() & icon, icon) << place;
+    EXPECT_TRUE(store.changeFolderFlags(open, 0, icon).ok());
+    EXPECT_EQ(store.readFolderInfo(open)->flags() & icon, 0) << place;
+  }
+}
+
+TEST_F(FolderFlags, StandInsideAtTheRootOfAFileSystem) {
+  const bool mounted = test::withMounted("ramfs", "", (root / "f").string(), [&] {
+    Folder open = folder();
+    EXPECT_EQ(*store.changeFolderFlags(open, icon, inited), FolderInfoPlace::CompanionInside);
+    EXPECT_EQ(store.readFolderInfo(open)->flags(), icon);
+    EXPECT_TRUE(fs::exists(root / "f/._."));
+    fs::create_directory(root / "f/sub");
+    Folder sub = open.openChild("sub", Access::Write).value();
+    // The folder above is one that we hold ourselves: not a lasting lock.
+    { Folder released = std::move(open); }
+    EXPECT_EQ(*store.changeFolderFlags(sub, icon, inited), FolderInfoPlace::CompanionBeside);
+    EXPECT_EQ(flagsIn(root / "f/._sub"), icon);
+  });
+  if (!mounted) GTEST_SKIP() << "may not mount";
+  EXPECT_EQ(test::listing(root.path()), "f/\n");
+}
+
+TEST_F(FolderFlags, WherePlantedThingsStandAboveTheAttributeServesOrItIsRefused) {
+  test::writeFile(root / "victim", "precious");
+  const std::vector<std::function<void()>> plants{
+      [&] { fs::create_symlink("victim", root / "._f"); }, [&] { fs::create_directory(root / "._f"); },
+      [&] { ::mkfifo((root / "._f").c_str(), 0600); }, [&] { test::writeFile(root / "._f", "no companion"); }};
+  for (const auto& plant : plants) {
+    plant();
+    const std::string before = test::describeTree(root.path());
+    Folder open = folder();
+    EXPECT_EQ(store.readFolderInfo(open)->flags(), 0);
+    EXPECT_FALSE(companionsOnly.changeFolderFlags(open, icon, 0).ok());
+    EXPECT_TRUE(companionsOnly.changeFolderFlags(open, 0, icon).ok());
+    EXPECT_EQ(test::describeTree(root.path()), before);
+    EXPECT_EQ(*store.changeFolderFlags(open, icon, 0), FolderInfoPlace::Attribute);
+    EXPECT_TRUE(store.changeFolderFlags(open, 0, icon).ok());
+    EXPECT_EQ(test::describeTree(root.path()), before);
+    fs::remove_all(root / "._f");
+  }
+}
+
+TEST_F(FolderFlags, WhenNeitherPlaceCanHoldThemTheReasonIsTold) {
+  ASSERT_EQ(::chmod(root.path().c_str(), readOnly), 0);
+  ASSERT_EQ(::chmod((root / "f").c_str(), 0777), 0);
+  test::asOrdinaryUser([&] {
+    Folder open = folder();
+    const auto changed = companionsOnly.changeFolderFlags(open, icon, inited);
+    ASSERT_FALSE(changed.ok());
+    EXPECT_EQ(changed.error().message(), (root / "._f").string() + ": cannot write: Permission denied");
+  });
+  ASSERT_EQ(::chmod((root / "f").c_str(), 0555), 0);
+  test::asOrdinaryUser([&] {
+    Folder open = folder();
+    const auto changed = store.changeFolderFlags(open, icon, inited);
+    ASSERT_FALSE(changed.ok());
+    EXPECT_EQ(changed.error().where(), root / "f");
+    EXPECT_NE(changed.error().why().find("as attribute: "), std::string::npos) << changed.error().why();
+    EXPECT_NE(changed.error().why().find("._f: cannot write: Permission denied"), std::string::npos);
+  });
+  EXPECT_EQ(test::listing(root.path()), "f/\n");
+}
+
+TEST_F(FolderFlags, AFlagThatCannotBeClearedIsAnError) {
+  ASSERT_EQ(::chmod((root / "f").c_str(), 0777), 0);
+  writeCompanion(root / "._f", icon);
+  ASSERT_EQ(::chmod(root.path().c_str(), readOnly), 0);
+  test::asOrdinaryUser([&] {
+    Folder open = folder();
+    EXPECT_FALSE(store.changeFolderFlags(open, 0, icon).ok());
+    EXPECT_EQ(store.readFolderInfo(open)->flags(), icon);
+    EXPECT_EQ(*store.changeFolderFlags(open, icon, inited), FolderInfoPlace::Attribute);
+  });
+}
+
+}  // namespace
+}  // namespace quorvane

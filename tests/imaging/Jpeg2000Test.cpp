@@ -1,0 +1,259 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "imaging/Jpeg2000.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <openjpeg.h>
+
+#include <algorithm>
+#include <array>
+#include <chrono>
+#include <functional>
+
+#include "foundation/base/Limits.h"
+
+namespace quorvane {
+namespace {
+
+struct Form {
+  int width = 20;
+  int height = 12;
+  std::vector<int> precisions = {8, 8, 8, 8};
+  OPJ_COLOR_SPACE space = OPJ_CLRSPC_SRGB;
+  int alpha = -1;  ///< component that a channel definition names as alpha
+  bool isAlphaPremultiplied = false;
+  bool isSigned = false;
+  bool isBoxed = true;
+  int tile = 0;  ///< width and height of the tiles
+};
+
+/// What component `c` holds at (x, y): any value of its range.
+int sampleOf(const Form& form, int c, int x, int y) {
+  return (x * 13 + y * 29 + c * 71 + x * y) % (1 << form.precisions[c]);
+}
+
+/// Where the encoder writes to.
+struct Sink {
+  Bytes bytes;
+  std::size_t position = 0;
+};
+
+/// The form's picture as another program would write it: without loss.
+Bytes written(const Form& form) {
+  std::vector<opj_image_cmptparm_t> parameters;
+  for (const int precision : form.precisions)
+    parameters.push_back({.dx = 1,
+                          .dy = 1,
+                          .w = OPJ_UINT32(form.width),
+                          .h = OPJ_UINT32(form.height),
+                          .x0 = 0,
+                          .y0 = 0,
+                          .prec = OPJ_UINT32(precision),
+                          .bpp = OPJ_UINT32(precision),
+                          .sgnd = OPJ_UINT32(form.isSigned)});
+  opj_image_t* image = opj_image_create(OPJ_UINT32(parameters.size()), parameters.data(), form.space);
+  image->x1 = OPJ_UINT32(form.width);
+  image->y1 = OPJ_UINT32(form.height);
+  for (int c = 0; c < int(parameters.size()); ++c) {
+    if (c == form.alpha) image->comps[c].alpha = 1;
+    const int offset = form.isSigned ? 1 << (form.precisions[c] - 1) : 0;
+    for (int y = 0; y < form.height; ++y)
+      for (int x = 0; x < form.width; ++x) image->comps[c].data[y * form.width + x] = sampleOf(form, c, x, y) - offset;
+  }
+  opj_cparameters_t coding;
+  opj_set_default_encoder_parameters(&coding);
+  coding.numresolution = 3;
+  coding.tcp_mct = 0;
+  if (form.tile > 0) {
+    coding.tile_size_on = OPJ_TRUE;
+    coding.cp_tdx = coding.cp_tdy = form.tile;
+  }
+  Sink sink;
+  opj_codec_t* codec = opj_create_compress(form.isBoxed ? OPJ_CODEC_JP2 : OPJ_CODEC_J2K);
+  EXPECT_TRUE(opj_setup_encoder(codec, &coding, image));
+  opj_stream_t* stream = opj_stream_create(1 << 16, OPJ_FALSE);
+  opj_stream_set_user_data(stream, &sink, nullptr);
+  opj_stream_set_write_function(stream, [](void* from, OPJ_SIZE_T count, void* user) -> OPJ_SIZE_T {
+    auto* to = static_cast<Sink*>(user);
+    to->bytes.resize(std::max(to->bytes.size(), to->position + count));
+    std::copy_n(static_cast<const std::uint8_t*>(from), count, to->bytes.data() + to->position);
+    to->position += count;
+    return count;
+  });
+  opj_stream_set_seek_function(stream, [](OPJ_OFF_T at, void* user) -> OPJ_BOOL {
+    static_cast<Sink*>(user)->position = static_cast<std::size_t>(at);
+    return OPJ_TRUE;
+  });
+  opj_stream_set_skip_function(stream, [](OPJ_OFF_T by, void* user) -> OPJ_OFF_T {
+    static_cast<Sink*>(user)->position += static_cast<std::size_t>(by);
+    return by;
+  });
+  EXPECT_TRUE(opj_start_compress(codec, image, stream) && opj_encode(codec, stream) && opj_end_compress(codec, stream));
+  opj_stream_destroy(stream);
+  opj_destroy_codec(codec);
+  opj_image_destroy(image);
+  if (form.isAlphaPremultiplied) {
+    // The library writes only the other kind: a type of 2 in the definition, which is of channel, type, association.
+    const std::string name = "cdef";
+    const auto box = std::search(sink.bytes.begin(), sink.bytes.end(), name.begin(), name.end());
+    EXPECT_NE(box, sink.bytes.end());
+    box[4 + 2 + form.alpha * 6 + 3] = 2;
+  }
+  return sink.bytes;
+}
+
+/// Decodes and compares each pixel with what `expected` makes of its samples, brought to 8 bits.
+void expectPixels(const Form& form, const std::function<std::array<int, 4>(const std::array<int, 4>&)>& expected,
+                  int tolerance = 0) {
+  const auto decoded = decodeJpeg2000(written(form), 64);
+  ASSERT_TRUE(decoded.ok()) << decoded.error().message();
+  ASSERT_EQ(decoded->pixelsWide(), form.width);
+  ASSERT_EQ(decoded->pixelsHigh(), form.height);
+  EXPECT_FALSE(decoded->layout().isPremultiplied);
+  for (int y = 0; y < form.height; ++y)
+    for (int x = 0; x < form.width; ++x) {
+      std::array<int, 4> samples{};
+      for (int c = 0; c < int(form.precisions.size()); ++c) {
+        const int value = sampleOf(form, c, x, y);
+        const int precision = form.precisions[c];
+        samples[c] = precision > 8 ? value >> (precision - 8) : value * 255 / ((1 << precision) - 1);
+      }
+      const auto wanted = expected(samples);
+      for (int channel = 0; channel < 4; ++channel)
+        ASSERT_NEAR(decoded->row(y)[x * 4 + channel], wanted[channel], tolerance) << x << "," << y << ":" << channel;
+    }
+}
+
+std::array<int, 4> asTheyAre(const std::array<int, 4>& s) {
+  return s;
+}
+std::array<int, 4> opaque(const std::array<int, 4>& s) {
+  return {s[0], s[1], s[2], 255};
+}
+
+TEST(Jpeg2000, AlphaIsTheFourthComponentWithOrWithoutAChannelDefinition) {
+  expectPixels({.alpha = 3}, asTheyAre);
+  expectPixels({}, asTheyAre);
+  expectPixels({.isBoxed = false}, asTheyAre);
+  expectPixels({.width = 50, .height = 33, .alpha = 3, .tile = 16}, asTheyAre);
+}
+
+TEST(Jpeg2000, OneToThreeComponents) {
+  expectPixels({.precisions = {8, 8, 8}}, opaque);
+  expectPixels({.precisions = {8}, .space = OPJ_CLRSPC_GRAY}, [](const auto& s) {
+    return std::array{s[0], s[0], s[0], 255};
+  });
+  expectPixels({.precisions = {8, 8}, .space = OPJ_CLRSPC_GRAY, .alpha = 1}, [](const auto& s) {
+    return std::array{s[0], s[0], s[0], s[1]};
+  });
+}
+
+TEST(Jpeg2000, OtherDepthsAreBroughtToEightBits) {
+  expectPixels({.precisions = {16, 16, 16, 16}, .alpha = 3}, asTheyAre);
+  expectPixels({.precisions = {12, 12, 12}}, opaque);
+  expectPixels({.precisions = {4, 4, 4}}, opaque);
+  expectPixels({.precisions = {1}, .space = OPJ_CLRSPC_GRAY}, [](const auto& s) {
+    return std::array{s[0], s[0], s[0], 255};
+  });
+  expectPixels({.precisions = {8, 8, 8}, .isSigned = true}, opaque);
+}
+
+TEST(Jpeg2000, LumaAndColourDifferencesAreConverted) {
+  expectPixels(
+      {.precisions = {8, 8, 8}, .space = OPJ_CLRSPC_SYCC},
+      [](const auto& s) {
+        const double y = s[0], b = s[1] - 128, r = s[2] - 128;
+        const auto byte = [](double value) { return int(std::clamp(value + 0.5, 0.0, 255.0)); };
+        return std::array{byte(y + 1.402 * r), byte(y - 0.344 * b - 0.714 * r), byte(y + 1.772 * b), 255};
+      },
+      1);
+}
+
+TEST(Jpeg2000, PremultipliedAlphaIsUndone) {
+  expectPixels({.alpha = 3, .isAlphaPremultiplied = true}, [](const auto& s) {
+    const auto undone = [&](int color) { return s[3] == 0 ? 0 : std::min(255, (2 * color * 255 + s[3]) / (2 * s[3])); };
+    return std::array{undone(s[0]), undone(s[1]), undone(s[2]), s[3]};
+  });
+}
+
+ErrorKind kindOf(const Bytes& bytes, int maxPixels = 64) {
+  const auto decoded = decodeJpeg2000(bytes, maxPixels);
+  return decoded.ok() ? ErrorKind::Broken : decoded.error().kind();
+}
+
+/// The bytes of a bare codestream with one field replaced: `offset` from the marker that begins with FF and `marker`.
+Bytes patched(Bytes bytes, std::uint8_t marker, std::size_t offset, const Bytes& value) {
+  const Bytes wanted = {0xFF, marker};
+  const auto at = std::search(bytes.begin(), bytes.end(), wanted.begin(), wanted.end());
+  EXPECT_NE(at, bytes.end());
+  std::copy(value.begin(), value.end(), at + static_cast<std::ptrdiff_t>(offset));
+  return bytes;
+}
+
+TEST(Jpeg2000, HeadersThatClaimTooMuchAreRefusedBeforeDecoding) {
+  const Bytes good = written({.isBoxed = false});
+  ASSERT_EQ(kindOf(good), ErrorKind::Broken);
+  EXPECT_EQ(kindOf(good, 19), ErrorKind::TooLarge);
+  constexpr std::uint8_t siz = 0x51;
+  constexpr std::uint8_t cod = 0x52;
+  const Bytes most = {0x7F, 0xFF, 0xFF, 0xFF};
+  EXPECT_EQ(kindOf(patched(good, siz, 6, most), limits::picturePixels), ErrorKind::TooLarge) << "width";
+  EXPECT_EQ(kindOf(patched(good, siz, 6, {0xFF, 0xFF, 0xFF, 0xFF})), ErrorKind::InvalidInput) << "width as negative";
+  EXPECT_EQ(kindOf(patched(good, siz, 14, {0, 0, 0, 20})), ErrorKind::InvalidInput) << "nothing between the edges";
+  EXPECT_EQ(kindOf(patched(good, siz, 22, {0, 0, 0, 0})), ErrorKind::InvalidInput) << "tiles of no width";
+  EXPECT_EQ(kindOf(patched(good, siz, 38, {0, 5})), ErrorKind::InvalidInput) << "five components";
+  EXPECT_EQ(kindOf(patched(good, siz, 40, {37})), ErrorKind::InvalidInput) << "38 bits";
+  EXPECT_EQ(kindOf(patched(good, siz, 41, {2})), ErrorKind::InvalidInput) << "a component of half the width";
+  EXPECT_EQ(kindOf(patched(good, cod, 9, {33})), ErrorKind::InvalidInput) << "33 levels";
+  EXPECT_EQ(kindOf(patched(good, cod, 10, {9})), ErrorKind::InvalidInput) << "code blocks of 2048";
+
+  const Bytes large = patched(patched(good, siz, 6, {0, 0, 16, 0}), siz, 10, {0, 0, 16, 0});
+  const auto tileSize = [&](std::uint8_t length) {
+    return patched(patched(large, siz, 22, {0, 0, 0, length}), siz, 26, {0, 0, 0, length});
+  };
+  EXPECT_EQ(kindOf(tileSize(4), 4096), ErrorKind::TooLarge) << "a million tiles";
+  const Bytes oneTile = patched(patched(large, siz, 22, {0, 0, 16, 0}), siz, 26, {0, 0, 16, 0});
+  EXPECT_EQ(kindOf(patched(oneTile, cod, 10, {0, 0}), 4096), ErrorKind::TooLarge) << "code blocks of 4 x 4";
+  EXPECT_EQ(kindOf(patched(tileSize(128), cod, 6, {0xFF, 0xFF}), 4096), ErrorKind::TooLarge) << "layers";
+}
+
+TEST(Jpeg2000, WhatTheDecoderMightReadOtherwiseIsRefused) {
+  const Bytes good = written({.isBoxed = false});
+  EXPECT_EQ(kindOf(patched(good, 0x5C, 0, {0xFF, 0x30})), ErrorKind::InvalidInput) << "an unknown marker";
+  EXPECT_EQ(kindOf(patched(good, 0x90, 6, {0, 0, 0, 5})), ErrorKind::InvalidInput) << "a tile shorter than its header";
+  EXPECT_EQ(kindOf({}), ErrorKind::InvalidInput);
+  EXPECT_EQ(kindOf({0xFF, 0x4F, 0xFF, 0x51}), ErrorKind::InvalidInput);
+  // A file of boxes that never comes to its picture: one box of no length, one larger than everything.
+  const Bytes start = {0, 0, 0, 12, 'j', 'P', ' ', ' ', '\r', '\n', 0x87, '\n'};
+  for (const Bytes& box : {Bytes{0, 0, 0, 4, 'f', 'r', 'e', 'e'}, Bytes{0xFF, 0xFF, 0xFF, 0xFF, 'f', 'r', 'e', 'e'},
+                           Bytes{0, 0, 0, 1, 'f', 'r', 'e', 'e', 0xFF, 0xFF, 0xFF, 0xFF, 0xFF, 0xFF, 0xFF, 0xFF}}) {
+    Bytes file = start;
+    file.insert(file.end(), box.begin(), box.end());
+    EXPECT_EQ(kindOf(file), ErrorKind::InvalidInput);
+  }
+}
+
+TEST(Jpeg2000, DamagedFilesFailQuietlyAndSoon) {
+  const auto start = std::chrono::steady_clock::now();
+  testing::internal::CaptureStderr();
+  testing::internal::CaptureStdout();
+  for (const bool isBoxed : {true, false}) {
+    const Bytes good = written({.alpha = 3, .isBoxed = isBoxed});
+    ASSERT_TRUE(isJpeg2000(good));
+    for (std::size_t at = 0; at < good.size(); ++at) {
+      const Bytes part(good.begin(), good.begin() + static_cast<std::ptrdiff_t>(at));
+      EXPECT_FALSE(decodeJpeg2000(part, 64).ok() && at < good.size() / 2) << at;
+      for (const unsigned flip : {0x01U, 0x80U, 0xFFU}) {
+        Bytes damaged = good;
+        damaged[at] = static_cast<std::uint8_t>(damaged[at] ^ flip);
+        const auto decoded = decodeJpeg2000(damaged, 64);
+        EXPECT_TRUE(!decoded.ok() || decoded->pixelsWide() <= 64);
+      }
+    }
+  }
+  EXPECT_EQ(testing::internal::GetCapturedStderr() + testing::internal::GetCapturedStdout(), "");
+  EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(60));
+}
+
+}  // namespace
+}  // namespace quorvane

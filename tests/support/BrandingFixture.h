@@ -1,0 +1,47 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+
+#include "app/core/FolderBranding.h"
+#include "iconfamily/AppleDoubleForkStore.h"
+#include "support/TemporaryFolder.h"
+#include "system/FileManagerNotices.h"
+#include "system/KindIcons.h"
+
+namespace quorvane::test {
+
+/// Remembers which folders were noted as changed.
+class RecordingNotices : public FileManagerNotices {
+ public:
+  Result<void> noteDirectoryModified(Folder& folder) override {
+    noted.push_back(folder.path());
+    return {};
+  }
+  std::vector<std::filesystem::path> noted;
+};
+
+/// A picture of one colour, opaque, 128 points and `pixels` pixels a side.
+Image plainImage(QColor color, int pixels = 64);
+
+/// A folder in a temporary folder, and the services that work on it. The parameter says whether the file system is used
+/// as one with extended attributes.
+class BrandingFixture : public ::testing::TestWithParam<AppleDoubleForkStore::Attributes> {
+ protected:
+  TemporaryFolder tree;
+  std::filesystem::path folder = tree / "Invoices";
+  AppleDoubleForkStore forks{GetParam()};
+  OwnKindIcons kinds;
+  RecordingNotices notices;
+  IconServices services{.forks = forks, .kinds = kinds, .notices = notices};
+  FolderBranding branding{services};
+
+  BrandingFixture() { std::filesystem::create_directory(folder); }
+
+  /// The family that the folder shows as its custom icon; empty bytes without one.
+  [[nodiscard]] Bytes shownIcon() const;
+};
+
+}  // namespace quorvane::test
