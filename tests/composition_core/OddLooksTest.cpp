@@ -19,7 +19,7 @@ class OddLooks : public ::testing::Test {
  protected:
   /// Draws and gives back whether the base shows unchanged.
   static bool showsBaseAlone(const LabelLook& look, const QString& text = QStringLiteral("Odd\nlook")) {
-    const Image base = squareBase(128, 64);
+    const Image base = squareBase(128, 512);
     const LabelRenderer renderer(look);
     const Image icon = renderer._iconWithBase(base, text);
     EXPECT_EQ(icon.size(), base.size());

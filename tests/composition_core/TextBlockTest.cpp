@@ -118,8 +118,14 @@ TEST(TextBlock, StylesAreOfTheFamily) {
   const LabelFont bold{dejaVu.family, QStringLiteral("Bold"), 1};
   const QString text = QStringLiteral("Label");
   EXPECT_GT(TextBlock(text, bold).size(10, 0).width, TextBlock(text, dejaVu).size(10, 0).width);
-  // What does not exist falls back to something that is drawn.
-  EXPECT_GT(TextBlock(text, {QStringLiteral("No Such Family"), QStringLiteral("Bold"), 1}).size(10, 0).width, 0);
+  // What does not exist falls back to a font for text, not to the one for emoji, which has digits too.
+  for (const char* family : {"No Such Family", "Sans Serif", ""}) {
+    const TextBlock block(QStringLiteral("1#a"), {QString::fromUtf8(family), {}, 1});
+    for (const TextBlock::Glyphs& glyphs : block.glyphs(10, 0)) {
+      EXPECT_FALSE(glyphs.run.rawFont().familyName().contains(QStringLiteral("Emoji"))) << family;
+    }
+    EXPECT_GT(block.size(10, 0).width, 0) << family;
+  }
   EXPECT_GT(TextBlock(text, {dejaVu.family, QStringLiteral("No Such Style"), 1}).size(10, 0).width, 0);
 }
 

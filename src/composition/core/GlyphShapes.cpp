@@ -5,6 +5,7 @@
 #include <QRawFont>
 #include <algorithm>
 #include <cmath>
+#include <unordered_map>
 
 #include "composition/core/GlyphOutlines.h"
 #include "composition/core/OutlineClip.h"
@@ -13,7 +14,7 @@ namespace quorvane {
 
 namespace {
 
-// How far from its position a glyph may draw, in ems. The widest known ones (a phrase in one glyph) take 11.
+// How far from its position a glyph may draw, in ems. The widest known ones (a phrase in one glyph) take 8.
 constexpr double glyphReach = 16;
 
 // Pixels an em that colour pictures are taken at: the bitmaps of the usual font lie at this size, unscaled.
@@ -22,9 +23,12 @@ constexpr double pictureSize = 128;
 // How far outside the picture an outline may reach before it is clipped.
 constexpr double safeDistance = 2048;
 
-// How many times over outlines may cover the picture. A label covers it once or twice; thousands of squeezed lines
-// under a steep shear would cover it thousands of times, at a millisecond each.
-constexpr double mostCoverage = 256;
+// Edges of outlines times the rows they cover, which is what filling takes time by: 8 million take about a second. A
+// long label on the largest picture has half of that; a thousand squeezed lines under a steep shear a hundred times as
+// much.
+constexpr double mostEdgeRows = 8e6;
+// The same for colour pictures, whose time goes with their pixels: six times the largest picture.
+constexpr double mostPicturePixels = 1e8;
 
 /// The longest side of a unit square after the transform.
 double largestScale(const QTransform& transform) {
@@ -51,25 +55,46 @@ QGlyphRun visiblePart(const QGlyphRun& run, const QTransform& toPixels, const QR
   return part;
 }
 
-/// True for a font whose glyphs are layers in colours of their own ("CPAL" is their palette); such glyphs may have an
-/// outline as well.
-bool hasColorLayers(const QRawFont& font) {
-  return !font.fontTable("CPAL").isEmpty();
-}
+/// A colour glyph at a size fit for drawing.
+struct GlyphPicture {
+  QImage image;
+  QTransform toGlyph;  ///< from the image's pixels to the run's coordinates, from the glyph's position
 
-/// A colour glyph at pictureSize, and where it lies from the glyph's position (y downwards).
-QImage glyphPicture(const QRawFont& font, quint32 glyph, QRectF& place) {
+  /// `toPixels` is from the run's coordinates; only its scales matter.
+  GlyphPicture(const QRawFont& runFont, quint32 glyph, const QTransform& toPixels);
+};
+
+GlyphPicture::GlyphPicture(const QRawFont& runFont, quint32 glyph, const QTransform& toPixels) {
+  QRawFont font = runFont;
+  font.setPixelSize(pictureSize);
+  const QRectF box = font.boundingRect(glyph);
+  if (box.isEmpty()) return;  // a space
   // A pixel of room round it keeps the edges smooth when it is turned.
-  place = QRectF(font.boundingRect(glyph).toAlignedRect().adjusted(-1, -1, 1, 1));
-  QImage image(place.size().toSize(), QImage::Format_ARGB32_Premultiplied);
+  const QRectF place = QRectF(box.toAlignedRect().adjusted(-1, -1, 1, 1));
+  image = QImage(place.size().toSize(), QImage::Format_ARGB32_Premultiplied);
   image.fill(Qt::transparent);
   QGlyphRun single;
   single.setRawFont(font);
   single.setGlyphIndexes({glyph});
   single.setPositions({QPointF()});
-  QPainter painter(&image);
-  painter.drawGlyphRun(-place.topLeft(), single);
-  return image;
+  {
+    QPainter painter(&image);
+    painter.drawGlyphRun(-place.topLeft(), single);
+  }
+  const double scale = runFont.pixelSize() / pictureSize;
+  toGlyph = QTransform::fromTranslate(place.x(), place.y()) * QTransform::fromScale(scale, scale);
+
+  // Shrunk by averaging: what the painter does when it shrinks by more than half is to skip pixels.
+  const QTransform drawn = toGlyph * toPixels;
+  const double drawnWidth = std::hypot(drawn.m11(), drawn.m12()) * image.width();
+  const double drawnHeight = std::hypot(drawn.m21(), drawn.m22()) * image.height();
+  const QSize shrunk(static_cast<int>(std::clamp<double>(std::ceil(drawnWidth), 1, image.width())),
+                     static_cast<int>(std::clamp<double>(std::ceil(drawnHeight), 1, image.height())));
+  if (shrunk == image.size()) return;
+  toGlyph = QTransform::fromScale(static_cast<double>(image.width()) / shrunk.width(),
+                                  static_cast<double>(image.height()) / shrunk.height()) *
+            toGlyph;
+  image = image.scaled(shrunk, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
 }
 
 }  // namespace
@@ -78,7 +103,8 @@ void GlyphShapes::add(const QGlyphRun& run, const QTransform& toPixels, const QR
   const QGlyphRun part = visiblePart(run, toPixels, visible);
   if (part.isEmpty()) return;
   const std::size_t before = _outlines.size();
-  if (!hasColorLayers(part.rawFont())) addOutlines(part, toPixels);
+  addOutlines(part, toPixels);
+  // Emoji fonts have bitmaps and no outlines at all.
   if (_outlines.size() == before) addPictures(part, toPixels);
 }
 
@@ -92,31 +118,18 @@ void GlyphShapes::addOutlines(const QGlyphRun& run, const QTransform& toPixels) 
 }
 
 void GlyphShapes::addPictures(const QGlyphRun& run, const QTransform& toPixels) {
-  QRawFont font = run.rawFont();
-  const double scale = font.pixelSize() / pictureSize;
-  font.setPixelSize(pictureSize);
+  const QRawFont font = run.rawFont();
   const QList<quint32> indexes = run.glyphIndexes();
   const QList<QPointF> positions = run.positions();
+  std::unordered_map<quint32, GlyphPicture> pictures;
   for (qsizetype i = 0; i < indexes.size(); ++i) {
-    QRectF place;
-    if (font.boundingRect(indexes[i]).isEmpty()) continue;  // a space
-    QImage image = glyphPicture(font, indexes[i], place);
-    QTransform transform = QTransform::fromTranslate(place.x(), place.y()) * QTransform::fromScale(scale, scale) *
-                           QTransform::fromTranslate(positions[i].x(), positions[i].y()) * toPixels;
-    const QRectF box = transform.mapRect(QRectF(QPointF(), place.size()));
+    const GlyphPicture& picture = pictures.try_emplace(indexes[i], font, indexes[i], toPixels).first->second;
+    if (picture.image.isNull()) continue;
+    const QTransform transform =
+        picture.toGlyph * QTransform::fromTranslate(positions[i].x(), positions[i].y()) * toPixels;
+    const QRectF box = transform.mapRect(QRectF(QPointF(), QSizeF(picture.image.size())));
     _bounds |= box;
-    // Shrunk by averaging first: what the painter does when it shrinks by more than half is to skip pixels.
-    const QSizeF drawn(std::hypot(transform.m11(), transform.m12()) * image.width(),
-                       std::hypot(transform.m21(), transform.m22()) * image.height());
-    const QSize shrunk(std::clamp(static_cast<int>(std::ceil(drawn.width())), 1, image.width()),
-                       std::clamp(static_cast<int>(std::ceil(drawn.height())), 1, image.height()));
-    if (shrunk != image.size()) {
-      transform = QTransform::fromScale(static_cast<double>(image.width()) / shrunk.width(),
-                                        static_cast<double>(image.height()) / shrunk.height()) *
-                  transform;
-      image = image.scaled(shrunk, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
-    }
-    _pictures.push_back({std::move(image), transform, box});
+    _pictures.push_back({picture.image, transform, box});
   }
 }
 
@@ -127,16 +140,20 @@ void GlyphShapes::paint(QImage& image, QPointF topLeft, const QColor& color) con
   painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
   const QTransform toImage = QTransform::fromTranslate(-topLeft.x(), -topLeft.y());
   painter.setTransform(toImage);
-  double areaLeft = mostCoverage * target.width() * target.height();
+  double edgeRowsLeft = mostEdgeRows;
   for (const Outline& outline : _outlines) {
     const QRectF covered = outline.box & target;
     if (covered.isEmpty()) continue;
-    areaLeft -= covered.width() * covered.height();
-    if (areaLeft < 0) break;
+    edgeRowsLeft -= outline.path.elementCount() * covered.height();
+    if (edgeRowsLeft < 0) break;
     painter.fillPath(safe.contains(outline.box) ? outline.path : clippedOutline(outline.path, safe), color);
   }
+  double picturePixelsLeft = mostPicturePixels;
   for (const Picture& picture : _pictures) {
-    if (!picture.box.intersects(target)) continue;
+    const QRectF covered = picture.box & target;
+    if (covered.isEmpty()) continue;
+    picturePixelsLeft -= covered.width() * covered.height();
+    if (picturePixelsLeft < 0) break;
     painter.setTransform(picture.toPixels * toImage);
     painter.drawImage(QPointF(), picture.image);
   }

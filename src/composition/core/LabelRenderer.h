@@ -20,7 +20,8 @@ struct LabelLayer {
   QPoint topLeft;  ///< where `pixels` lies on the grid
 };
 
-/// Draws labels: a function of a look, a text and a size. It holds no state and caches nothing; every call draws anew.
+/// Draws labels: a function of a look, a text and a size. It caches nothing; every call draws anew. Text needs a
+/// QGuiApplication in the process, but no display.
 ///
 /// Two products: the *text image*, a transparent picture of the text fitted into a size, sheared and turned about its
 /// centre, cut off at its own edges; and the *composed icon*, a base picture with a text image of the same size blended

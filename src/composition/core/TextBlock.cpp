@@ -2,7 +2,6 @@
 #include "composition/core/TextBlock.h"
 
 #include <QFontDatabase>
-#include <QFontInfo>
 #include <QRawFont>
 #include <QTextCharFormat>
 #include <QTextLayout>
@@ -25,10 +24,9 @@ constexpr double lineWidthWithoutEnd = 3e7;
 
 QFont layoutFont(const LabelFont& font, int pixels) {
   QFont result;
-  // A family that is not installed (or an alias) would leave the emoji font as the first one, digits and all.
-  const bool isInstalled = QFontDatabase::hasFamily(font.family);
-  const QString family = isInstalled ? font.family : QFontInfo(QFont(font.family)).family();
-  result.setFamilies({family, QStringLiteral("Noto Color Emoji")});
+  // The emoji font is not named here, only for emoji: behind a family that is not installed it would be the first
+  // font of all that is installed, digits and all.
+  result.setFamilies({font.family});
   if (!font.style.isEmpty()) {
     // Weight and slant also steer which faces stand in for missing characters; the style's name alone would not.
     const int weight = QFontDatabase::weight(font.family, font.style);
@@ -114,11 +112,12 @@ TextBlock::Line::Line(const QString& text, const LabelFont& font)
   // Left to itself the layout would take every line for left-to-right text with some other text in it.
   option.setTextDirection(isRightToLeft ? Qt::RightToLeft : Qt::LeftToRight);
   layout->setTextOption(option);
+  layout->setCacheEnabled(true);  // or glyphs() would shape the text a second time
 
   QList<QTextLayout::FormatRange> formats;
   for (const TextRange& run : parts.emoji) {
     QFont emojiFirst = face;
-    emojiFirst.setFamilies({face.families().last(), face.families().first()});
+    emojiFirst.setFamilies({QStringLiteral("Noto Color Emoji"), font.family});
     QTextCharFormat format;
     format.setFont(emojiFirst);
     formats.append({run.start, run.length, format});

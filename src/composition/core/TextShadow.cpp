@@ -6,6 +6,7 @@
 #include <cmath>
 
 #include "composition/core/ShadowBlur.h"
+#include "foundation/base/Limits.h"
 
 namespace quorvane {
 
@@ -38,7 +39,7 @@ std::optional<TextShadow> TextShadow::make(const std::optional<LabelShadow>& sha
   }
   const double density = std::sqrt(std::abs(toPixels.m11() * toPixels.m22()));
   const double radius = shadow->blurRadius > 0 ? shadow->blurRadius * density : 0;
-  result._sigma = std::min(radius, frame.width() / 2) / 2;
+  result._sigma = std::min({radius, frame.width() / 2, double{limits::composedPixels} / 2}) / 2;
   result._reach = AlphaPlane::blurReach(result._sigma) + 1;
   result._color = shadow->color;
   return result;
