@@ -58,7 +58,7 @@ Result<Folder> Folder::open(const fs::path& path, Access access, std::chrono::mi
 Result<Folder::Parent> Folder::openParent(Access access) const {
   FileDescriptor handle(::openat(_handle.get(), "..", openFolderFlags));
   if (!handle.isOpen()) return Error::system(errno, "cannot open the folder above").at(_path);
-  const struct stat self = status();
+  const struct stat self = TRY(status());
   const struct stat above = TRY(calls::status(handle.get(), "cannot open the folder above"));
   if (calls::isSameItem(self, above)) return Error(ErrorKind::Unsupported, "has no folder above it").at(_path);
   fs::path path = resolvedPath(handle.get(), _path.parent_path());
@@ -81,7 +81,7 @@ Result<Folder> Folder::openChild(const std::string& name, Access access) const {
 Result<Folder> Folder::makeChild(const std::string& name) {
   const std::string what = "cannot make folder";
   TRY_VOID(_mayChange(what, name));
-  const struct stat own = status();
+  const struct stat own = TRY(status());
   if (::mkdirat(_handle.get(), name.c_str(), ownership::newFolderMode(own)) != 0) {
     if (errno != EEXIST) return _failure(errno, what, name);
     return openChild(name, Access::Write);
@@ -100,9 +100,9 @@ std::string Folder::temporaryName() {
   return names::makeTemporary();
 }
 
-struct stat Folder::status() const {
-  struct stat info {};
-  ::fstat(_handle.get(), &info);  // cannot fail on an open handle
+Result<struct stat> Folder::status() const {
+  auto info = calls::status(_handle.get(), "cannot look at folder");
+  if (!info.ok()) return info.error().at(_path);
   return info;
 }
 

@@ -61,7 +61,7 @@ class Folder {
 
   /// The path as resolved when it was opened: for words and messages, and to hand to other programs.
   [[nodiscard]] const std::filesystem::path& path() const { return _path; }
-  [[nodiscard]] struct stat status() const;
+  [[nodiscard]] Result<struct stat> status() const;
   /// The path of an item inside, for messages.
   [[nodiscard]] std::filesystem::path pathOf(const std::string& name) const { return _path / name; }
 

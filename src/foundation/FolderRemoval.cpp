@@ -84,7 +84,7 @@ Result<void> Folder::removeChild(const std::string& name) {
   if (!info) return {};
   if (!S_ISDIR(info->st_mode))
     return Error::refused(what + ": " + calls::kindWords(info->st_mode) + " stands there").at(pathOf(name));
-  if (info->st_dev != status().st_dev)
+  if (info->st_dev != TRY(status()).st_dev)
     return Error::refused(what + ": another file system is mounted there").at(pathOf(name));
   std::string last = name;
   if (!names::isTemporary(name)) {
@@ -111,7 +111,7 @@ Result<void> Folder::rename(const std::string& from, const Folder& to, const std
     return Error::refused(what + ": " + calls::kindWords(target->st_mode) + " stands there").at(to.pathOf(name));
   // The system does nothing when both are names of one file, and would leave both.
   const bool isSame = target && calls::isSameItem(*target, *source);
-  const bool isOneName = isSame && from == name && calls::isSameItem(status(), to.status());
+  const bool isOneName = isSame && from == name && calls::isSameItem(TRY(status()), TRY(to.status()));
   const int failed = isSame && !isOneName ? ::unlinkat(_handle.get(), from.c_str(), 0)
                                           : ::renameat(_handle.get(), from.c_str(), to._handle.get(), name.c_str());
   if (failed != 0) return to._failure(errno, what, name);

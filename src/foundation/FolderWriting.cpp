@@ -163,7 +163,7 @@ Result<WriteOutcome> Folder::_replace(const std::string& name, ByteView bytes, c
     return {};
   };
   const auto build = [&]() -> Result<void> {
-    const struct stat own = status();
+    const struct stat own = TRY(status());
     TemporaryFile file = TRY(TemporaryFile::create(_handle.get(), old ? 0600 : ownership::newFileMode(own)));
     TRY_VOID(calls::writeAll(file.handle(), bytes, cannotWrite));
     TRY_VOID(old ? ownership::copyProperties(old->get(), file.handle()) : ownership::giveToFolder(file.handle(), own));

@@ -8,7 +8,7 @@ namespace quorvane::companion {
 Result<FolderCompanion> ofFolder(const Folder& folder, Folder::Access access) {
   auto parent = folder.openParent(access);
   if (!parent.ok() && parent.error().kind() != ErrorKind::Unsupported) return parent.error();
-  if (!parent.ok() || parent->folder.status().st_dev != folder.status().st_dev)
+  if (!parent.ok() || TRY(parent->folder.status()).st_dev != TRY(folder.status()).st_dev)
     return FolderCompanion{std::nullopt, insideName};
   auto file = nameFor(parent->name);
   if (!file.ok()) return file.error().at(folder.path());

@@ -264,8 +264,8 @@ TEST(Folder, PutsTimesBack) {
   EXPECT_TRUE(folder.setTimesOf("f", omit, old).ok());
   EXPECT_TRUE(folder.setTimes(omit, old).ok());
   EXPECT_EQ((*folder.statusOf("f"))->st_mtim.tv_nsec, old.tv_nsec);
-  EXPECT_EQ(folder.status().st_mtim.tv_sec, old.tv_sec);
-  EXPECT_GT(folder.status().st_atim.tv_sec, old.tv_sec);
+  EXPECT_EQ(folder.status()->st_mtim.tv_sec, old.tv_sec);
+  EXPECT_GT(folder.status()->st_atim.tv_sec, old.tv_sec);
 }
 
 }  // namespace

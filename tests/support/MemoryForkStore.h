@@ -78,7 +78,7 @@ class MemoryForkStore : public ForkStore {
     FinderInfo info;
     std::map<std::string, ForkedFile> files;
   };
-  static FolderKey keyOf(const Folder& folder) { return {folder.status().st_dev, folder.status().st_ino}; }
+  static FolderKey keyOf(const Folder& folder) { return {folder.status()->st_dev, folder.status()->st_ino}; }
 
   std::map<std::pair<FolderKey, std::string>, ForkedFile> _files;
   std::map<FolderKey, FinderInfo> _folders;

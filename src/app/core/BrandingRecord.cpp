@@ -76,7 +76,7 @@ Result<bool> BrandingRecord::exists(const Folder& folder) {
 }
 
 Result<void> BrandingRecord::make(Folder& folder, const ForkStore& forks, const std::string& backupName) {
-  const struct stat before = folder.status();
+  const struct stat before = TRY(folder.status());
   const std::string temporary = Folder::temporaryName();
   const auto build = [&]() -> Result<void> {
     Folder record = TRY(folder.makeChild(temporary));
@@ -97,12 +97,12 @@ Result<void> BrandingRecord::noteChanged(Folder& folder) {
   if (!TRY(exists(folder))) return {};
   Folder record = TRY(folder.openChild(folderName, Folder::Access::Write));
   QJsonObject values = TRY(readRecord(record));
-  values[ourTimeKey] = timeText(folder.status().st_mtim);
+  values[ourTimeKey] = timeText(TRY(folder.status()).st_mtim);
   return writeRecord(record, values);
 }
 
 Result<void> BrandingRecord::restore(Folder& folder, ForkStore& forks, const std::string& backupName) {
-  const struct stat now = folder.status();
+  const struct stat now = TRY(folder.status());
   timespec modified = now.st_mtim;
   {
     const Folder record = TRY(folder.openChild(folderName, Folder::Access::Read));

@@ -6,7 +6,7 @@
 namespace quorvane {
 
 Result<void> StampingNotices::noteDirectoryModified(Folder& folder) {
-  const struct stat now = folder.status();
+  const struct stat now = TRY(folder.status());
   const auto stamped = folder.setTimes(now.st_atim, now.st_mtim);
   const bool isForeign = !stamped && (stamped.error().systemCode() == EPERM || stamped.error().systemCode() == EACCES);
   return isForeign ? Result<void>() : stamped;
