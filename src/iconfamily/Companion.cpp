@@ -32,8 +32,12 @@ bool isNotOurs(const Error& error) {
     case ErrorKind::Refused:
       return true;
     default:
-      return error.systemCode() == EACCES || error.systemCode() == EPERM;
+      return false;
   }
+}
+
+bool isOutOfReach(const Error& error) {
+  return isNotOurs(error) || error.systemCode() == EACCES || error.systemCode() == EPERM;
 }
 
 Result<void> write(Folder& folder, const std::string& file, const Companion& companion) {

@@ -27,9 +27,11 @@ struct Companion {
 
 /// Fails on a malformed companion, and on anything but a plain file.
 Result<Companion> read(const Folder& folder, const std::string& file);
-/// Whether a failure to read a companion, or to reach it, means that it is none that we could ever have written: it is
-/// malformed, no plain file, or kept from us. Other failures say nothing about it.
+/// Whether a failure to read a companion means that it is none that we would ever have written: it is malformed, too
+/// large, or no plain file.
 bool isNotOurs(const Error& error);
+/// The same, or that it is kept from us. All other failures say nothing about a companion.
+bool isOutOfReach(const Error& error);
 /// Writes the changed content, or removes the file when nothing in it is worth keeping. Refused when somebody else
 /// changed it since it was read.
 Result<void> write(Folder& folder, const std::string& file, const Companion& companion);

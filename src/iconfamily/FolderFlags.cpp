@@ -22,11 +22,11 @@ void note(const Error& error) {
   logMessage("iconfamily", error.message());
 }
 
-// What a companion of the folder says; one that is not ours says nothing.
+// What a companion of the folder says; one that is out of reach says nothing.
 Result<std::optional<FinderInfo>> infoSaidBy(const Folder& holder, const std::string& file) {
   const auto kept = companion::read(holder, file);
   if (kept.ok()) return kept->content.finderInfo();
-  if (!companion::isNotOurs(kept.error())) return kept.error();
+  if (!companion::isOutOfReach(kept.error())) return kept.error();
   note(kept.error());
   return std::optional<FinderInfo>();
 }
@@ -51,7 +51,7 @@ Error noPlace(const Folder& folder, const std::optional<Error>& attribute, const
 Result<FinderInfo> AppleDoubleForkStore::readFolderInfo(const Folder& folder) const {
   std::vector<FinderInfo> said;
   const auto own = companion::ofFolder(folder, Access::Read);
-  if (!own.ok() && !companion::isNotOurs(own.error())) return own.error();
+  if (!own.ok() && !companion::isOutOfReach(own.error())) return own.error();
   if (own.ok() && own->above) {
     if (const auto info = TRY(infoSaidBy(*own->above, own->file))) said.push_back(*info);
   }
@@ -94,7 +94,7 @@ Result<std::optional<FolderInfoPlace>> AppleDoubleForkStore::changeFolderFlags(F
   }
 
   const auto own = companion::ofFolder(folder, Access::Read);
-  if (!own.ok() && !place && !companion::isNotOurs(own.error())) return own.error();
+  if (!own.ok() && !place && !companion::isOutOfReach(own.error())) return own.error();
   const bool belongsAbove = own.ok() && own->above.has_value();
   // A companion that exists must not say otherwise than the attribute; one is made only where nothing else holds the
   // flags. `changeIt` opens for writing by itself: the folder above is not locked before it is needed.

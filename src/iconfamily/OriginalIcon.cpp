@@ -42,11 +42,11 @@ Result<bool> keep(const Folder& folder, const std::string& name, const Folder& i
   return true;
 }
 
-// The same for a companion of the folder. Nothing is said of one that is not ours: it is never changed.
+// The same for a companion of the folder. Nothing is said of one that is out of reach: it is never changed.
 Result<void> keepFoldersCompanion(const Folder& holder, const std::string& file, const Folder& into, const char* key,
                                   OriginalState& state) {
   if (const auto found = companion::read(holder, file); !found.ok())
-    return companion::isNotOurs(found.error()) ? Result<void>() : found.error();
+    return companion::isOutOfReach(found.error()) ? Result<void>() : found.error();
   state.setKept(key, TRY(keep(holder, file, into, key)));
   return {};
 }
@@ -161,7 +161,7 @@ Result<void> AppleDoubleForkStore::saveOriginal(const Folder& folder, Folder& in
   }
   TRY_VOID(keepFoldersCompanion(folder, companion::insideName, into, insideKey, state));
   const auto own = companion::ofFolder(folder, Access::Read);
-  if (!own.ok() && !companion::isNotOurs(own.error())) return own.error();
+  if (!own.ok() && !companion::isOutOfReach(own.error())) return own.error();
   if (own.ok() && own->above) TRY_VOID(keepFoldersCompanion(*own->above, own->file, into, besideKey, state));
   state.setBytes(attributeKey, _usesAttributes() ? TRY(folder.attribute(infoAttribute)) : std::optional<Bytes>());
   TRY_VOID(into.writeFile(OriginalState::fileName, state.serialize()));

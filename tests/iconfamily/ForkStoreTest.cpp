@@ -35,24 +35,28 @@ std::uint8_t valueOf(const ForkedFile& content) {
   return icon != nullptr && !icon->data.empty() ? icon->data.front() : 0;
 }
 
-// A companion with an entry that we do not know and an attribute block behind the Finder info.
+// A companion with an entry that we do not know ("comment") and, behind the 32 bytes of Finder info and two more, a
+// block with the attribute "x.y" = "value".
 Bytes foreignCompanion() {
-  const std::string block(
-      "ATTR\0\0\0\1\0\0\0\x98\0\0\0\x94\0\0\0\4\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\1"
-      "\0\0\0\x94\0\0\0\4\0\0\4x.y\0value",
-      60);
+  constexpr std::uint32_t finderAt = 50, blockAt = finderAt + 34, valueAt = blockAt + 52, end = valueAt + 5;
   ByteWriter writer;
+  const auto writeText = [&](const std::string& text) {
+    writer.writeBytes(ByteView(reinterpret_cast<const std::uint8_t*>(text.data()), text.size()));
+  };
   writer.writeU32(0x00051607);
   writer.writeU32(0x00020000);
-  for (const char letter : std::string("Mac OS X        ")) writer.writeU8(static_cast<std::uint8_t>(letter));
+  writeText("Mac OS X        ");
   writer.writeU16(2);
-  const std::uint32_t finderLength = 32 + 2 + static_cast<std::uint32_t>(block.size());
-  for (const std::uint32_t field : {9U, 50U, finderLength, 4U, 50U + finderLength, 7U}) writer.writeU32(field);
-  Bytes info(34);
-  info[0] = 'T';
-  writer.writeBytes(info);
-  writer.writeBytes(Bytes(block.begin(), block.end()));
-  for (const char letter : std::string("comment")) writer.writeU8(static_cast<std::uint8_t>(letter));
+  for (const std::uint32_t field : {9U, finderAt, end - finderAt, 4U, end, 7U}) writer.writeU32(field);
+  writeText("TEXT");
+  writer.writeZeros(30);
+  writeText("ATTR");
+  for (const std::uint32_t field : {0U, end, valueAt, 5U, 0U, 0U, 0U, 1U, valueAt, 5U}) writer.writeU32(field);
+  writer.writeU16(0);
+  writer.writeU8(4);
+  writeText("x.y");
+  writer.writeZeros(2);
+  writeText("valuecomment");
   return std::move(writer).take();
 }
 
@@ -160,7 +164,7 @@ TEST(AppleDoubleForkStore, KeepsWhatItDoesNotKnowOfACompanion) {
   EXPECT_TRUE(store.write(folder, "picture", content).ok());
   const Bytes written = test::readFile(root / "._picture");
   const std::string text(written.begin(), written.end());
-  for (const char* part : {"Mac OS X        ", "ATTR", "x.y", "valu", "comment"})
+  for (const char* part : {"Mac OS X        ", "ATTR", "x.y", "value", "comment"})
     EXPECT_NE(text.find(part), std::string::npos) << part;
   EXPECT_EQ(valueOf(*store.read(folder, "picture")), 3);
 
