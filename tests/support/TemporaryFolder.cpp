@@ -25,6 +25,7 @@ TemporaryFolder::TemporaryFolder(const fs::path& parent) {
 
 TemporaryFolder::~TemporaryFolder() {
   std::error_code ignored;
+  fs::permissions(_path, fs::perms::owner_all, fs::perm_options::add, ignored);
   for (auto entry = fs::recursive_directory_iterator(_path, ignored); entry != fs::recursive_directory_iterator();
        entry.increment(ignored))
     if (entry->is_directory(ignored) && !entry->is_symlink(ignored))
