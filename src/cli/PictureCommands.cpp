@@ -5,6 +5,8 @@
 #include "app/core/Look.h"
 #include "cli/Commands.h"
 #include "cli/Terminal.h"
+#include "foundation/FileReading.h"
+#include "foundation/base/Limits.h"
 #include "iconfamily/ElementStore.h"
 #include "iconfamily/ElementTypes.h"
 #include "iconfamily/IconFamilyInternals.h"
@@ -22,15 +24,18 @@ bool isIcnsName(const std::filesystem::path& path) {
 
 /// The picture of any file that holds one: an icon family's largest, or a picture file's first.
 Result<Image> readPicture(const std::filesystem::path& path) {
-  auto family = IconFamily::iconFamilyWithContentsOfFile(path);
-  if (!family) {
-    // Not an icon family, but perhaps a picture; what cannot be read at all is said once.
-    if (family.error().kind() != ErrorKind::InvalidInput) return std::move(family).error();
-    return Image::imageWithContentsOfFile(path);
-  }
-  auto image = family->imageWithAllReps();
-  if (!image || !image->bitmapRepresentation()) return Error::invalidInput("the icon family holds no picture").at(path);
-  return *std::move(image);
+  const Bytes bytes = TRY(readPlainFile(path, limits::pictureFileBytes));
+  const auto read = [&]() -> Result<Image> {
+    if (!IconFamily::looksLikeFamily(bytes)) return Image::imageWithData(bytes);
+    const IconFamily family = IconFamily::initWithData(bytes);
+    TRY_VOID(family.check());
+    auto image = family.imageWithAllReps();
+    if (!image || !image->bitmapRepresentation()) return Error::invalidInput("the icon family holds no whole picture");
+    return *std::move(image);
+  };
+  auto image = read();
+  if (!image) return std::move(image).error().at(path);
+  return image;
 }
 
 Result<Bytes> composedFile(const Arguments& arguments, const IconServices& services) {

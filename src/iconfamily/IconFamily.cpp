@@ -6,6 +6,7 @@
 #include <utility>
 #include <vector>
 
+#include "foundation/base/ByteReader.h"
 #include "iconfamily/ElementStore.h"
 #include "iconfamily/ElementTypes.h"
 #include "iconfamily/IconFamilyInternals.h"
@@ -94,6 +95,10 @@ std::optional<BitmapImageRep> IconFamily::bitmapImageRepWithAlphaForIconFamilyEl
   layout.alphaFirst = true;
   layout.isPremultiplied = false;
   return BitmapImageRep::bitmapImageRepWithLayout(layout, *std::move(argb));
+}
+
+bool IconFamily::looksLikeFamily(ByteView bytes) {
+  return ByteReader(bytes).readCode() == FourCharCode("icns");
 }
 
 Result<void> IconFamily::check() const {

@@ -48,6 +48,8 @@ class IconFamily {
   /// when it is first needed. nullopt when the bytes are no family or hold no picture.
   [[nodiscard]] std::optional<Image> imageWithAllReps() const;
 
+  /// Whether bytes begin as an icon family does.
+  static bool looksLikeFamily(ByteView bytes);
   /// Why the bytes are no icon family, if they are none.
   [[nodiscard]] Result<void> check() const;
 

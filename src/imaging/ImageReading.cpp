@@ -4,11 +4,11 @@
 #include <algorithm>
 #include <string_view>
 
+#include "foundation/FileReading.h"
 #include "foundation/base/ByteReader.h"
 #include "foundation/base/Limits.h"
 #include "imaging/Image.h"
 #include "imaging/Jpeg2000.h"
-#include "imaging/PictureFile.h"
 #include "imaging/PngCodec.h"
 #include "imaging/SvgCheck.h"
 
@@ -97,7 +97,7 @@ Result<Image> Image::imageWithData(ByteView bytes) {
 }
 
 Result<Image> Image::imageWithContentsOfFile(const std::filesystem::path& path) {
-  const Bytes bytes = TRY(readPictureFile(path, limits::pictureFileBytes));
+  const Bytes bytes = TRY(readPlainFile(path, limits::pictureFileBytes));
   auto image = imageWithData(bytes);
   if (!image) return image.error().at(path);
   return image;
