@@ -46,7 +46,7 @@ struct Parser {
 
 CLI::App* Parser::add(CLI::App& parent, Command command, const std::string& name, const std::string& what,
                       const std::string& use, const std::vector<std::string>& examples) {
-  CLI::App* added = parent.add_subcommand(name, what);
+  CLI::App* added = parent.add_subcommand(name, what)->group("Commands");
   added->set_help_flag("-h,--help", "Print this help");
   describeUse(*added, use, examples);
   commands.emplace_back(command, added);
@@ -135,7 +135,7 @@ Parser::Parser() {
   addDryRun(*render);
   addCommon(*render);
 
-  CLI::App* icns = app.add_subcommand("icns", "Make and read icon family files");
+  CLI::App* icns = app.add_subcommand("icns", "Make and read icon family files")->group("Commands");
   icns->set_help_flag("-h,--help", "Print this help");
   describeUse(*icns, "icns make|list|extract ...",
               {"quorvane icns make picture.png picture.icns", "quorvane icns extract picture.icns pictures/"});

@@ -62,7 +62,7 @@ void runApply(const Arguments& arguments, const IconServices& services, Reporter
     if (!outcome) {
       reporter.failed(folder, outcome.error());
     } else if (*outcome == BrandingOutcome::Unchanged) {
-      reporter.done(folder, "unchanged", printable(folder) + ": already branded so, unchanged");
+      reporter.done(folder, "unchanged", printable(folder) + ": unchanged, it has this icon already");
     } else {
       reporter.done(folder, "applied", printable(folder) + ": branded");
     }

@@ -20,7 +20,7 @@ std::vector<std::string> brandFileNames(const ForkStore& forks, const std::strin
 /// names: everything is looked at before anything is changed.
 Result<void> checkBrandFiles(const Folder& folder, const std::vector<std::string>& names);
 
-/// Fails when nothing can be written into the folder, with the system's reason. For a run that writes nothing.
+/// Fails when nothing can be written into the folder, with the system's reason: said before anything is tried.
 Result<void> checkWritable(const Folder& folder);
 
 }  // namespace quorvane

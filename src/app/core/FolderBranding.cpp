@@ -62,7 +62,6 @@ Result<Folder> FolderBranding::openForWriting(const std::filesystem::path& path,
   Folder folder = TRY(Folder::open(path, mode == WriteMode::Write ? Folder::Access::Write : Folder::Access::Read));
   TRY_VOID(checkTarget(folder.path()));
   TRY_VOID(checkBrandFiles(folder, brandFileNames(_services.forks, backupName)));
-  if (mode == WriteMode::DryRun) TRY_VOID(checkWritable(folder));
   return folder;
 }
 
@@ -87,6 +86,7 @@ Result<BrandingOutcome> FolderBranding::writeIconWithImage(const std::optional<I
   const bool hasRecord = TRY(BrandingRecord::exists(folder));
   const bool hasBackup = TRY(folder.statusOf(backupName)).has_value();
   if (hasRecord && hasBackup && TRY(hasIcon(folder, family, _services.forks))) return BrandingOutcome::Unchanged;
+  TRY_VOID(checkWritable(folder));
   if (mode == WriteMode::DryRun) return BrandingOutcome::Changed;
 
   if (!hasRecord) TRY_VOID(BrandingRecord::make(folder, _services.forks, backupName));
@@ -109,6 +109,7 @@ Result<BrandingOutcome> FolderBranding::revert(const std::filesystem::path& path
   Folder folder = TRY(openForWriting(path, mode));
   const auto family = TRY(readBackup(folder));
   if (!family) return BrandingOutcome::NothingToRevert;
+  TRY_VOID(checkWritable(folder));
   if (mode == WriteMode::DryRun) return BrandingOutcome::Changed;
   TRY_VOID(setFolderIcon(*family, folder, _services));
   // The icon is back; a backup that cannot be removed is no failure.
@@ -121,6 +122,7 @@ Result<BrandingOutcome> FolderBranding::revert(const std::filesystem::path& path
 Result<BrandingOutcome> FolderBranding::reset(const std::filesystem::path& path, WriteMode mode) const {
   Folder folder = TRY(openForWriting(path, mode));
   if (!TRY(BrandingRecord::exists(folder))) return BrandingOutcome::NothingToRevert;
+  TRY_VOID(checkWritable(folder));
   if (mode == WriteMode::DryRun) return BrandingOutcome::Changed;
   TRY_VOID(BrandingRecord::restore(folder, _services.forks, backupName));
   TRY_VOID(_services.notices.noteDirectoryModified(folder));

@@ -86,7 +86,7 @@ Result<std::vector<IcnsElement>> icnsElements(ByteView family) {
   ByteReader reader(family);
   const auto magic = reader.readCode();
   const auto total = reader.readU32();
-  if (magic != familyMagic || !total) return Error::invalidInput("no icon family");
+  if (magic != familyMagic || !total) return Error::invalidInput("not an icon family");
   const ByteView rest = reader.readRest();
   const std::size_t claimed = *total < headerLength ? 0 : *total - headerLength;
   return elementsOfRun(rest.first(std::min(claimed, rest.size())));
