@@ -25,7 +25,7 @@ fs::path resolvedPath(int handle, const fs::path& given) {
   if (::fstat(handle, &opened) != 0) return given;
   std::error_code error;
   for (const bool canonical : {false, true}) {
-    const fs::path candidate =
+    fs::path candidate =
         canonical ? fs::canonical(given, error) : fs::read_symlink("/proc/self/fd/" + std::to_string(handle), error);
     if (!error && ::stat(candidate.c_str(), &found) == 0 && calls::isSameItem(opened, found)) return candidate;
   }

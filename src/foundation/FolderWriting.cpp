@@ -88,7 +88,7 @@ class TemporaryFile {
       _exists = false;
       return {};
     }
-    const Result<void> meant = isMeant(_name);
+    Result<void> meant = isMeant(_name);
     if (meant.ok()) return {};  // what was replaced goes with this object
     // Again until what comes out is what was put in: whatever comes out else is newer and belongs there.
     for (auto taken = _identity(_name); _exchange(name);) {
