@@ -91,6 +91,21 @@ TEST_P(FolderBrandingTest, ResetKeepsADateThatSomebodyElseSet) {
   EXPECT_EQ(info.st_mtim.tv_sec, 8);
 }
 
+TEST_P(FolderBrandingTest, FileManagersAreToldOnceMoreHalfASecondAfterAnApplyOnly) {
+  std::vector<std::function<void()>> pending;
+  const FolderBranding withLater(services, [&](std::chrono::milliseconds delay, std::function<void()> what) {
+    EXPECT_EQ(delay.count(), 500);
+    pending.push_back(std::move(what));
+  });
+  ASSERT_TRUE(withLater.writeIconWithImage(test::plainImage(Qt::red), folder).ok());
+  ASSERT_EQ(pending.size(), 1U);
+  const std::size_t before = notices.noted.size();
+  pending.front()();
+  EXPECT_EQ(notices.noted.size(), before + 1);
+  ASSERT_TRUE(withLater.revert(folder).ok());
+  EXPECT_EQ(pending.size(), 1U);
+}
+
 TEST_P(FolderBrandingTest, DryRunWritesNothing) {
   const std::string before = test::describeTree(tree.path(), true);
   EXPECT_EQ(*branding.writeIconWithImage(test::plainImage(Qt::red), folder, WriteMode::DryRun),

@@ -102,7 +102,16 @@ Result<BrandingOutcome> FolderBranding::writeIconWithImage(const std::optional<I
     return written.error();
   }
   TRY_VOID(BrandingRecord::noteChanged(folder));
+  noteAgain(folder.path());
   return BrandingOutcome::Changed;
+}
+
+void FolderBranding::noteAgain(const std::filesystem::path& path) const {
+  if (!_later) return;
+  // Some file managers look too early the first time and keep what they saw.
+  _later(secondNotice, [&notices = _services.notices, path] {
+    if (auto folder = Folder::open(path, Folder::Access::Write)) (void)notices.noteDirectoryModified(*folder);
+  });
 }
 
 Result<BrandingOutcome> FolderBranding::revert(const std::filesystem::path& path, WriteMode mode) const {

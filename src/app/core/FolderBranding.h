@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <chrono>
 #include <cstdint>
 #include <filesystem>
+#include <functional>
 #include <optional>
 #include <string>
 #include <vector>
@@ -47,7 +49,13 @@ enum class WriteMode {
 /// back exactly what stood there before the first apply, a former custom icon or none, bit for bit.
 class FolderBranding {
  public:
-  explicit FolderBranding(const IconServices& services) : _services(services) {}
+  /// Runs something after a delay, as an event loop can. File managers are told of a new icon a second time then.
+  using Later = std::function<void(std::chrono::milliseconds delay, std::function<void()> what)>;
+  static constexpr std::chrono::milliseconds secondNotice{500};
+
+  /// The services must outlive it and whatever it hands to `later`. Without `later` there is no second notice.
+  explicit FolderBranding(const IconServices& services, Later later = {})
+      : _services(services), _later(std::move(later)) {}
 
   /// The backup icon's path, ".BackupIcon.icns" directly inside the folder.
   static std::filesystem::path _backupPathForFolder(const std::filesystem::path& folder);
@@ -79,7 +87,10 @@ class FolderBranding {
   [[nodiscard]] Result<Folder> openForWriting(const std::filesystem::path& path, WriteMode mode) const;
   Result<bool> backupIcon(Folder& folder) const;
 
+  void noteAgain(const std::filesystem::path& path) const;
+
   const IconServices& _services;
+  Later _later;
 };
 
 }  // namespace quorvane
