@@ -7,8 +7,8 @@ import subprocess
 import shutil
 import unittest
 
-from support import (BACKUP, ELEMENTS, FOREIGN, ICON, ICON_COMPANION, LABEL, EndToEndTest, companion, elements, family_file,
-                     oracle, pictures, plant_custom_icon, read, resources, tree, write)
+from support import (BACKUP, ELEMENTS, FOREIGN, ICON, ICON_COMPANION, LABEL, EndToEndTest, companion, elements,
+                     family_file, oracle, pictures, plant_custom_icon, read, resources, tree, write)
 
 RED = (0xB0, 0x00, 0x20)
 

@@ -8,8 +8,8 @@ import unittest
 
 from support import (FOREIGN, LABEL, PROGRAM, EndToEndTest, can_store_finder_info, plant_custom_icon, tree, write)
 
-COMMANDS = (("apply",), ("revert",), ("reset",), ("status",), ("render",), ("icns",), ("icns", "make"), ("icns", "list"),
-            ("icns", "extract"))
+COMMANDS = (("apply",), ("revert",), ("reset",), ("status",), ("render",), ("icns",), ("icns", "make"),
+            ("icns", "list"), ("icns", "extract"))
 
 
 class CommandTest(EndToEndTest):
@@ -47,7 +47,8 @@ class CommandTest(EndToEndTest):
         self.expect(0, "apply", *LABEL, folder)
         for arguments, code in ((("status", folder), 0), (("status", plain), 3), (("status", missing), 1),
                                 (("revert", plain), 0), (("reset", missing), 1), (("icns", "list", missing), 1),
-                                (("render", "--label", "x", missing + "/x.png"), 1), (("apply", *LABEL, missing), 1), (("apply", *LABEL, plain, missing), 1)):
+                                (("render", "--label", "x", missing + "/x.png"), 1), (("apply", *LABEL, missing), 1),
+                                (("apply", *LABEL, plain, missing), 1)):
             with self.subTest(arguments=arguments):
                 self.expect(code, *arguments)
 
