@@ -112,7 +112,12 @@ Result<std::optional<IconFamily>> readCustomIcon(const std::filesystem::path& pa
       return std::optional<IconFamily>();
     return readFolderIconResource(folder, forks);
   }
-  const Located file = TRY(locate(path, Folder::Access::Read));
+  // A link has the icon of what it leads to; what is neither file nor folder can have no icon of its own.
+  std::error_code error;
+  const std::filesystem::path target = std::filesystem::canonical(path, error);
+  if (error) return Error::system(error.value(), "cannot look at").at(path);
+  if (!std::filesystem::is_regular_file(target, error)) return std::optional<IconFamily>();
+  const Located file = TRY(locate(target, Folder::Access::Read));
   const ForkedFile content = TRY(forks.read(file.folder, file.name));
   if ((content.info.flags() & FinderInfo::hasCustomIcon) == 0) return std::optional<IconFamily>();
   return familyIn(content.fork);

@@ -46,6 +46,44 @@ TEST_P(FolderBrandingTest, RevertPutsTheIconFromBeforeTheFirstApplyBackOnce) {
   EXPECT_EQ(shownIcon(), former.data());
 }
 
+/// Fails from the second notice on.
+class WearyNotices : public FileManagerNotices {
+ public:
+  Result<void> noteDirectoryModified(Folder&) override {
+    if (_notices++ > 0) return Error::broken("nobody listens");
+    return {};
+  }
+
+ private:
+  int _notices = 0;
+};
+
+TEST_P(FolderBrandingTest, ARevertWhoseNoticeFailsIsStillOne) {
+  ASSERT_TRUE(branding.writeIconWithImage(test::plainImage(Qt::red), folder).ok());
+  WearyNotices weary;
+  const IconServices others{.forks = forks, .kinds = kinds, .notices = weary};
+  const auto reverted = FolderBranding(others).revert(folder);
+  ASSERT_TRUE(reverted.ok()) << reverted.error().message();
+  EXPECT_EQ(*reverted, BrandingOutcome::Changed);
+  EXPECT_FALSE(fs::exists(folder / ".BackupIcon.icns"));
+}
+
+TEST_P(FolderBrandingTest, ABackupOfADamagedIconCanBePutBack) {
+  {
+    auto opened = Folder::open(folder, Folder::Access::Write);
+    ASSERT_TRUE(opened->writeFile("Icon\r", {}).ok());
+    ForkedFile damaged;
+    damaged.fork.set({"icns", customIconResourceId, 0, {}, Bytes{'j', 'u', 'n', 'k'}});
+    ASSERT_TRUE(forks.write(*opened, "Icon\r", damaged).ok());
+    ASSERT_TRUE(forks.changeFolderFlags(*opened, FinderInfo::hasCustomIcon, 0).ok());
+  }
+
+  ASSERT_TRUE(branding.writeIconWithImage(test::plainImage(Qt::red), folder).ok());
+  const auto reverted = branding.revert(folder);
+  ASSERT_TRUE(reverted.ok()) << reverted.error().message();
+  EXPECT_EQ(shownIcon(), IconFamily::iconFamilyWithThumbnailsOfImage(*kinds.systemIcon("fldr"))->data());
+}
+
 TEST_P(FolderBrandingTest, ResetLeavesTheTreeAsItWasBitForBit) {
   test::writeFile(folder / "letter.txt", std::string("Dear all"));
   test::writeFile(tree / "._Neighbour", std::string("not ours"));

@@ -45,14 +45,14 @@ Bytes firstPixel(const std::optional<Bytes>& data) {
 }
 
 TEST(Get32BitData, UndoesPremultiplicationByTruncationAndWrapsAround) {
-  EXPECT_EQ(firstPixel(get32BitData(rgba(16, {128, 0, 0, 128}), 16)), (Bytes{128, 255, 0, 0}));
-  EXPECT_EQ(firstPixel(get32BitData(rgba(16, {9, 9, 9, 0}), 16)), (Bytes{0, 0, 0, 0}));
-  EXPECT_EQ(firstPixel(get32BitData(rgba(16, {1, 2, 3, 255}), 16)), (Bytes{255, 1, 2, 3}));
+  EXPECT_EQ(firstPixel(get32BitDataFromBitmapImageRep(rgba(16, {128, 0, 0, 128}), 16)), (Bytes{128, 255, 0, 0}));
+  EXPECT_EQ(firstPixel(get32BitDataFromBitmapImageRep(rgba(16, {9, 9, 9, 0}), 16)), (Bytes{0, 0, 0, 0}));
+  EXPECT_EQ(firstPixel(get32BitDataFromBitmapImageRep(rgba(16, {1, 2, 3, 255}), 16)), (Bytes{255, 1, 2, 3}));
   // 100 * (255 / 200) = 127.5, truncated.
-  EXPECT_EQ(firstPixel(get32BitData(rgba(16, {100, 0, 0, 200}), 16)), (Bytes{200, 127, 0, 0}));
+  EXPECT_EQ(firstPixel(get32BitDataFromBitmapImageRep(rgba(16, {100, 0, 0, 200}), 16)), (Bytes{200, 127, 0, 0}));
   // 200 * (255 / 128) = 398.4: only the low eight bits stay.
-  EXPECT_EQ(firstPixel(get32BitData(rgba(16, {200, 0, 0, 128}), 16)), (Bytes{128, 398 - 256, 0, 0}));
-  EXPECT_EQ(firstPixel(get32BitData(bitmapOf(16, 8, 3, 24, {7, 8, 9}), 16)), (Bytes{255, 7, 8, 9}));
+  EXPECT_EQ(firstPixel(get32BitDataFromBitmapImageRep(rgba(16, {200, 0, 0, 128}), 16)), (Bytes{128, 398 - 256, 0, 0}));
+  EXPECT_EQ(firstPixel(get32BitDataFromBitmapImageRep(bitmapOf(16, 8, 3, 24, {7, 8, 9}), 16)), (Bytes{255, 7, 8, 9}));
 }
 
 TEST(Get32BitData, ReadsRowsThatAreLongerThanTheirPixels) {
@@ -63,44 +63,45 @@ TEST(Get32BitData, ReadsRowsThatAreLongerThanTheirPixels) {
   for (int y = 0; y < 16; ++y)
     for (int i = 0; i < 80; ++i)
       bitmap->mutableRow(y)[i] = i < 64 ? (i % 4 == 3 ? 255 : static_cast<std::uint8_t>(y)) : 99;
-  const auto data = get32BitData(*bitmap, 16);
+  const auto data = get32BitDataFromBitmapImageRep(*bitmap, 16);
   ASSERT_TRUE(data);
   EXPECT_EQ(Bytes(data->end() - 4, data->end()), (Bytes{255, 15, 15, 15}));
 }
 
 TEST(Get8BitData, TakesSamplesAsStored) {
   // White at half alpha is stored as grey 128; the table's nearest grey is 0x88.
-  EXPECT_EQ(get8BitData(rgba(16, {0, 0, 0, 0}), 16)->front(), 255);
-  EXPECT_EQ(get8BitData(rgba(16, {255, 255, 255, 255}), 16)->front(), 0);
-  EXPECT_EQ(get8BitData(bitmapOf(16, 8, 3, 24, {0xFF, 0xCC, 0x99}), 16)->front(), 6 * 1 + 2);
-  EXPECT_EQ(get8BitData(rgba(16, {128, 128, 128, 128}), 16)->front(), 249);
+  EXPECT_EQ(get8BitDataFromBitmapImageRep(rgba(16, {0, 0, 0, 0}), 16)->front(), 255);
+  EXPECT_EQ(get8BitDataFromBitmapImageRep(rgba(16, {255, 255, 255, 255}), 16)->front(), 0);
+  EXPECT_EQ(get8BitDataFromBitmapImageRep(bitmapOf(16, 8, 3, 24, {0xFF, 0xCC, 0x99}), 16)->front(), 6 * 1 + 2);
+  EXPECT_EQ(get8BitDataFromBitmapImageRep(rgba(16, {128, 128, 128, 128}), 16)->front(), 249);
 }
 
 TEST(Get8BitMask, ComesFromGreyOrAlpha) {
-  EXPECT_EQ(get8BitMask(bitmapOf(16, 8, 1, 8, {77}), 16), Bytes(256, 77));
-  EXPECT_EQ(get8BitMask(bitmapOf(16, 8, 3, 24, {0}), 16), Bytes(256, 255));
-  EXPECT_EQ(get8BitMask(rgba(32, {0, 0, 255, 255}), 32), Bytes(1024, 255));
+  EXPECT_EQ(get8BitMaskFromBitmapImageRep(bitmapOf(16, 8, 1, 8, {77}), 16), Bytes(256, 77));
+  EXPECT_EQ(get8BitMaskFromBitmapImageRep(bitmapOf(16, 8, 3, 24, {0}), 16), Bytes(256, 255));
+  EXPECT_EQ(get8BitMaskFromBitmapImageRep(rgba(32, {0, 0, 255, 255}), 32), Bytes(1024, 255));
 }
 
 TEST(Get1BitMask, GoesByTheFirstSampleAndRepeatsItsHalf) {
   // Opaque blue has no red in it and is left out; that is meant.
-  EXPECT_EQ(get1BitMask(rgba(32, {0, 0, 255, 255}), 32), Bytes(256, 0));
-  EXPECT_EQ(get1BitMask(bitmapOf(16, 8, 3, 24, {0}), 16), Bytes(64, 0xFF));
+  EXPECT_EQ(get1BitMaskFromBitmapImageRep(rgba(32, {0, 0, 255, 255}), 32), Bytes(256, 0));
+  EXPECT_EQ(get1BitMaskFromBitmapImageRep(bitmapOf(16, 8, 3, 24, {0}), 16), Bytes(64, 0xFF));
   auto bitmap = rgba(16, {0, 0, 0, 0});
   bitmap.mutableRow(0)[0] = 1;
   bitmap.mutableRow(1)[4 * 15] = 1;
-  const auto bits = get1BitMask(bitmap, 16);
+  const auto bits = get1BitMaskFromBitmapImageRep(bitmap, 16);
   ASSERT_TRUE(bits);
   EXPECT_EQ((*bits)[0], 0x80);
   EXPECT_EQ((*bits)[3], 0x01);
   EXPECT_TRUE(std::equal(bits->begin(), bits->begin() + 32, bits->begin() + 32));
-  EXPECT_EQ(get1BitMask(bitmapOf(16, 1, 1, 1, {0xA5}), 16), Bytes(64, 0xA5));
+  EXPECT_EQ(get1BitMaskFromBitmapImageRep(bitmapOf(16, 1, 1, 1, {0xA5}), 16), Bytes(64, 0xA5));
 }
 
 TEST(Producers, RefuseWrongSizesSilentlyAndPlanarOrDeepSourcesWithAMessage) {
   CapturedLog log;
   const auto all = [](const BitmapImageRep& bitmap, int n) {
-    return get32BitData(bitmap, n) || get8BitData(bitmap, n) || get8BitMask(bitmap, n) || get1BitMask(bitmap, n);
+    return get32BitDataFromBitmapImageRep(bitmap, n) || get8BitDataFromBitmapImageRep(bitmap, n) ||
+           get8BitMaskFromBitmapImageRep(bitmap, n) || get1BitMaskFromBitmapImageRep(bitmap, n);
   };
   EXPECT_FALSE(all(rgba(16, {0, 0, 0, 0}), 32));
   EXPECT_FALSE(all(bitmapOf(16, 8, 2, 16, {0, 0}), 16));

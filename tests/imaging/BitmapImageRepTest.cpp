@@ -296,11 +296,11 @@ TEST(BitmapImageRep, BrightnessIsWeightedForThreeSamplesOnly) {
       {3, 2, 8, 3, 24, 12, false},
       {255, 255, 255, 0, 255, 0, 0, 0, 0, 0, 0, 0, 255, 0, 0, 0, 0, 255, 7, 7, 7, 0, 0, 0});
   ASSERT_TRUE(rgb);
-  EXPECT_EQ(rgb->brightnessAt(0, 0), 255U);
-  EXPECT_EQ(rgb->brightnessAt(1, 0), 180U);
-  EXPECT_EQ(rgb->brightnessAt(0, 1), 57U);
-  EXPECT_EQ(rgb->brightnessAt(1, 1), 18U);
-  EXPECT_EQ(numbered(4, 2).brightnessAt(2, 1), 3U);  // red alone
+  EXPECT_EQ(rgb->brightnessAtX(0, 0), 255U);
+  EXPECT_EQ(rgb->brightnessAtX(1, 0), 180U);
+  EXPECT_EQ(rgb->brightnessAtX(0, 1), 57U);
+  EXPECT_EQ(rgb->brightnessAtX(1, 1), 18U);
+  EXPECT_EQ(numbered(4, 2).brightnessAtX(2, 1), 3U);  // red alone
 }
 
 TEST(BitmapImageRep, ADecodedPictureKeepsItsColoursInOneSpace) {

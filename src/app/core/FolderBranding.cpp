@@ -30,6 +30,7 @@ Result<Image> imageOf(const IconFamily& family, const std::filesystem::path& pat
   auto image = family.imageWithAllReps();
   if (!image || !image->bitmapRepresentation()) image = kinds.iconForKindOfFile(path);
   if (!image) return Error::invalidInput("its icon holds no picture").at(path);
+  image->setScalesWhenResized(true);
   image->setSize(size);
   return *std::move(image);
 }
@@ -123,7 +124,8 @@ Result<BrandingOutcome> FolderBranding::revert(const std::filesystem::path& path
   TRY_VOID(setFolderIcon(*family, folder, _services));
   // The icon is back; a backup that cannot be removed is no failure.
   if (const auto removed = folder.removeFile(backupName); !removed) logMessage("branding", removed.error().message());
-  TRY_VOID(_services.notices.noteDirectoryModified(folder));
+  if (const auto told = _services.notices.noteDirectoryModified(folder); !told)
+    logMessage("branding", told.error().message());
   TRY_VOID(BrandingRecord::noteChanged(folder));
   return BrandingOutcome::Changed;
 }
