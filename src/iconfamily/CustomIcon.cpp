@@ -132,7 +132,7 @@ Result<void> setFolderIcon(const IconFamily& family, Folder& folder, const IconS
     for (const std::string& beside : services.forks.filesBeside(spelling)) TRY_VOID(former.hold(beside));
   }
 
-  // The old icon file with its resources goes; nothing of it is kept. Other spellings would be second icon files.
+  // No resource of the old icon file is kept. Other spellings would be second icon files.
   for (const std::string& spelling : iconFileNames)
     if (spelling != iconFileName) TRY_VOID(services.forks.removeFile(folder, spelling));
   TRY_VOID(folder.writeFile(iconFileName, {}));
