@@ -39,7 +39,7 @@ std::uint8_t valueOf(const ForkedFile& content) {
 Bytes foreignCompanion() {
   const std::string block(
       "ATTR\0\0\0\1\0\0\0\x98\0\0\0\x94\0\0\0\4\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\1"
-      "\0\0\0\x94\0\0\0\4\0\0\4x.y\0value",
+      "\0\0\0\x94\0\0\0\4\0\0\4x.y\0value\0\0\0\0",
       60);
   ByteWriter writer;
   writer.writeU32(0x00051607);
