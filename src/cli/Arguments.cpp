@@ -154,6 +154,21 @@ Parser::Parser() {
   for (CLI::App* command : {make, list, extract}) addCommon(*command);
 }
 
+/// The words of the command line, with "--option=" as two words: the parser would take the word after it as its value.
+std::vector<std::string> splitEmptyValues(int argc, const char* const* argv) {
+  std::vector<std::string> words;
+  bool mayBeOption = true;
+  for (int at = 0; at < argc; ++at) {
+    std::string word = argv[at];
+    mayBeOption = mayBeOption && word != "--";
+    const bool isEmptyValue = mayBeOption && word.starts_with("--") && word.find('=') == word.size() - 1;
+    if (isEmptyValue) word.pop_back();
+    words.push_back(std::move(word));
+    if (isEmptyValue) words.emplace_back();
+  }
+  return words;
+}
+
 /// Says what is wrong and how the command is used.
 Finished complain(const std::string& what, const CLI::App& command) {
   std::fprintf(stderr, "quorvane: %s\n%s\nTry 'quorvane %s--help'.\n", what.c_str(), useLine(command).c_str(),
@@ -268,8 +283,11 @@ const std::vector<std::string>& commandWords() {
 
 std::variant<Arguments, Finished> parseArguments(int argc, const char* const* argv) {
   Parser parser;
+  const std::vector<std::string> words = splitEmptyValues(argc, argv);
+  std::vector<const char*> pointers;
+  for (const std::string& word : words) pointers.push_back(word.c_str());
   try {
-    parser.app.parse(argc, argv);
+    parser.app.parse(static_cast<int>(pointers.size()), pointers.data());
   } catch (const CLI::CallForVersion& version) {
     std::printf("%s\n", version.what());
     return Finished{exitDone};

@@ -53,13 +53,10 @@ class HeldFiles {
   explicit HeldFiles(Folder& folder) : _folder(folder) {}
 
   Result<void> hold(const std::string& name) {
-    Held held{name, {}};
-    if (TRY(_folder.statusOf(name))) {
-      held.temporary = Folder::temporaryName();
-      TRY_VOID(_folder.preserve(name, _folder, held.temporary));
-    }
-    _files.push_back(std::move(held));
-    return {};
+    const bool exists = TRY(_folder.statusOf(name)).has_value();
+    // Noted first: a hold that fails half way may have left its temporary name, which then goes with the others.
+    _files.push_back({name, exists ? Folder::temporaryName() : std::string()});
+    return exists ? _folder.preserve(name, _folder, _files.back().temporary) : Result<void>();
   }
 
   /// Everything went well: what is held may go. A remainder is swept by the next writer.
@@ -142,8 +139,9 @@ Result<void> setFolderIcon(const IconFamily& family, Folder& folder, const IconS
   addIconResources(content.fork, family, withCompatibility);
   TRY_VOID(services.forks.write(folder, iconFileName, content));
   TRY(services.forks.changeFolderFlags(folder, FinderInfo::hasCustomIcon, FinderInfo::hasBeenInited));
+  TRY_VOID(services.notices.noteDirectoryModified(folder));
   former.release();
-  return services.notices.noteDirectoryModified(folder);
+  return {};
 }
 
 Result<void> IconFamily::setAsCustomIconForDirectory(const std::filesystem::path& path, const IconServices& services,

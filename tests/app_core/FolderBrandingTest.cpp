@@ -212,6 +212,54 @@ TEST_P(FolderBrandingTest, StatusNamesWhatIsThereAndWhatContradictsItself) {
   // Applying again mends it.
   ASSERT_EQ(*branding.writeIconWithImage(test::plainImage(Qt::red), folder), BrandingOutcome::Changed);
   EXPECT_FALSE(branding.status(folder)->isIncomplete());
+  // What an apply leaves that was killed before the first icon was written.
+  ASSERT_TRUE(branding.reset(folder).ok());
+  test::writeFile(folder / "Icon\r", std::string());
+  EXPECT_TRUE(branding.status(folder)->isIncomplete());
+}
+
+class FailingNotices final : public FileManagerNotices {
+ public:
+  Result<void> noteDirectoryModified(Folder& folder) override {
+    return Error::system(EIO, "cannot set times").at(folder.path());
+  }
+};
+
+TEST_P(FolderBrandingTest, WhatFailsHasChangedNothingAndWhatIsDoneIsNoFailure) {
+  ASSERT_TRUE(branding.writeIconWithImage(test::plainImage(Qt::red), folder).ok());
+  const Bytes red = shownIcon();
+  FailingNotices failing;
+  const IconServices hinderedServices{.forks = forks, .kinds = kinds, .notices = failing};
+  const FolderBranding hindered{hinderedServices};
+  const std::string before = test::describeTree(folder);
+  EXPECT_FALSE(hindered.writeIconWithImage(test::plainImage(Qt::blue), folder).ok());
+  EXPECT_EQ(shownIcon(), red);
+  EXPECT_EQ(test::describeTree(folder), before);
+  EXPECT_EQ(*hindered.reset(folder), BrandingOutcome::Changed);
+  EXPECT_TRUE(fs::is_empty(folder));
+
+  // The record is of no use to a revert, which is done when it comes to it.
+  ASSERT_TRUE(branding.writeIconWithImage(test::plainImage(Qt::red), folder).ok());
+  test::writeFile(folder / ".quorvane" / "record.json", std::string("{"));
+  EXPECT_EQ(*branding.revert(folder), BrandingOutcome::Changed);
+}
+
+TEST_P(FolderBrandingTest, AResetThatCannotBeFinishedIsNotBegun) {
+  test::writeFile(folder / ".BackupIcon.icns",
+                  IconFamily::iconFamilyWithThumbnailsOfImage(test::plainImage(Qt::green))->data());
+  ASSERT_TRUE(branding.writeIconWithImage(test::plainImage(Qt::red), folder).ok());
+  fs::remove(folder / ".quorvane" / "backup.icns");
+  const std::string before = test::describeTree(tree.path());
+  EXPECT_FALSE(branding.reset(folder).ok());
+  EXPECT_EQ(test::describeTree(tree.path()), before);
+}
+
+TEST_P(FolderBrandingTest, ResetClearsAwayWhatAKilledWriterLeftInTheFolderAbove) {
+  ASSERT_TRUE(branding.writeIconWithImage(test::plainImage(Qt::red), folder).ok());
+  fs::remove(tree / "._Invoices");
+  test::writeFile(tree / ".quorvane-abcd2345.tmp", std::string("half"));
+  ASSERT_TRUE(branding.reset(folder).ok());
+  EXPECT_FALSE(fs::exists(tree / ".quorvane-abcd2345.tmp"));
 }
 
 }  // namespace

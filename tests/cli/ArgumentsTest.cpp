@@ -47,6 +47,15 @@ TEST(Arguments, ReadALookAndFoldersAsRawBytes) {
   EXPECT_TRUE(parse({"apply", "x"}).arguments.look.label.isNull());
 }
 
+TEST(Arguments, AnEmptyValueTakesNoFolderForItsOwn) {
+  const auto outcome = parse({"apply", "--label=", "--color=", "--base", "x.png", "A", "B"});
+  ASSERT_EQ(outcome.exitCode, -1) << outcome.complaint;
+  EXPECT_TRUE(outcome.arguments.look.label.isEmpty());
+  EXPECT_EQ(outcome.arguments.paths, (std::vector<std::filesystem::path>{"A", "B"}));
+  EXPECT_EQ(parse({"apply", "--base", "x", "--", "--label="}).arguments.paths.front(), "--label=");
+  EXPECT_EQ(parse({"apply", "--label=a=", "A"}).arguments.look.label, QStringLiteral("a="));
+}
+
 TEST(Arguments, WrongUseSaysWhatAndEndsWithTwo) {
   struct Row {
     std::vector<std::string> words;

@@ -235,5 +235,21 @@ TEST(PngCodec, AbsurdHeadersAreRefusedBeforeAnyAllocation) {
   EXPECT_EQ(kindOf({}, 4096), ErrorKind::InvalidInput);
 }
 
+TEST(PngCodec, DataFarBeyondThePixelsIsRefusedUnread) {
+  const auto png = encoded(randomBitmap(16, 16, false, 3));
+  const auto withMoreData = [&](std::uint32_t count) {
+    Bytes more = {std::uint8_t(count >> 24), std::uint8_t(count >> 16), std::uint8_t(count >> 8), std::uint8_t(count)};
+    more.insert(more.end(), {'I', 'D', 'A', 'T'});
+    more.resize(more.size() + count + 4);
+    Bytes changed = png;
+    changed.insert(changed.end() - 12, more.begin(), more.end());
+    return changed;
+  };
+  EXPECT_TRUE(checkPngData(png).ok());
+  EXPECT_TRUE(checkPngData(withMoreData(1000)).ok());
+  EXPECT_FALSE(checkPngData(withMoreData(100'000)).ok());
+  EXPECT_FALSE(decodePng(withMoreData(100'000), 16).ok());
+}
+
 }  // namespace
 }  // namespace quorvane

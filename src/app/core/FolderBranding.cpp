@@ -43,6 +43,17 @@ Result<bool> hasIcon(const Folder& folder, const IconFamily& family, const ForkS
   return present && *present == family;
 }
 
+/// Only the folder's date after a reset rests on this: the icon is in place, and stays a success without it.
+void noteOurChange(Folder& folder) {
+  if (const auto noted = BrandingRecord::noteChanged(folder); !noted) logMessage("branding", noted.error().message());
+}
+
+/// Once the work is done; it is no less done when nobody could be told.
+void tellFileManagers(Folder& folder, const IconServices& services) {
+  if (const auto told = services.notices.noteDirectoryModified(folder); !told)
+    logMessage("branding", told.error().message());
+}
+
 }  // namespace
 
 std::filesystem::path FolderBranding::_backupPathForFolder(const std::filesystem::path& folder) {
@@ -102,7 +113,7 @@ Result<BrandingOutcome> FolderBranding::writeIconWithImage(const std::optional<I
     }
     return written.error();
   }
-  TRY_VOID(BrandingRecord::noteChanged(folder));
+  noteOurChange(folder);
   noteAgain(folder.path());
   return BrandingOutcome::Changed;
 }
@@ -124,9 +135,8 @@ Result<BrandingOutcome> FolderBranding::revert(const std::filesystem::path& path
   TRY_VOID(setFolderIcon(*family, folder, _services));
   // The icon is back; a backup that cannot be removed is no failure.
   if (const auto removed = folder.removeFile(backupName); !removed) logMessage("branding", removed.error().message());
-  if (const auto told = _services.notices.noteDirectoryModified(folder); !told)
-    logMessage("branding", told.error().message());
-  TRY_VOID(BrandingRecord::noteChanged(folder));
+  tellFileManagers(folder, _services);
+  noteOurChange(folder);
   return BrandingOutcome::Changed;
 }
 
@@ -136,7 +146,7 @@ Result<BrandingOutcome> FolderBranding::reset(const std::filesystem::path& path,
   TRY_VOID(checkWritable(folder));
   if (mode == WriteMode::DryRun) return BrandingOutcome::Changed;
   TRY_VOID(BrandingRecord::restore(folder, _services.forks, backupName));
-  TRY_VOID(_services.notices.noteDirectoryModified(folder));
+  tellFileManagers(folder, _services);
   return BrandingOutcome::Changed;
 }
 
@@ -170,6 +180,8 @@ Result<FolderStatus> FolderBranding::status(const std::filesystem::path& path) c
   }
   if (status.hasCustomFlag && !status.hasIconFamily)
     status.faults.emplace_back("the folder claims an icon that is not there");
+  if (!status.hasCustomFlag && !status.hasIconFamily && status.faults.empty() && TRY(findIconFile(folder)))
+    status.faults.emplace_back("an icon file stands there that holds no icon");
   if (status.hasIconFamily && !status.hasCustomFlag)
     status.faults.emplace_back("the folder does not say that it has an icon");
   status.hasCustomIcon = status.hasIconFamily && status.hasCustomFlag;
