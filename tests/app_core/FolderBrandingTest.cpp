@@ -3,10 +3,12 @@
 
 #include <fcntl.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
 #include "iconfamily/CustomIcon.h"
 #include "iconfamily/format/IcnsContainer.h"
 #include "support/BrandingFixture.h"
+#include "support/ChildProcess.h"
 
 namespace quorvane {
 namespace {
@@ -188,6 +190,23 @@ TEST_P(FolderBrandingTest, PlantedThingsAreRefusedAndTheOldIconStays) {
     }
   }
   EXPECT_EQ(test::readFile(tree / "victim"), (Bytes{'p', 'r', 'e', 'c', 'i', 'o', 'u', 's'}));
+}
+
+TEST_P(FolderBrandingTest, ADryRunRefusesWhatTheRealRunWouldRefuse) {
+  // The folder is theirs; the one above, where the flags go without attributes, is not.
+  ::chmod(tree.path().c_str(), 0755);
+  ::chmod(folder.c_str(), 0777);
+  const std::string before = test::describeTree(tree.path());
+  test::asOrdinaryUser([&] {
+    if (::access(tree.path().c_str(), W_OK) == 0) return;  // an ordinary user's own run
+    const auto dry = branding.writeIconWithImage(test::plainImage(Qt::red), folder, WriteMode::DryRun);
+    EXPECT_EQ(dry.ok(), GetParam() == Attributes::Use);
+    const auto real = branding.writeIconWithImage(test::plainImage(Qt::red), folder);
+    EXPECT_EQ(real.ok(), dry.ok());
+  });
+  if (GetParam() == Attributes::Ignore) {
+    EXPECT_EQ(test::describeTree(tree.path()), before);
+  }
 }
 
 TEST_P(FolderBrandingTest, WhatIsNoFolderOrNobodysToBrandIsRefused) {

@@ -98,7 +98,7 @@ Result<BrandingOutcome> FolderBranding::writeIconWithImage(const std::optional<I
   const bool hasRecord = TRY(BrandingRecord::exists(folder));
   const bool hasBackup = TRY(folder.statusOf(backupName)).has_value();
   if (hasRecord && hasBackup && TRY(hasIcon(folder, family, _services.forks))) return BrandingOutcome::Unchanged;
-  TRY_VOID(checkWritable(folder));
+  TRY_VOID(checkPlaces(folder, _services.forks));
   if (mode == WriteMode::DryRun) return BrandingOutcome::Changed;
 
   if (!hasRecord) TRY_VOID(BrandingRecord::make(folder, _services.forks, backupName));
@@ -130,7 +130,7 @@ Result<BrandingOutcome> FolderBranding::revert(const std::filesystem::path& path
   Folder folder = TRY(openForWriting(path, mode));
   const auto family = TRY(readBackup(folder));
   if (!family) return BrandingOutcome::NothingToRevert;
-  TRY_VOID(checkWritable(folder));
+  TRY_VOID(checkPlaces(folder, _services.forks));
   if (mode == WriteMode::DryRun) return BrandingOutcome::Changed;
   TRY_VOID(setFolderIcon(*family, folder, _services));
   // The icon is back; a backup that cannot be removed is no failure.
@@ -143,7 +143,7 @@ Result<BrandingOutcome> FolderBranding::revert(const std::filesystem::path& path
 Result<BrandingOutcome> FolderBranding::reset(const std::filesystem::path& path, WriteMode mode) const {
   Folder folder = TRY(openForWriting(path, mode));
   if (!TRY(BrandingRecord::exists(folder))) return BrandingOutcome::NothingToRevert;
-  TRY_VOID(checkWritable(folder));
+  TRY_VOID(folder.checkWritable());
   if (mode == WriteMode::DryRun) return BrandingOutcome::Changed;
   TRY_VOID(BrandingRecord::restore(folder, _services.forks, backupName));
   tellFileManagers(folder, _services);
