@@ -1,22 +1,16 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // How long a redraw of the canvas and an Apply take to draw: three lines with shadow, shear and rotation. The reference
 // is the drawing library's own text, drawn with the same font and transform but without a shadow or a fitted size.
-#include <benchmark/benchmark.h>
-
-#include <QGuiApplication>
 #include <QPainter>
 
+#include "LabelBench.h"
 #include "composition/core/LabelRenderer.h"
 #include "composition/core/ShadowBlur.h"
 
 namespace {
 
 using namespace quorvane;
-
-const QString& threeLines() {
-  static const QString text = QStringLiteral("Projects\nArchive 2024\nthird line");
-  return text;
-}
+using bench::threeLines;
 
 LabelLook look(bool withShadow) {
   LabelLook result;
@@ -91,10 +85,3 @@ void BM_Blur(benchmark::State& state) {
 BENCHMARK(BM_Blur)->Args({128, 17})->Args({512, 70})->Args({512, 320})->Unit(benchmark::kMicrosecond);
 
 }  // namespace
-
-int main(int argc, char** argv) {
-  qputenv("QT_QPA_PLATFORM", "offscreen");
-  const QGuiApplication application(argc, argv);
-  benchmark::Initialize(&argc, argv);
-  benchmark::RunSpecifiedBenchmarks();
-}

@@ -1,21 +1,15 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // How long a label's font size takes to find: from one layout, and by the plain loop that is its definition. The
 // counter "of_plain" is the share of the plain loop's time, taken in the same run.
-#include <benchmark/benchmark.h>
-
-#include <QGuiApplication>
 #include <chrono>
 
+#include "LabelBench.h"
 #include "composition/core/LabelFitting.h"
 
 namespace {
 
 using namespace quorvane;
-
-const QString& threeLines() {
-  static const QString text = QStringLiteral("Projects\nArchive 2024\nthird line");
-  return text;
-}
+using bench::threeLines;
 
 LabelLook lookFrom(double points) {
   LabelLook look;
@@ -50,10 +44,3 @@ void BM_FromOneLayout(benchmark::State& state) {
 BENCHMARK(BM_FromOneLayout)->Arg(20)->Arg(50)->Arg(100)->Arg(300)->Unit(benchmark::kMicrosecond);
 
 }  // namespace
-
-int main(int argc, char** argv) {
-  qputenv("QT_QPA_PLATFORM", "offscreen");
-  const QGuiApplication application(argc, argv);
-  benchmark::Initialize(&argc, argv);
-  benchmark::RunSpecifiedBenchmarks();
-}

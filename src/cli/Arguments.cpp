@@ -4,6 +4,7 @@
 #include <CLI/App.hpp>
 #include <CLI/Config.hpp>
 #include <CLI/Formatter.hpp>
+#include <cstdint>
 #include <cstdio>
 
 #include "app/core/EffectPresets.h"
@@ -90,7 +91,7 @@ Parser::Parser() {
   app.require_subcommand(1);
 
   const auto folders = [this](CLI::App* command) {
-    command->add_option("FOLDER", paths, "One or more folders")->required()->type_name("");
+    command->add_option("FOLDER", paths, "One or more folders")->type_name("");
   };
 
   CLI::App* apply = add(app, Command::Apply, "apply", "Give folders an icon with a label", "apply [OPTIONS] FOLDER...",
@@ -126,10 +127,7 @@ Parser::Parser() {
                          "render [OPTIONS] OUT",
                          {"quorvane render --label Taxes --effect soft taxes.png",
                           "quorvane render --label Taxes --base box.png --pixels 1024 taxes.png"});
-  render->add_option("OUT", paths, "File to write; .icns makes an icon family, anything else a PNG")
-      ->required()
-      ->expected(1)
-      ->type_name("");
+  render->add_option("OUT", paths, "File to write; .icns makes an icon family, anything else a PNG")->type_name("");
   addLook(*render);
   render->add_option("--pixels", pixels, "Side of the PNG, 16 to 4096 [512]")->type_name("N");
   addDryRun(*render);
@@ -148,10 +146,53 @@ Parser::Parser() {
   CLI::App* extract = add(*icns, Command::IcnsExtract, "extract",
                           "Write each picture of an icon family as DIR/TYPE.png", "icns extract FILE DIR",
                           {"quorvane icns extract picture.icns pictures/", "quorvane icns extract --json a.icns out"});
-  make->add_option("FILES", paths, "PICTURE and OUT.icns")->required()->expected(2)->type_name("");
-  list->add_option("FILE", paths, "One or more icns files")->required()->type_name("");
-  extract->add_option("FILES", paths, "FILE and DIR")->required()->expected(2)->type_name("");
+  make->add_option("FILES", paths, "PICTURE and OUT.icns")->type_name("");
+  list->add_option("FILE", paths, "One or more icns files")->type_name("");
+  extract->add_option("FILES", paths, "FILE and DIR")->type_name("");
   for (CLI::App* command : {make, list, extract}) addCommon(*command);
+}
+
+/// The words of the command line up to a "--", and those after it, which are never options. "--option=" becomes two
+/// words: the parser would take the word after it as its value.
+struct Words {
+  std::vector<std::string> parsed;
+  std::vector<std::string> verbatim;
+};
+
+Words splitWords(int argc, const char* const* argv) {
+  Words words;
+  int at = 0;
+  for (; at < argc && std::string_view(argv[at]) != "--"; ++at) {
+    std::string word = argv[at];
+    const bool isEmptyValue = word.starts_with("--") && word.find('=') == word.size() - 1;
+    if (isEmptyValue) word.pop_back();
+    words.parsed.push_back(std::move(word));
+    if (isEmptyValue) words.parsed.emplace_back();
+  }
+  for (++at; at < argc; ++at) words.verbatim.emplace_back(argv[at]);
+  return words;
+}
+
+/// How many paths a command takes; their names for a complaint.
+struct PathCount {
+  std::size_t least;
+  std::size_t most;
+  const char* names;
+};
+
+PathCount pathCount(Command command) {
+  switch (command) {
+    case Command::Render:
+      return {1, 1, "OUT"};
+    case Command::IcnsMake:
+      return {2, 2, "PICTURE and OUT.icns"};
+    case Command::IcnsExtract:
+      return {2, 2, "FILE and DIR"};
+    case Command::IcnsList:
+      return {1, SIZE_MAX, "FILE"};
+    default:
+      return {1, SIZE_MAX, "FOLDER"};
+  }
 }
 
 /// Says what is wrong and how the command is used.
@@ -230,6 +271,11 @@ Result<Arguments> readArguments(const Parser& parser, Command command) {
     if (path.empty()) return Error::invalidInput("an empty path names nothing");
     arguments.paths.emplace_back(path);
   }
+  const PathCount count = pathCount(command);
+  if (parser.paths.size() < count.least) return Error::invalidInput(std::string(count.names) + " missing");
+  if (parser.paths.size() > count.most)
+    return Error::invalidInput(std::string("takes ") + count.names + " and no more, not '" +
+                               printable(parser.paths[count.most]) + "'");
   if (parser.json && parser.jsonLines) return Error::invalidInput("--json and --json-lines exclude each other");
   arguments.form = parser.json ? OutputForm::Json : parser.jsonLines ? OutputForm::JsonLines : OutputForm::Words;
   arguments.isQuiet = parser.quiet;
@@ -268,8 +314,11 @@ const std::vector<std::string>& commandWords() {
 
 std::variant<Arguments, Finished> parseArguments(int argc, const char* const* argv) {
   Parser parser;
+  const Words words = splitWords(argc, argv);
+  std::vector<const char*> pointers;
+  for (const std::string& word : words.parsed) pointers.push_back(word.c_str());
   try {
-    parser.app.parse(argc, argv);
+    parser.app.parse(static_cast<int>(pointers.size()), pointers.data());
   } catch (const CLI::CallForVersion& version) {
     std::printf("%s\n", version.what());
     return Finished{exitDone};
@@ -282,6 +331,7 @@ std::variant<Arguments, Finished> parseArguments(int argc, const char* const* ar
     const bool hasExtras = !parser.app.remaining(true).empty();
     return complain(hasExtras ? unexpected(parser.app, command) : printable(std::string_view(error.what())), command);
   }
+  parser.paths.insert(parser.paths.end(), words.verbatim.begin(), words.verbatim.end());
   for (const auto& [command, app] : parser.commands) {
     if (!app->parsed()) continue;
     auto arguments = readArguments(parser, command);

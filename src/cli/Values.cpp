@@ -47,7 +47,7 @@ Result<Point> parsePoint(std::string_view text) {
   const auto x = parseNumber(text.substr(0, comma));
   const auto y = comma == std::string_view::npos ? std::nullopt : parseNumber(text.substr(comma + 1));
   if (!x || !y || std::abs(*x) > 1e6 || std::abs(*y) > 1e6)
-    return Error::invalidInput("--center takes X,Y, not '" + printable(text) + "'");
+    return Error::invalidInput("--center takes X,Y, numbers within a million, not '" + printable(text) + "'");
   return Point{static_cast<float>(*x), static_cast<float>(*y)};
 }
 

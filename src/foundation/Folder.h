@@ -97,6 +97,11 @@ class Folder {
   /// `in`.
   Result<void> preserve(const std::string& name, const Folder& in, const std::string& as) const;
 
+  /// Fails when no entries can be made in the folder, with the system's reason, as far as it can be told untried.
+  [[nodiscard]] Result<void> checkWritable() const;
+  /// Whether the file system keeps extended attributes of users, as far as it can be told untried.
+  [[nodiscard]] bool takesAttributes() const;
+
   /// An extended attribute of the folder itself; nullopt when there is none or the file system knows none.
   [[nodiscard]] Result<std::optional<Bytes>> attribute(const std::string& name) const;
   /// Read back before success. Fails with ErrorKind::Unsupported where the file system takes none.

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Extended attributes, times, and the flush of the folder itself.
 #include <fcntl.h>
+#include <sys/xattr.h>
+#include <unistd.h>
 
 #include <cerrno>
 
@@ -16,6 +18,16 @@ Result<void> placed(const Result<void>& result, const std::filesystem::path& pat
 }
 
 }  // namespace
+
+Result<void> Folder::checkWritable() const {
+  if (::faccessat(_handle.get(), ".", W_OK | X_OK, AT_EACCESS) != 0)
+    return Error::system(errno, "cannot write").at(_path);
+  return {};
+}
+
+bool Folder::takesAttributes() const {
+  return ::fgetxattr(_handle.get(), "user.quorvane", nullptr, 0) >= 0 || errno != ENOTSUP;
+}
 
 Result<std::optional<Bytes>> Folder::attribute(const std::string& name) const {
   auto value = calls::attribute(_handle.get(), name);

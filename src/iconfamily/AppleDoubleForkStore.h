@@ -27,6 +27,7 @@ class AppleDoubleForkStore : public ForkStore {
   [[nodiscard]] std::vector<std::string> filesBeside(const std::string& name) const override;
 
   [[nodiscard]] Result<FinderInfo> readFolderInfo(const Folder& folder) const override;
+  [[nodiscard]] Result<void> checkFolderFlags(const Folder& folder) const override;
   Result<std::optional<FolderInfoPlace>> changeFolderFlags(Folder& folder, std::uint16_t set,
                                                            std::uint16_t clear) override;
 

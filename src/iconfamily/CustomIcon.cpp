@@ -53,13 +53,10 @@ class HeldFiles {
   explicit HeldFiles(Folder& folder) : _folder(folder) {}
 
   Result<void> hold(const std::string& name) {
-    Held held{name, {}};
-    if (TRY(_folder.statusOf(name))) {
-      held.temporary = Folder::temporaryName();
-      TRY_VOID(_folder.preserve(name, _folder, held.temporary));
-    }
-    _files.push_back(std::move(held));
-    return {};
+    const bool exists = TRY(_folder.statusOf(name)).has_value();
+    // Noted first: a hold that fails half way may have left its temporary name, which then goes with the others.
+    _files.push_back({name, exists ? Folder::temporaryName() : std::string()});
+    return exists ? _folder.preserve(name, _folder, _files.back().temporary) : Result<void>();
   }
 
   /// Everything went well: what is held may go. A remainder is swept by the next writer.
@@ -112,7 +109,12 @@ Result<std::optional<IconFamily>> readCustomIcon(const std::filesystem::path& pa
       return std::optional<IconFamily>();
     return readFolderIconResource(folder, forks);
   }
-  const Located file = TRY(locate(path, Folder::Access::Read));
+  // A link has the icon of what it leads to; what is neither file nor folder can have no icon of its own.
+  std::error_code error;
+  const std::filesystem::path target = std::filesystem::canonical(path, error);
+  if (error) return Error::system(error.value(), "cannot look at").at(path);
+  if (!std::filesystem::is_regular_file(target, error)) return std::optional<IconFamily>();
+  const Located file = TRY(locate(target, Folder::Access::Read));
   const ForkedFile content = TRY(forks.read(file.folder, file.name));
   if ((content.info.flags() & FinderInfo::hasCustomIcon) == 0) return std::optional<IconFamily>();
   return familyIn(content.fork);
@@ -127,7 +129,7 @@ Result<void> setFolderIcon(const IconFamily& family, Folder& folder, const IconS
     for (const std::string& beside : services.forks.filesBeside(spelling)) TRY_VOID(former.hold(beside));
   }
 
-  // The old icon file with its resources goes; nothing of it is kept. Other spellings would be second icon files.
+  // No resource of the old icon file is kept. Other spellings would be second icon files.
   for (const std::string& spelling : iconFileNames)
     if (spelling != iconFileName) TRY_VOID(services.forks.removeFile(folder, spelling));
   TRY_VOID(folder.writeFile(iconFileName, {}));
@@ -137,8 +139,9 @@ Result<void> setFolderIcon(const IconFamily& family, Folder& folder, const IconS
   addIconResources(content.fork, family, withCompatibility);
   TRY_VOID(services.forks.write(folder, iconFileName, content));
   TRY(services.forks.changeFolderFlags(folder, FinderInfo::hasCustomIcon, FinderInfo::hasBeenInited));
+  TRY_VOID(services.notices.noteDirectoryModified(folder));
   former.release();
-  return services.notices.noteDirectoryModified(folder);
+  return {};
 }
 
 Result<void> IconFamily::setAsCustomIconForDirectory(const std::filesystem::path& path, const IconServices& services,

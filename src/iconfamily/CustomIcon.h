@@ -12,8 +12,9 @@
 /// Custom icons on folders that are open already: what IconFamily's operations and the folder flow stand on.
 namespace quorvane {
 
-/// The custom icon of a folder or plain file: its flag is set and there is an 'icns' resource -16455. nullopt without
-/// one. Fails on a path that is not there and on companions that are malformed or not plain files.
+/// The custom icon of a folder or plain file: its flag is set and there is an 'icns' resource -16455. Links are
+/// followed. nullopt without one, and for what is neither. Fails on a path that is not there and on companions that are
+/// malformed or not plain files.
 Result<std::optional<IconFamily>> readCustomIcon(const std::filesystem::path& path, const ForkStore& forks);
 
 /// The family in the folder's icon file, whether or not the folder's flag says that it has one.

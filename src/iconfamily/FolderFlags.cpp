@@ -78,6 +78,12 @@ Result<bool> AppleDoubleForkStore::_changeAttribute(Folder& folder, std::uint16_
   return set != 0;
 }
 
+Result<void> AppleDoubleForkStore::checkFolderFlags(const Folder& folder) const {
+  if (_usesAttributes() && folder.takesAttributes()) return {};
+  const auto own = TRY(companion::ofFolder(folder, Access::Read));
+  return own.above ? own.above->checkWritable() : folder.checkWritable();
+}
+
 Result<std::optional<FolderInfoPlace>> AppleDoubleForkStore::changeFolderFlags(Folder& folder, std::uint16_t set,
                                                                                std::uint16_t clear) {
   const FlagChange change{set, clear};

@@ -48,6 +48,8 @@ class ForkStore {
 
   /// Finder info of the folder itself; zero when it has none. The custom-icon flag is set when any place says so.
   [[nodiscard]] virtual Result<FinderInfo> readFolderInfo(const Folder& folder) const = 0;
+  /// Fails when changeFolderFlags() would find no place to keep flags in, as far as it can be told without writing.
+  [[nodiscard]] virtual Result<void> checkFolderFlags(const Folder& folder) const = 0;
   /// Clears Finder flags of the folder, then sets others, in every place that holds Finder info of it, so that all
   /// readers agree; where flags are to be set and no place holds any, in a new one. Returns the place that now holds
   /// the flags that were set; nullopt when none were to be set. May lock the folder above for a moment.

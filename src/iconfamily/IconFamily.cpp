@@ -23,13 +23,13 @@ constexpr Size iconPoints{128, 128};
 std::optional<Bytes> elementData(const WrittenElement& element, const BitmapImageRep& bitmap) {
   switch (element.data) {
     case ElementData::Argb32:
-      return internals::get32BitData(bitmap, element.pixels);
+      return internals::get32BitDataFromBitmapImageRep(bitmap, element.pixels);
     case ElementData::Indexed8:
-      return internals::get8BitData(bitmap, element.pixels);
+      return internals::get8BitDataFromBitmapImageRep(bitmap, element.pixels);
     case ElementData::Mask8:
-      return internals::get8BitMask(bitmap, element.pixels);
+      return internals::get8BitMaskFromBitmapImageRep(bitmap, element.pixels);
     case ElementData::Bit1AndMask:
-      return internals::get1BitMask(bitmap, element.pixels);
+      return internals::get1BitMaskFromBitmapImageRep(bitmap, element.pixels);
   }
   return std::nullopt;
 }

@@ -26,7 +26,8 @@ Result<IconFamily> IconFamily::iconFamilyWithContentsOfFile(const std::filesyste
 
 Result<IconFamily> IconFamily::iconFamilyWithIconOfFile(const std::filesystem::path& path,
                                                         const IconServices& services) {
-  if (auto custom = TRY(readCustomIcon(path, services.forks))) return *std::move(custom);
+  // Of a custom icon without a whole element nothing can be shown; nor could it be put back.
+  if (auto custom = TRY(readCustomIcon(path, services.forks)); custom && custom->check()) return *std::move(custom);
   auto family = familyOfImage(services.kinds.iconForKindOfFile(path));
   if (!family) return std::move(family).error().at(path);
   return family;

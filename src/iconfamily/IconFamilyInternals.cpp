@@ -79,7 +79,7 @@ std::optional<Image> resampleImage(const Image& image, int toIconWidth, ImageInt
   return Image::imageWithBitmapImageRep(result);
 }
 
-std::optional<Bytes> get32BitData(const BitmapImageRep& bitmapImageRep, int requiredPixelSize) {
+std::optional<Bytes> get32BitDataFromBitmapImageRep(const BitmapImageRep& bitmapImageRep, int requiredPixelSize) {
   const int n = requiredPixelSize;
   if (!isReadable(bitmapImageRep, n, "get32BitData", false)) return std::nullopt;
   const Layout layout = layoutOf(bitmapImageRep);
@@ -112,7 +112,7 @@ std::optional<Bytes> get32BitData(const BitmapImageRep& bitmapImageRep, int requ
   return argb;
 }
 
-std::optional<Bytes> get8BitData(const BitmapImageRep& bitmapImageRep, int requiredPixelSize) {
+std::optional<Bytes> get8BitDataFromBitmapImageRep(const BitmapImageRep& bitmapImageRep, int requiredPixelSize) {
   const int n = requiredPixelSize;
   if (!isReadable(bitmapImageRep, n, "get8BitData", true)) return std::nullopt;
   const Layout layout = layoutOf(bitmapImageRep);
@@ -132,7 +132,7 @@ std::optional<Bytes> get8BitData(const BitmapImageRep& bitmapImageRep, int requi
   return indexes;
 }
 
-std::optional<Bytes> get8BitMask(const BitmapImageRep& bitmapImageRep, int requiredPixelSize) {
+std::optional<Bytes> get8BitMaskFromBitmapImageRep(const BitmapImageRep& bitmapImageRep, int requiredPixelSize) {
   const int n = requiredPixelSize;
   if (!isReadable(bitmapImageRep, n, "get8BitMask", true)) return std::nullopt;
   const Layout layout = layoutOf(bitmapImageRep);
@@ -148,7 +148,7 @@ std::optional<Bytes> get8BitMask(const BitmapImageRep& bitmapImageRep, int requi
   return mask;
 }
 
-std::optional<Bytes> get1BitMask(const BitmapImageRep& bitmapImageRep, int requiredPixelSize) {
+std::optional<Bytes> get1BitMaskFromBitmapImageRep(const BitmapImageRep& bitmapImageRep, int requiredPixelSize) {
   const int n = requiredPixelSize;
   if (!isReadable(bitmapImageRep, n, "get1BitMask", false)) return std::nullopt;
   const Layout layout = layoutOf(bitmapImageRep);

@@ -16,12 +16,12 @@ namespace quorvane::internals {
 std::optional<Image> resampleImage(const Image& image, int toIconWidth, ImageInterpolation interpolation);
 
 /// 4 * n * n bytes: alpha, red, green, blue, not premultiplied.
-std::optional<Bytes> get32BitData(const BitmapImageRep& bitmapImageRep, int requiredPixelSize);
+std::optional<Bytes> get32BitDataFromBitmapImageRep(const BitmapImageRep& bitmapImageRep, int requiredPixelSize);
 /// n * n indexes into the system colour table; alpha is ignored.
-std::optional<Bytes> get8BitData(const BitmapImageRep& bitmapImageRep, int requiredPixelSize);
+std::optional<Bytes> get8BitDataFromBitmapImageRep(const BitmapImageRep& bitmapImageRep, int requiredPixelSize);
 /// n * n opacities.
-std::optional<Bytes> get8BitMask(const BitmapImageRep& bitmapImageRep, int requiredPixelSize);
+std::optional<Bytes> get8BitMaskFromBitmapImageRep(const BitmapImageRep& bitmapImageRep, int requiredPixelSize);
 /// n * n / 4 bytes: the same bits as icon and as mask.
-std::optional<Bytes> get1BitMask(const BitmapImageRep& bitmapImageRep, int requiredPixelSize);
+std::optional<Bytes> get1BitMaskFromBitmapImageRep(const BitmapImageRep& bitmapImageRep, int requiredPixelSize);
 
 }  // namespace quorvane::internals

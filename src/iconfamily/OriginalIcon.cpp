@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The way back: what stood in a folder before its first icon of ours.
+#include <algorithm>
 #include <array>
 
+#include "foundation/FolderNames.h"
 #include "foundation/base/Log.h"
 #include "iconfamily/AppleDoubleForkStore.h"
 #include "iconfamily/Companion.h"
@@ -130,7 +132,15 @@ Result<void> giveCompanionBack(Folder& holder, const std::string& file, const Fo
   return companion::write(holder, file, change.present);
 }
 
-// The same for the folder's attribute.
+// An interrupted writer may have left something in the folder above, which nobody may open for writing soon: whoever
+// does clears it away.
+void sweepAbove(const Folder& folder, const Folder& above) {
+  const auto all = above.names();
+  if (all.ok() && std::any_of(all->begin(), all->end(), names::isTemporary))
+    static_cast<void>(folder.openParent(Access::Write));
+}
+
+// What giveCompanionBack does, for the folder's attribute.
 Result<void> giveAttributeBack(Folder& folder, const std::optional<Bytes>& original) {
   const std::string name = AppleDoubleForkStore::infoAttribute;
   const auto present = TRY(folder.attribute(name));
@@ -227,8 +237,11 @@ Result<void> AppleDoubleForkStore::restoreOriginal(Folder& folder, const Folder&
     if (!state.tellsOf(besideKey)) return {};
     const auto own = companion::ofFolder(folder, Access::Read);
     if (!own.ok()) return !hadBeside && companion::isNotOurs(own.error()) ? Result<void>() : own.error();
-    if (!own->above || TRY(wayBack(*own->above, own->file, from, besideKey, hadBeside)).way == WayBack::Nothing)
+    if (!own->above) return {};
+    if (TRY(wayBack(*own->above, own->file, from, besideKey, hadBeside)).way == WayBack::Nothing) {
+      sweepAbove(folder, *own->above);
       return {};
+    }
     auto writable = TRY(companion::ofFolder(folder, Access::Write));
     if (!writable.above) return Error::refused("the folder was moved meanwhile").at(folder.path());
     return giveCompanionBack(*writable.above, writable.file, from, besideKey, hadBeside);

@@ -107,7 +107,7 @@ class BitmapImageRep {
 
   /// 0 to 255 from the bytes at bytesPerRow * y + x * samplesPerPixel: weighted for exactly 3 samples a pixel, else
   /// the first sample (red of RGBA). That is meant. Unchecked: x and y must lie inside.
-  [[nodiscard]] unsigned brightnessAt(int x, int y) const;
+  [[nodiscard]] unsigned brightnessAtX(int x, int y) const;
 
  private:
   struct Focus;

@@ -153,7 +153,7 @@ BitmapImageRep BitmapImageRep::bitmapImageRepByRotating180() const {
                                            {static_cast<float>(pixelsWide()), static_cast<float>(pixelsHigh())});
 }
 
-unsigned BitmapImageRep::brightnessAt(int x, int y) const {
+unsigned BitmapImageRep::brightnessAtX(int x, int y) const {
   const std::uint8_t* sample =
       _pixels->data() + std::ptrdiff_t{_layout.bytesPerRow} * y + std::ptrdiff_t{_layout.samplesPerPixel} * x;
   if (_layout.samplesPerPixel != 3) return sample[0];

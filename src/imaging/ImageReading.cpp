@@ -66,6 +66,7 @@ Result<BitmapImageRep> readWithInstalledReaders(ByteView bytes) {
   if (format == "svgz") return Error::invalidInput("compressed vector pictures are not read");
   // Asking a vector picture for its size already follows its references.
   if (format == "svg") TRY_VOID(checkSvg(bytes));
+  if (format == "png") TRY_VOID(checkPngData(bytes));
   QSize size = reader.size();
   if (format == "svg") {
     if (size.isEmpty()) size = QSize(1, 1);

@@ -20,6 +20,9 @@ bool isPng(ByteView bytes);
 /// Pixel size from the header alone.
 Result<PixelSize> pngSize(ByteView bytes);
 
+/// Refuses a file that holds far more compressed data than its pixels need: decoders unpack it all.
+Result<void> checkPngData(ByteView bytes);
+
 /// Decodes to 8-bit RGBA, not premultiplied (16-bit samples lose their low byte). Refuses a picture wider or higher
 /// than `maxPixels` before any allocation.
 Result<BitmapImageRep> decodePng(ByteView bytes, int maxPixels);

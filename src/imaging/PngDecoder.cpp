@@ -65,6 +65,25 @@ Result<Header> readHeader(ByteView bytes) {
   return Header{{static_cast<int>(*width), static_cast<int>(*height)}, *depth * sampleCount(*colorType)};
 }
 
+/// What follows the last row is unpacked to its end and thrown away. Compressed pixels are hardly longer than plain
+/// ones (the doubled allowance covers interlacing too), so a file that holds far more hides something that takes long.
+Result<void> checkDataLength(ByteView bytes, const Header& header) {
+  constexpr std::uint64_t slack = 64 * 1024;
+  const std::uint64_t row = (std::uint64_t(header.size.width) * std::uint64_t(header.bitsPerPixel) + 7) / 8 + 1;
+  const std::uint64_t most = 2 * row * std::uint64_t(header.size.height) + slack;
+  std::uint64_t held = 0;
+  ByteReader reader(bytes);
+  if (!reader.skip(signature.size())) return {};
+  while (const auto length = reader.readU32()) {
+    const auto type = reader.readCode();
+    if (!type) break;
+    if (*type == FourCharCode("IDAT")) held += *length;
+    if (!reader.skip(std::size_t{*length} + 4)) break;
+  }
+  if (held > most) return Error::invalidInput("PNG file holds far more data than its pixels need");
+  return {};
+}
+
 /// One decoding by libpng, whose errors jump. Everything that must be cleaned up is a member, and the functions between
 /// setjmp and the jump hold only plain values, so that no destructor is jumped over.
 class PngDecoder {
@@ -144,8 +163,13 @@ Result<PixelSize> pngSize(ByteView bytes) {
   return TRY(readHeader(bytes)).size;
 }
 
+Result<void> checkPngData(ByteView bytes) {
+  return checkDataLength(bytes, TRY(readHeader(bytes)));
+}
+
 Result<BitmapImageRep> decodePng(ByteView bytes, int maxPixels) {
   const Header header = TRY(readHeader(bytes));
+  TRY_VOID(checkDataLength(bytes, header));
   const auto [width, height] = header.size;
   const std::int64_t area = std::int64_t{width} * height;
   if (width > maxPixels || height > maxPixels || area > limits::pictureArea)

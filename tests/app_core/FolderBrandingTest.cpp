@@ -3,10 +3,12 @@
 
 #include <fcntl.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
 #include "iconfamily/CustomIcon.h"
 #include "iconfamily/format/IcnsContainer.h"
 #include "support/BrandingFixture.h"
+#include "support/ChildProcess.h"
 
 namespace quorvane {
 namespace {
@@ -44,6 +46,44 @@ TEST_P(FolderBrandingTest, RevertPutsTheIconFromBeforeTheFirstApplyBackOnce) {
   EXPECT_FALSE(fs::exists(folder / ".BackupIcon.icns"));
   EXPECT_EQ(*branding.revert(folder), BrandingOutcome::NothingToRevert);
   EXPECT_EQ(shownIcon(), former.data());
+}
+
+/// Fails from the second notice on.
+class WearyNotices : public FileManagerNotices {
+ public:
+  Result<void> noteDirectoryModified(Folder&) override {
+    if (_notices++ > 0) return Error::broken("nobody listens");
+    return {};
+  }
+
+ private:
+  int _notices = 0;
+};
+
+TEST_P(FolderBrandingTest, ARevertWhoseNoticeFailsIsStillOne) {
+  ASSERT_TRUE(branding.writeIconWithImage(test::plainImage(Qt::red), folder).ok());
+  WearyNotices weary;
+  const IconServices others{.forks = forks, .kinds = kinds, .notices = weary};
+  const auto reverted = FolderBranding(others).revert(folder);
+  ASSERT_TRUE(reverted.ok()) << reverted.error().message();
+  EXPECT_EQ(*reverted, BrandingOutcome::Changed);
+  EXPECT_FALSE(fs::exists(folder / ".BackupIcon.icns"));
+}
+
+TEST_P(FolderBrandingTest, ABackupOfADamagedIconCanBePutBack) {
+  {
+    auto opened = Folder::open(folder, Folder::Access::Write);
+    ASSERT_TRUE(opened->writeFile("Icon\r", {}).ok());
+    ForkedFile damaged;
+    damaged.fork.set({"icns", customIconResourceId, 0, {}, Bytes{'j', 'u', 'n', 'k'}});
+    ASSERT_TRUE(forks.write(*opened, "Icon\r", damaged).ok());
+    ASSERT_TRUE(forks.changeFolderFlags(*opened, FinderInfo::hasCustomIcon, 0).ok());
+  }
+
+  ASSERT_TRUE(branding.writeIconWithImage(test::plainImage(Qt::red), folder).ok());
+  const auto reverted = branding.revert(folder);
+  ASSERT_TRUE(reverted.ok()) << reverted.error().message();
+  EXPECT_EQ(shownIcon(), IconFamily::iconFamilyWithThumbnailsOfImage(*kinds.systemIcon("fldr"))->data());
 }
 
 TEST_P(FolderBrandingTest, ResetLeavesTheTreeAsItWasBitForBit) {
@@ -152,6 +192,23 @@ TEST_P(FolderBrandingTest, PlantedThingsAreRefusedAndTheOldIconStays) {
   EXPECT_EQ(test::readFile(tree / "victim"), (Bytes{'p', 'r', 'e', 'c', 'i', 'o', 'u', 's'}));
 }
 
+TEST_P(FolderBrandingTest, ADryRunRefusesWhatTheRealRunWouldRefuse) {
+  // The folder is theirs; the one above, where the flags go without attributes, is not.
+  ::chmod(tree.path().c_str(), 0755);
+  ::chmod(folder.c_str(), 0777);
+  const std::string before = test::describeTree(tree.path());
+  test::asOrdinaryUser([&] {
+    if (::access(tree.path().c_str(), W_OK) == 0) return;  // an ordinary user's own run
+    const auto dry = branding.writeIconWithImage(test::plainImage(Qt::red), folder, WriteMode::DryRun);
+    EXPECT_EQ(dry.ok(), GetParam() == Attributes::Use);
+    const auto real = branding.writeIconWithImage(test::plainImage(Qt::red), folder);
+    EXPECT_EQ(real.ok(), dry.ok());
+  });
+  if (GetParam() == Attributes::Ignore) {
+    EXPECT_EQ(test::describeTree(tree.path()), before);
+  }
+}
+
 TEST_P(FolderBrandingTest, WhatIsNoFolderOrNobodysToBrandIsRefused) {
   test::writeFile(tree / "file", std::string("x"));
   for (const fs::path& path :
@@ -174,6 +231,54 @@ TEST_P(FolderBrandingTest, StatusNamesWhatIsThereAndWhatContradictsItself) {
   // Applying again mends it.
   ASSERT_EQ(*branding.writeIconWithImage(test::plainImage(Qt::red), folder), BrandingOutcome::Changed);
   EXPECT_FALSE(branding.status(folder)->isIncomplete());
+  // What an apply leaves that was killed before the first icon was written.
+  ASSERT_TRUE(branding.reset(folder).ok());
+  test::writeFile(folder / "Icon\r", std::string());
+  EXPECT_TRUE(branding.status(folder)->isIncomplete());
+}
+
+class FailingNotices final : public FileManagerNotices {
+ public:
+  Result<void> noteDirectoryModified(Folder& folder) override {
+    return Error::system(EIO, "cannot set times").at(folder.path());
+  }
+};
+
+TEST_P(FolderBrandingTest, WhatFailsHasChangedNothingAndWhatIsDoneIsNoFailure) {
+  ASSERT_TRUE(branding.writeIconWithImage(test::plainImage(Qt::red), folder).ok());
+  const Bytes red = shownIcon();
+  FailingNotices failing;
+  const IconServices hinderedServices{.forks = forks, .kinds = kinds, .notices = failing};
+  const FolderBranding hindered{hinderedServices};
+  const std::string before = test::describeTree(folder);
+  EXPECT_FALSE(hindered.writeIconWithImage(test::plainImage(Qt::blue), folder).ok());
+  EXPECT_EQ(shownIcon(), red);
+  EXPECT_EQ(test::describeTree(folder), before);
+  EXPECT_EQ(*hindered.reset(folder), BrandingOutcome::Changed);
+  EXPECT_TRUE(fs::is_empty(folder));
+
+  // The record is of no use to a revert, which is done when it comes to it.
+  ASSERT_TRUE(branding.writeIconWithImage(test::plainImage(Qt::red), folder).ok());
+  test::writeFile(folder / ".quorvane" / "record.json", std::string("{"));
+  EXPECT_EQ(*branding.revert(folder), BrandingOutcome::Changed);
+}
+
+TEST_P(FolderBrandingTest, AResetThatCannotBeFinishedIsNotBegun) {
+  test::writeFile(folder / ".BackupIcon.icns",
+                  IconFamily::iconFamilyWithThumbnailsOfImage(test::plainImage(Qt::green))->data());
+  ASSERT_TRUE(branding.writeIconWithImage(test::plainImage(Qt::red), folder).ok());
+  fs::remove(folder / ".quorvane" / "backup.icns");
+  const std::string before = test::describeTree(tree.path());
+  EXPECT_FALSE(branding.reset(folder).ok());
+  EXPECT_EQ(test::describeTree(tree.path()), before);
+}
+
+TEST_P(FolderBrandingTest, ResetClearsAwayWhatAKilledWriterLeftInTheFolderAbove) {
+  ASSERT_TRUE(branding.writeIconWithImage(test::plainImage(Qt::red), folder).ok());
+  fs::remove(tree / "._Invoices");
+  test::writeFile(tree / ".quorvane-abcd2345.tmp", std::string("half"));
+  ASSERT_TRUE(branding.reset(folder).ok());
+  EXPECT_FALSE(fs::exists(tree / ".quorvane-abcd2345.tmp"));
 }
 
 }  // namespace

@@ -44,7 +44,18 @@ TEST(Arguments, ReadALookAndFoldersAsRawBytes) {
   EXPECT_EQ(arguments.look.labelCenter, (Point{10, -2.5F}));
   EXPECT_EQ(arguments.form, OutputForm::Json);
   EXPECT_EQ(arguments.paths, (std::vector<std::filesystem::path>{"-odd", "caf\xE9", "new\nline "}));
+  EXPECT_EQ(parse({"status", "A", "--", "-x", "--"}).arguments.paths,
+            (std::vector<std::filesystem::path>{"A", "-x", "--"}));
   EXPECT_TRUE(parse({"apply", "x"}).arguments.look.label.isNull());
+}
+
+TEST(Arguments, AnEmptyValueTakesNoFolderForItsOwn) {
+  const auto outcome = parse({"apply", "--label=", "--color=", "--base", "x.png", "A", "B"});
+  ASSERT_EQ(outcome.exitCode, -1) << outcome.complaint;
+  EXPECT_TRUE(outcome.arguments.look.label.isEmpty());
+  EXPECT_EQ(outcome.arguments.paths, (std::vector<std::filesystem::path>{"A", "B"}));
+  EXPECT_EQ(parse({"apply", "--base", "x", "--", "--label="}).arguments.paths.front(), "--label=");
+  EXPECT_EQ(parse({"apply", "--label=a=", "A"}).arguments.look.label, QStringLiteral("a="));
 }
 
 TEST(Arguments, WrongUseSaysWhatAndEndsWithTwo) {
@@ -65,7 +76,8 @@ TEST(Arguments, WrongUseSaysWhatAndEndsWithTwo) {
            Row{{"apply", "--label", "a", "--label-from-name", "x"}, "exclude each other"},
            Row{{"status", "--json", "--json-lines", "x"}, "exclude each other"},
            Row{{"revert", ""}, "empty path"},
-           Row{{"icns", "make", "only-one"}, ""},
+           Row{{"icns", "make", "only-one"}, "PICTURE and OUT.icns missing"},
+           Row{{"render", "a.png", "b.png"}, "not 'b.png'"},
            Row{{"icns"}, ""},
            Row{{"render", "--pixels", "10.5", "out.png"}, "whole number"},
        }) {

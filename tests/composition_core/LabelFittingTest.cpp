@@ -14,27 +14,13 @@ namespace {
 constexpr Size canvas{128, 128};
 
 TEST(LabelFitting, StartsAtWholeMultiplesOfTheWholeFontSize) {
-  struct Row {
-    std::optional<double> fontSize;
-    float width;
-    int start;
-  };
-  const double infinite = std::numeric_limits<double>::infinity();
-  const Row rows[] = {{36, 128, 36},
-                      {36, 512, 144},
-                      {36, 300, 72},  // 2.34 times as wide
-                      {36.9, 128, 36},
-                      {36, 127.99F, 0},
-                      {36, 64, 0},
-                      {std::nullopt, 512, 0},
-                      {-20, 256, -40},
-                      {std::nan(""), 128, 0},
-                      {infinite, 512, std::numeric_limits<int>::max()}};
-  for (const Row& row : rows) {
-    const std::optional<LabelFont> font =
-        row.fontSize ? std::optional(LabelFont{QStringLiteral("DejaVu Sans"), {}, *row.fontSize}) : std::nullopt;
-    EXPECT_EQ(startingSize(font, row.width), row.start) << row.fontSize.value_or(-1) << " at " << row.width;
-  }
+  // A picture of 300 is 2.34 times as wide as the canvas.
+  const std::tuple<double, float, int> rows[] = {
+      {36, 128, 36},   {36.9, 300, 72},        {36, 127.99F, 0},
+      {-20, 256, -40}, {std::nan(""), 128, 0}, {HUGE_VAL, 512, std::numeric_limits<int>::max()}};
+  for (const auto& [fontSize, width, start] : rows)
+    EXPECT_EQ(startingSize(plainLook(fontSize).font, width), start) << fontSize << " at " << width;
+  EXPECT_EQ(startingSize(std::nullopt, 512), 0);
 }
 
 TEST(LabelFitting, TakesTheFirstSizeAtWhichBothSidesFit) {

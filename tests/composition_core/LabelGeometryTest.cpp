@@ -33,11 +33,5 @@ TEST(LabelGeometry, TransformsTurnAboutTheCenterWithYUpwards) {
   expectMapped(LabelRenderer(look)._transformCenteredAt(center), {96, 64}, {32, 96});
 }
 
-TEST(LabelGeometry, BoxesAreCentredAndCentersScaleWithTheWidth) {
-  EXPECT_EQ(_originForCenter({64, 64}, {128, 128}), (Point{0, 0}));
-  EXPECT_EQ(_originForCenter({10, 20}, {5, 4}), (Point{7.5F, 18}));
-  EXPECT_EQ(scaledLabelCenter({64, 32}, 300), (Point{150, 75}));
-}
-
 }  // namespace
 }  // namespace quorvane

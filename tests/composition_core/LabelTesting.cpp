@@ -4,6 +4,8 @@
 #include <algorithm>
 #include <cstdlib>
 
+#include "support/Bitmaps.h"
+
 namespace quorvane {
 
 LabelLook plainLook(double fontSize) {
@@ -33,15 +35,12 @@ QRectF inkOf(const Image& image, int alpha) {
 }
 
 Image squareBase(float points, int pixels) {
-  BitmapImageRep bitmap =
-      BitmapImageRep::bitmapImageRepWithSize({static_cast<float>(pixels), static_cast<float>(pixels)});
+  BitmapImageRep bitmap = test::filledBitmap(pixels, pixels, {0, 0, 200, 255});
   for (int y = 0; y < pixels; ++y) {
     std::uint8_t* row = bitmap.mutableRow(y);
     for (int x = 0; x < pixels; ++x, row += 4) {
       row[0] = static_cast<std::uint8_t>(255 * x / pixels);
       row[1] = static_cast<std::uint8_t>(255 * y / pixels);
-      row[2] = 200;
-      row[3] = 255;
     }
   }
   bitmap.setSize({points, points});
@@ -53,10 +52,9 @@ int largestDifference(const QImage& a, const QImage& b) {
   int largest = 0;
   for (int y = 0; y < a.height(); ++y) {
     for (int x = 0; x < a.width(); ++x) {
-      const QColor one = QColor::fromRgba(a.pixel(x, y));
-      const QColor other = QColor::fromRgba(b.pixel(x, y));
-      largest = std::max({largest, std::abs(one.red() - other.red()), std::abs(one.green() - other.green()),
-                          std::abs(one.blue() - other.blue()), std::abs(one.alpha() - other.alpha())});
+      const QRgb one = a.pixel(x, y), other = b.pixel(x, y);
+      for (const int shift : {0, 8, 16, 24})
+        largest = std::max(largest, std::abs(int(one >> shift & 0xFF) - int(other >> shift & 0xFF)));
     }
   }
   return largest;

@@ -3,11 +3,9 @@
 
 #include <gtest/gtest.h>
 
-#include <QFontDatabase>
 #include <QRawFont>
 
 #include "composition/core/EmojiText.h"
-#include "composition/core/TextAttributes.h"
 #include "foundation/base/Limits.h"
 
 namespace quorvane {
@@ -18,40 +16,18 @@ const LabelFont dejaVu{QStringLiteral("DejaVu Sans"), {}, 1};
 constexpr double naturalHeight = 2384.0 / 2048;
 
 TEST(TextBlock, LinesEndAtEveryKindOfBreakAndNowhereElse) {
-  struct Row {
-    QString text;
-    int lines;
-  };
-  const Row rows[] = {
-      {QString(), 1},
-      {QStringLiteral("A"), 1},
-      {QStringLiteral("A B\tC"), 1},
-      {QStringLiteral("A\nB"), 2},
-      {QStringLiteral("A\r\nB"), 2},
-      {QStringLiteral("A\rB"), 2},
-      {QStringLiteral("A\n\rB"), 3},
-      {QStringLiteral("A") + QChar(0x2028) + QStringLiteral("B") + QChar(0x2029) + QStringLiteral("C") + QChar(0x85),
-       4},
-      {QStringLiteral("\nA\n\n"), 4},
-      {QStringLiteral("a very long line that no picture holds is not broken at its spaces either"), 1},
-  };
-  for (const Row& row : rows) {
-    SCOPED_TRACE(row.text.toStdString());
-    EXPECT_NEAR(TextBlock(row.text, dejaVu).size(10, 0).height, row.lines * 10 * naturalHeight, 1e-3);
-  }
-}
-
-TEST(TextBlock, MeasuresAreProportionalToTheFontSize) {
-  for (const char* text : {"Voilà AVATAR", "مرحبا بالعالم", "日本語\nText", "A😀👨‍👩‍👧‍👦 B", "é̂ͯ"}) {
-    SCOPED_TRACE(text);
-    const TextBlock block(QString::fromUtf8(text), dejaVu);
-    const Size one = block.size(1, 0);
-    ASSERT_GT(one.width, 0);
-    for (const int size : {10, 11, 57, 300, 1200}) {
-      EXPECT_FLOAT_EQ(block.size(size, 0).width, one.width * static_cast<float>(size));
-      EXPECT_FLOAT_EQ(block.size(size, 0).height, one.height * static_cast<float>(size));
-    }
-  }
+  const std::pair<const char*, int> rows[] = {{"", 1},
+                                              {"A B\tC", 1},
+                                              {"A\nB", 2},
+                                              {"A\r\nB", 2},
+                                              {"A\rB", 2},
+                                              {"A\n\rB", 3},
+                                              {"A\u2028B\u2029C\u0085", 4},
+                                              {"\nA\n\n", 4},
+                                              {"a long line is not broken at its spaces, no picture holds it", 1}};
+  for (const auto& [text, lines] : rows)
+    EXPECT_NEAR(TextBlock(QString::fromUtf8(text), dejaVu).size(10, 0).height, lines * 10 * naturalHeight, 1e-3)
+        << text;
 }
 
 TEST(TextBlock, ACapSqueezesLinesDownwardsAndNeverStretchesThem) {
@@ -87,17 +63,6 @@ TEST(TextBlock, RightToLeftLinesStandAtTheRightOfTheBlock) {
     }
   }
   EXPECT_NEAR(left, blockWidth - lineWidth, 0.05);
-
-  // Spaces at the end of such a line stand at its left, and count.
-  const TextBlock spaced(arabic + QStringLiteral("  "), dejaVu);
-  double leftOfText = 1e9;
-  for (const TextBlock::Glyphs& glyphs : spaced.glyphs(10, 0)) {
-    for (int i = 0; i < glyphs.run.positions().size(); ++i) {
-      if (glyphs.run.rawFont().boundingRect(glyphs.run.glyphIndexes()[i]).isEmpty()) continue;
-      leftOfText = std::min(leftOfText, glyphs.toBlock.map(glyphs.run.positions()[i]).x());
-    }
-  }
-  EXPECT_GT(leftOfText, 5);
 }
 
 TEST(TextBlock, IsCutAtTheLimitsNeverInsideACharacter) {
@@ -155,28 +120,6 @@ TEST(EmojiText, FindsWhatIsShownInColour) {
   }
   // Half a pair is a character like any other.
   EXPECT_EQ(separateEmoji(QString(QChar(0xD83D))).text.size(), 1);
-}
-
-TEST(EmojiText, IsSetInTheEmojiFontAlthoughTheTextFontHasTheCharacter) {
-  const QString family = QStringLiteral("Noto Color Emoji");
-  if (!QFontDatabase::families().contains(family)) GTEST_SKIP() << "no emoji font here";
-  for (const TextBlock::Glyphs& glyphs : TextBlock(QStringLiteral("😀1️⃣"), dejaVu).glyphs(20, 0)) {
-    EXPECT_EQ(glyphs.run.rawFont().familyName(), family);
-  }
-}
-
-TEST(TextAttributes, FillInWhatIsNotChosen) {
-  const TextAttributes none = _attributesForFont(std::nullopt, std::nullopt, std::nullopt, 0);
-  EXPECT_EQ(none.font, systemFont(50));
-  EXPECT_EQ(none.color, QColor(Qt::black));
-  EXPECT_EQ(none.maximumLineHeight, 0);
-  EXPECT_FALSE(none.shadow);
-
-  const LabelShadow shadow{1, 2, 3, Qt::red};
-  const TextAttributes chosen = _attributesForFont(dejaVu.withSize(40), QColor(Qt::green), shadow, 0.5F);
-  EXPECT_EQ(chosen.font.size, 40);
-  EXPECT_EQ(chosen.shadow, shadow);
-  EXPECT_NEAR(chosen.maximumLineHeight, 20 * naturalHeight, 1e-6);
 }
 
 }  // namespace

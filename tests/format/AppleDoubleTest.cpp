@@ -6,7 +6,6 @@
 #include "format/Fixtures.h"
 #include "foundation/base/ByteWriter.h"
 #include "foundation/base/Limits.h"
-#include "iconfamily/format/ResourceFork.h"
 
 namespace quorvane {
 namespace {
@@ -16,17 +15,12 @@ using test::hex;
 using test::join;
 using test::letters;
 using test::patched;
+using test::written;
 
 const Bytes start = hex("00051607 00020000");
 const Bytes zeroFiller(16);
 const Bytes systemFiller = letters("Mac OS X        ");
 const Bytes noFinderInfo(32);
-
-Bytes written(const AppleDouble& companion) {
-  auto bytes = companion.serialize();
-  EXPECT_TRUE(bytes.ok());
-  return bytes.ok() ? *bytes : Bytes();
-}
 
 AppleDouble read(const Bytes& bytes) {
   auto companion = AppleDouble::parse(bytes);
@@ -81,20 +75,20 @@ TEST(AppleDouble, WritesBackWhatItReadByteForByte) {
       systemFile(entryWithAttributes(), blankFork()), systemFile(entryWithoutAttributes(), {}), otherOrder, strangers,
       patched(otherOrder, 4, 4, 0x00010000),          join({start, zeroFiller, hex("0000")})};
   for (const Bytes& bytes : rows) EXPECT_EQ(written(read(bytes)), bytes);
+  AppleDouble changed = read(rows[0]);
+  FinderInfo info = *changed.finderInfo();
+  info.setFlags(FinderInfo::hasCustomIcon);
+  changed.setFinderInfo(info);
+  EXPECT_EQ(written(changed), patched(rows[0], 58, 2, FinderInfo::hasCustomIcon)) << "and nothing else";
+  AppleDouble tooShort = read(systemFile(Bytes(16, 9), {}));
+  EXPECT_EQ(tooShort.finderInfo(), std::nullopt);
+  tooShort.setFinderInfo(FinderInfo());
+  EXPECT_EQ(written(tooShort), systemFile(noFinderInfo, {}));
   for (const Bytes& bytes : {otherOrder, strangers}) {
     const AppleDouble companion = read(bytes);
     EXPECT_EQ(companion.finderInfo(), FinderInfo(Bytes(32, 7)));
     EXPECT_EQ(Bytes(companion.resourceFork().begin(), companion.resourceFork().end()), letters("fork"));
   }
-}
-
-TEST(AppleDouble, ChangesTheFinderInfoAndNothingElse) {
-  const Bytes before = systemFile(entryWithAttributes(), blankFork());
-  AppleDouble companion = read(before);
-  FinderInfo info = *companion.finderInfo();
-  info.setFlags(FinderInfo::hasCustomIcon);
-  companion.setFinderInfo(info);
-  EXPECT_EQ(written(companion), patched(before, 58, 2, FinderInfo::hasCustomIcon));
 }
 
 TEST(AppleDouble, MovesTheOffsetsOfTheAttributeBlockAlong) {
@@ -141,60 +135,39 @@ TEST(AppleDouble, FirstOfTwinsCountsAndChangingItDropsTheOthers) {
                                       hex("00000002 00000052 00000001"), Bytes(32, 3), letters("c")}));
 }
 
-TEST(AppleDouble, AShortFinderEntryIsNoneUntilItIsSet) {
-  AppleDouble companion = read(systemFile(Bytes(16, 9), {}));
-  EXPECT_EQ(companion.finderInfo(), std::nullopt);
-  companion.setFinderInfo(FinderInfo());
-  EXPECT_EQ(written(companion), systemFile(noFinderInfo, {}));
-}
-
 TEST(AppleDouble, IsBlankWhenNothingIsWorthKeeping) {
-  ResourceFork fork;
-  fork.set({"icns", customIconResourceId, 0, "", letters("x")});
+  for (const Bytes& blank :
+       {systemFile(noFinderInfo, {}), systemFile(join({entryWithoutAttributes(), Bytes(3690)}), blankFork()),
+        systemFile(Bytes(40), {})})
+    EXPECT_TRUE(read(blank).isBlank());
   const Bytes stranger = join({start, zeroFiller, hex("0001 00000004 00000026 00000000")});
-  EXPECT_TRUE(AppleDouble().isBlank());
-  EXPECT_TRUE(read(systemFile(noFinderInfo, {})).isBlank());
-  EXPECT_TRUE(read(systemFile(join({entryWithoutAttributes(), Bytes(3690)}), blankFork())).isBlank());
-  EXPECT_TRUE(read(systemFile(Bytes(40), {})).isBlank());
-  EXPECT_FALSE(read(systemFile(patched(noFinderInfo, 31, 1, 1), {})).isBlank());
-  EXPECT_FALSE(read(systemFile(patched(Bytes(40), 39, 1, 1), {})).isBlank());
-  EXPECT_FALSE(read(systemFile(entryWithAttributes(), blankFork())).isBlank());
-  EXPECT_FALSE(read(systemFile(noFinderInfo, *fork.serialize())).isBlank());
-  EXPECT_FALSE(read(systemFile(noFinderInfo, letters("no fork"))).isBlank());
-  EXPECT_FALSE(read(stranger).isBlank());
+  for (const Bytes& kept :
+       {systemFile(patched(noFinderInfo, 31, 1, 1), {}), systemFile(patched(Bytes(40), 39, 1, 1), {}),
+        systemFile(entryWithAttributes(), blankFork()), systemFile(noFinderInfo, letters("no fork")), stranger})
+    EXPECT_FALSE(read(kept).isBlank());
 }
 
 TEST(AppleDouble, RefusesAFileWithAFault) {
   const Bytes good = systemFile(noFinderInfo, letters("fork"));
-  struct Row {
-    const char* what;
-    std::size_t offset, width;
-    std::uint32_t value;
-  };
-  const Row rows[] = {
-      {"the magic of a single file", 0, 4, 0x00051600},
-      {"magic reversed", 0, 4, 0x07160500},
-      {"version 3", 4, 4, 0x00030000},
-      {"more entries than the table has room for", 24, 2, 100},
-      {"more entries than the limit", 24, 2, 0xFFFF},
-      {"one entry more, on the data", 24, 2, 3},
-      {"entry on the header", 30, 4, 0},
-      {"entry on the table", 30, 4, 49},
-      {"entries overlap", 34, 4, 33},
-      {"entry outside", 42, 4, 83},
-      {"entry longer than the file", 46, 4, 5},
-      {"length near 2^32", 46, 4, 0xFFFFFFFF},
-      {"offset near 2^32", 42, 4, 0xFFFFFFFF},
-  };
-  for (const Row& row : rows) {
-    const Bytes bad = patched(good, row.offset, row.width, row.value);
-    EXPECT_NE(bad, good) << row.what;
-    EXPECT_FALSE(AppleDouble::parse(bad).ok()) << row.what;
-  }
-  for (const Bytes& whole : {good, join({start, zeroFiller, hex("0000")})})
-    for (std::size_t length = 0; length < whole.size(); ++length)
-      EXPECT_FALSE(AppleDouble::parse(ByteView(whole).first(length)).ok()) << length;
-
+  const auto isRead = [](ByteView bytes) { return AppleDouble::parse(bytes).ok(); };
+  test::expectRefused(good,
+                      {
+                          {"the magic of a single file", 0, 4, 0x00051600},
+                          {"magic reversed", 0, 4, 0x07160500},
+                          {"version 3", 4, 4, 0x00030000},
+                          {"more entries than the table has room for", 24, 2, 100},
+                          {"more entries than the limit", 24, 2, 0xFFFF},
+                          {"one entry more, on the data", 24, 2, 3},
+                          {"entry on the header", 30, 4, 0},
+                          {"entry on the table", 30, 4, 49},
+                          {"entries overlap", 34, 4, 33},
+                          {"entry outside", 42, 4, 83},
+                          {"entry longer than the file", 46, 4, 5},
+                          {"length near 2^32", 46, 4, 0xFFFFFFFF},
+                          {"offset near 2^32", 42, 4, 0xFFFFFFFF},
+                      },
+                      isRead);
+  test::expectRefused(join({start, zeroFiller, hex("0000")}), {}, isRead);
   EXPECT_TRUE(AppleDouble::parse(patched(systemFile(noFinderInfo, {}), 42, 4, 60)).ok()) << "no bytes, no overlap";
 
   const auto withEntries = [](std::uint16_t count) {

@@ -5,7 +5,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <limits>
 #include <random>
 
 namespace quorvane {
@@ -28,11 +27,9 @@ double bruteForce(Level red, Level green, Level blue, int& index) {
 
 TEST(ColorTables, HoldTheColoursAtTheirPlaces) {
   const auto& table = systemColorTable();
-  const std::pair<int, Rgb> rows[] = {{0, {255, 255, 255}},      {1, {255, 255, 0xCC}},     {6, {255, 0xCC, 255}},
-                                      {36, {0xCC, 255, 255}},    {214, {0, 0, 0x33}},       {215, {0xEE, 0, 0}},
-                                      {217, {0xBB, 0, 0}},       {224, {0x11, 0, 0}},       {225, {0, 0xEE, 0}},
-                                      {231, {0, 0x55, 0}},       {244, {0, 0, 0x11}},       {245, {0xEE, 0xEE, 0xEE}},
-                                      {253, {0x22, 0x22, 0x22}}, {254, {0x11, 0x11, 0x11}}, {255, {0, 0, 0}}};
+  const std::pair<int, Rgb> rows[] = {{0, {255, 255, 255}}, {1, {255, 255, 0xCC}},    {6, {255, 0xCC, 255}},
+                                      {214, {0, 0, 0x33}},  {215, {0xEE, 0, 0}},      {225, {0, 0xEE, 0}},
+                                      {244, {0, 0, 0x11}},  {254, {0x11, 0x11, 0x11}}};
   for (const auto& [index, color] : rows) EXPECT_EQ(table[index], color) << index;
   EXPECT_EQ(smallColorTable()[1], (Rgb{0xFC, 0xF3, 0x05}));
   EXPECT_EQ(smallColorTable()[15], (Rgb{0, 0, 0}));
@@ -69,12 +66,8 @@ TEST(ColorTables, NearestIsThatOfASearchThroughAll) {
         std::pow(255.0 * r - found.red, 2) + std::pow(255.0 * g - found.green, 2) + std::pow(255.0 * b - found.blue, 2);
     ASSERT_NEAR(distance, best, 1e-3);
   }
-}
-
-TEST(ColorTables, ComponentsOutsideArePulledIn) {
-  const float infinite = std::numeric_limits<float>::infinity();
-  EXPECT_EQ(nearestSystemColor(std::nanf(""), -1, -infinite), 255);
-  EXPECT_EQ(nearestSystemColor(2, infinite, 1e30F), 0);
+  EXPECT_EQ(nearestSystemColor(std::nanf(""), -1, -HUGE_VALF), 255) << "what is outside is pulled in";
+  EXPECT_EQ(nearestSystemColor(2, HUGE_VALF, 1e30F), 0);
 }
 
 }  // namespace

@@ -3,9 +3,6 @@
 // for where the test run was told; what is not there is skipped.
 #include <gtest/gtest.h>
 
-#include <QJsonArray>
-#include <QJsonDocument>
-#include <QJsonObject>
 #include <algorithm>
 #include <chrono>
 #include <cstdlib>
@@ -16,17 +13,13 @@
 #include "iconfamily/format/IcnsContainer.h"
 #include "iconfamily/format/PackedChannels.h"
 #include "iconfamily/format/ResourceFork.h"
-#include "support/TemporaryFolder.h"
+#include "support/Corpus.h"
 
 namespace quorvane {
 namespace {
 
 namespace fs = std::filesystem;
-
-fs::path sharedFolder() {
-  const char* told = std::getenv("QUORVANE_SHARED");
-  return told != nullptr ? told : QUORVANE_SHARED;
-}
+using test::sharedFolder;
 
 std::vector<fs::path> filesIn(const fs::path& folder) {
   std::vector<fs::path> files;
@@ -36,38 +29,15 @@ std::vector<fs::path> filesIn(const fs::path& folder) {
   return files;
 }
 
-// Unpacks, packs and unpacks again; nothing when the data is no packed colour.
-void checkPackedElement(FourCharCode type, ByteView data) {
-  const std::pair<FourCharCode, std::size_t> sizes[] = {{"is32", 256}, {"il32", 1024}, {"ih32", 2304}, {"it32", 16384}};
-  for (const auto& [packedType, pixels] : sizes) {
-    if (type != packedType) continue;
-    const auto argb = unpackColorChannels(type == FourCharCode("it32") ? data.subspan(4) : data, pixels);
-    ASSERT_TRUE(argb.ok());
-    const Bytes packed = packColorChannels(*argb);
-    EXPECT_LE(packed.size(), data.size()) << "longer than what others write";
-    EXPECT_EQ(*unpackColorChannels(packed, pixels), *argb);
-  }
-  if (const Bytes start(data.begin(), data.begin() + std::min<std::size_t>(4, data.size()));
-      start == test::letters("ARGB")) {
-    const std::size_t side = type == FourCharCode("ic04") ? 16 : type == FourCharCode("ic05") ? 32 : 18;
-    EXPECT_TRUE(unpackArgbChannels(data.subspan(4), side * side).ok());
-  }
-}
-
 TEST(ForeignFiles, IconFamiliesHoldWhatAnotherReaderFound) {
   const fs::path corpus = sharedFolder() / "corpus";
-  if (!fs::exists(corpus / "icns-expected.json")) GTEST_SKIP() << "no corpus";
-  const Bytes text = test::readFile(corpus / "icns-expected.json");
-  const QJsonObject expected =
-      QJsonDocument::fromJson(QByteArray(reinterpret_cast<const char*>(text.data()), qsizetype(text.size()))).object();
-  ASSERT_FALSE(expected.isEmpty());
+  const QJsonObject expected = test::expectedOfIcns();
+  if (expected.isEmpty()) GTEST_SKIP() << "no corpus";
   for (auto file = expected.begin(); file != expected.end(); ++file) {
     SCOPED_TRACE(file.key().toStdString());
     std::string lines;
     const auto add = [&lines](const char* indent, const QString& type, int length) {
-      std::uint32_t code = 0;
-      for (const QChar letter : type) code = code << 8 | letter.unicode();
-      lines += indent + FourCharCode(code).toDisplayText() + " " + std::to_string(length) + "\n";
+      lines += indent + test::codeOf(type).toDisplayText() + " " + std::to_string(length) + "\n";
     };
     for (const auto& each : file.value()[QLatin1String("elements")].toArray()) {
       add("", each[QLatin1String("type")].toString(), each[QLatin1String("data_bytes")].toInt());
@@ -79,7 +49,12 @@ TEST(ForeignFiles, IconFamiliesHoldWhatAnotherReaderFound) {
 
     const auto elements = icnsElements(bytes);
     ASSERT_TRUE(elements.ok());
-    for (const IcnsElement& element : *elements) checkPackedElement(element.type, element.data);
+    // What others packed does not get longer.
+    for (const auto& [type, pixels] :
+         {std::pair<FourCharCode, std::size_t>{"is32", 256}, {"il32", 1024}, {"ih32", 2304}})
+      if (const auto packed = icnsElement(bytes, type)) {
+        EXPECT_LE(packColorChannels(*unpackColorChannels(*packed, pixels)).size(), packed->size());
+      }
     if (elements->empty()) continue;
     // Storing what is there already changes nothing, the table of contents included.
     const Bytes before = bytes;
@@ -148,37 +123,6 @@ TEST(ForeignFiles, MalformedOnesEndInAnAnswer) {
   for (const char* legal :
        {"good", "fork-first", "only-finder", "only-fork", "fork-zero", "finder-70", "unknown", "v1"})
     EXPECT_TRUE(AppleDouble::parse(test::readFile(folder / "appledouble" / (std::string("._") + legal))).ok()) << legal;
-}
-
-TEST(ForeignFiles, AnotherReaderSeesThePixelsThatWePacked) {
-  if (std::system("/usr/bin/python3 -c 'import PIL.IcnsImagePlugin' 2>/dev/null") != 0) GTEST_SKIP() << "no Pillow";
-  const test::TemporaryFolder folder;
-  Bytes family;
-  Bytes expected;
-  for (const std::size_t side : {16, 128}) {
-    Bytes argb, mask;
-    for (std::size_t i = 0; i < side * side; ++i) {
-      const auto level = [&](std::size_t value) { return static_cast<std::uint8_t>(value); };
-      // Stretches of one colour, slopes and noise.
-      const std::uint8_t pixel[] = {level(i * 255 / (side * side)), level(i / 37 * 50), level(i),
-                                    level(i * i * 31 >> 3)};
-      argb.insert(argb.end(), {0, pixel[1], pixel[2], pixel[3]});
-      expected.insert(expected.end(), {pixel[1], pixel[2], pixel[3], pixel[0]});
-      mask.push_back(pixel[0]);
-    }
-    const bool isLarge = side == 128;
-    const Bytes packed = test::join({Bytes(isLarge ? 4 : 0), packColorChannels(argb)});
-    ASSERT_TRUE(setIcnsElement(family, isLarge ? "it32" : "is32", packed).ok());
-    ASSERT_TRUE(setIcnsElement(family, isLarge ? "t8mk" : "s8mk", mask).ok());
-  }
-  test::writeFile(folder / "a.icns", family);
-  const std::string script =
-      "import sys; from PIL import Image; icns = Image.open(sys.argv[1]).icns; "
-      "open(sys.argv[2], 'wb').write(b''.join(icns.getimage((n, n, 1)).convert('RGBA').tobytes() for n in (16, 128)))";
-  const std::string command = "/usr/bin/python3 -c \"" + script + "\" '" + (folder / "a.icns").string() + "' '" +
-                              (folder / "a.rgba").string() + "'";
-  ASSERT_EQ(std::system(command.c_str()), 0);
-  EXPECT_EQ(test::readFile(folder / "a.rgba"), expected);
 }
 
 }  // namespace

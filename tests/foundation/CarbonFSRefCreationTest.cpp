@@ -38,15 +38,10 @@ TEST(CarbonFSRefCreation, MakesAnEmptyFileOnlyWhenAskedAndNeverThroughALink) {
     EXPECT_TRUE(getFSRef("relative", true));
   });
   EXPECT_TRUE(fs::exists(root / "relative"));
-}
 
-TEST(FileManagerExtras, ALinkToAFolderCountsAsAFolder) {
-  test::TemporaryFolder root;
-  test::writeFile(root / "file", "x");
-  fs::create_directory_symlink(root.path(), root / "link");
-  fs::create_symlink("loop", root / "loop");
-  EXPECT_TRUE(isDirectory(root / "link"));
-  for (const char* name : {"missing", "file", "loop", "file/x"}) EXPECT_FALSE(isDirectory(root / name)) << name;
+  fs::create_directory_symlink(root.path(), root / "folder");
+  EXPECT_TRUE(isDirectory(root / "folder"));
+  for (const char* name : {"missing", "full", "dangling", "full/x"}) EXPECT_FALSE(isDirectory(root / name)) << name;
 }
 
 }  // namespace

@@ -4,20 +4,14 @@
 #include <gtest/gtest.h>
 
 #include <QCryptographicHash>
-#include <QFile>
-#include <QJsonArray>
-#include <QJsonDocument>
-#include <QJsonObject>
 
 #include "iconfamily/ElementTypes.h"
 #include "iconfamily/IconFamily.h"
 #include "iconfamily/format/IcnsContainer.h"
-#include "support/TemporaryFolder.h"
+#include "support/Corpus.h"
 
 namespace quorvane {
 namespace {
-
-namespace fs = std::filesystem;
 
 /// Hash of the RGBA bytes with the colour of wholly transparent pixels taken out.
 QString hashOf(const BitmapImageRep& bitmap) {
@@ -32,24 +26,18 @@ QString hashOf(const BitmapImageRep& bitmap) {
 }
 
 TEST(Corpus, EveryElementWithAnExpectedValueDecodesToIt) {
-  const fs::path corpus = fs::path(QUORVANE_SHARED) / "corpus";
-  QFile file(QString::fromStdString((corpus / "icns-expected.json").string()));
-  if (!file.open(QIODevice::ReadOnly)) GTEST_SKIP() << "no corpus on this machine";
-  const QJsonObject files = QJsonDocument::fromJson(file.readAll()).object();
+  const QJsonObject files = test::expectedOfIcns();
+  if (files.isEmpty()) GTEST_SKIP() << "no corpus on this machine";
   int compared = 0;
   for (const QString& name : files.keys()) {
-    const Bytes family = test::readFile(corpus / "icns" / name.toStdString());
+    const Bytes family = test::readFile(test::sharedFolder() / "corpus/icns" / name.toStdString());
     for (const QJsonValue& value : files[name].toObject()[QLatin1String("elements")].toArray()) {
       const QJsonObject element = value.toObject();
       const QString expected = element[QLatin1String("expected")].toObject()[QLatin1String("norm_sha256")].toString();
       if (expected.isEmpty()) continue;
-      const QByteArray type = element[QLatin1String("type")].toString().toLatin1();
+      const QString type = element[QLatin1String("type")].toString();
       SCOPED_TRACE(name.toStdString() + " " + type.toStdString());
-      const FourCharCode code(static_cast<std::uint32_t>(static_cast<unsigned char>(type[0])) << 24 |
-                              static_cast<std::uint32_t>(static_cast<unsigned char>(type[1])) << 16 |
-                              static_cast<std::uint32_t>(static_cast<unsigned char>(type[2])) << 8 |
-                              static_cast<std::uint32_t>(static_cast<unsigned char>(type[3])));
-      const auto decoded = decodeIconFamilyElement(family, code);
+      const auto decoded = decodeIconFamilyElement(family, test::codeOf(type));
       ASSERT_TRUE(decoded) << decoded.error().message();
       EXPECT_EQ(hashOf(*decoded), expected);
       ++compared;
@@ -80,17 +68,14 @@ TEST(ElementStore, ColourGoesInAndOutWithAlphaZeroAndPicturesKeepTheirs) {
 }
 
 TEST(ElementStore, DamagedElementsAreRefused) {
-  Bytes family;
-  ASSERT_TRUE(setIcnsElement(family, "is32", Bytes{0x85, 1}).ok());
-  ASSERT_TRUE(setIcnsElement(family, "ics8", Bytes(255)).ok());
-  ASSERT_TRUE(setIcnsElement(family, "ics#", Bytes(63)).ok());
-  ASSERT_TRUE(setIcnsElement(family, "ic04", Bytes{'A', 'R', 'G'}).ok());
-  ASSERT_TRUE(setIcnsElement(family, "ic07", Bytes{'n', 'o', 'n', 'e'}).ok());
-  ASSERT_TRUE(setIcnsElement(family, "s8mk", Bytes(256)).ok());
-  for (const FourCharCode type :
-       {FourCharCode("is32"), FourCharCode("ics8"), FourCharCode("ics#"), FourCharCode("ic04"), FourCharCode("ic07"),
-        FourCharCode("s8mk"), FourCharCode("nope")})
-    EXPECT_FALSE(decodeIconFamilyElement(family, type)) << type.toDisplayText();
+  const std::pair<FourCharCode, Bytes> rows[] = {
+      {"is32", {0x85, 1}},       {"ics8", Bytes(255)},           {"ics#", Bytes(63)},
+      {"ic04", {'A', 'R', 'G'}}, {"ic07", {'n', 'o', 'n', 'e'}}, {"s8mk", Bytes(256)}};
+  for (const auto& [type, data] : rows) {
+    Bytes family;
+    ASSERT_TRUE(setIcnsElement(family, type, data).ok());
+    EXPECT_FALSE(decodeIconFamilyElement(family, type)) << type.toString();
+  }
 }
 
 }  // namespace

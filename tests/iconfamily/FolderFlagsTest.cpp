@@ -4,18 +4,13 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include "iconfamily/AppleDoubleForkStore.h"
-#include "iconfamily/format/AppleDouble.h"
-#include "support/ChildProcess.h"
-#include "support/TemporaryFolder.h"
+#include "Companions.h"
 
 namespace quorvane {
 namespace {
 
 namespace fs = std::filesystem;
-using test::TemporaryFolder;
-using Access = Folder::Access;
-using Attributes = AppleDoubleForkStore::Attributes;
+using test::Attributes;
 
 constexpr std::uint16_t icon = FinderInfo::hasCustomIcon;
 constexpr std::uint16_t inited = FinderInfo::hasBeenInited;
@@ -26,96 +21,89 @@ class FolderFlags : public ::testing::Test {
  protected:
   FolderFlags() { fs::create_directory(root / "f"); }
 
-  Folder folder() { return Folder::open(root / "f", Access::Write).value(); }
-  // A companion whose Finder info has these flags and something else that is not ours.
+  Folder open() { return Folder::open(root / "f", Folder::Access::Write).value(); }
   void writeCompanion(const fs::path& path, std::uint16_t flags) {
-    AppleDouble companion;
-    Bytes bytes(32);
-    bytes[7] = 77;
-    FinderInfo info(bytes);
-    info.setFlags(flags);
-    companion.setFinderInfo(info);
-    test::writeFile(path, *companion.serialize());
+    test::writeFile(path, test::companionBytes(flags, "", 77));
   }
   std::optional<std::uint16_t> flagsIn(const fs::path& path) {
     const auto companion = AppleDouble::parse(test::readFile(path));
     if (!companion.ok() || !companion->finderInfo()) return std::nullopt;
-    EXPECT_TRUE(companion->finderInfo()->flags() == 0 || companion->finderInfo()->bytes()[7] == 77 ||
-                companion->finderInfo()->bytes()[7] == 0);
+    EXPECT_TRUE(companion->finderInfo()->bytes()[20] == 77 || companion->finderInfo()->bytes()[20] == 0);
     return companion->finderInfo()->flags();
   }
   std::uint16_t attributeFlags() {
-    const auto value = Folder::open(root / "f", Access::Read)->attribute(AppleDoubleForkStore::infoAttribute);
+    const auto value = Folder::open(root / "f", Folder::Access::Read)->attribute(AppleDoubleForkStore::infoAttribute);
     return value.ok() && *value ? FinderInfo(**value).flags() : 0;
   }
 
-  TemporaryFolder root;
+  test::TemporaryFolder root;
   AppleDoubleForkStore store;
   AppleDoubleForkStore companionsOnly{Attributes::Ignore};
 };
 
 TEST_F(FolderFlags, StandInAnAttributeWhereThereAreAny) {
-  Folder open = folder();
-  if (!open.setAttribute(AppleDoubleForkStore::infoAttribute, Bytes(40, 1)).ok()) GTEST_SKIP() << "no attributes here";
-  EXPECT_EQ(*store.changeFolderFlags(open, icon, inited), FolderInfoPlace::Attribute);
+  Folder opened = open();
+  if (!opened.setAttribute(AppleDoubleForkStore::infoAttribute, Bytes(40, 1)).ok())
+    GTEST_SKIP() << "no attributes here";
+  EXPECT_EQ(*store.changeFolderFlags(opened, icon, inited), FolderInfoPlace::Attribute);
   Bytes expected(40, 1);  // foreign bytes, also those behind the 32, stay
   expected[8] = 0x05 & ~0x01;
-  EXPECT_EQ(**open.attribute(AppleDoubleForkStore::infoAttribute), expected);
+  EXPECT_EQ(**opened.attribute(AppleDoubleForkStore::infoAttribute), expected);
   EXPECT_EQ(test::listing(root.path()), "f/\n");
 
-  EXPECT_TRUE(open.removeAttribute(AppleDoubleForkStore::infoAttribute).ok());
-  EXPECT_TRUE(store.changeFolderFlags(open, icon, inited).ok());
-  EXPECT_TRUE(store.changeFolderFlags(open, 0, icon | inited).ok());
-  EXPECT_FALSE(open.attribute(AppleDoubleForkStore::infoAttribute)->has_value());  // no zeros stay behind
+  EXPECT_TRUE(opened.removeAttribute(AppleDoubleForkStore::infoAttribute).ok());
+  EXPECT_TRUE(store.changeFolderFlags(opened, icon, inited).ok());
+  EXPECT_TRUE(store.changeFolderFlags(opened, 0, icon | inited).ok());
+  EXPECT_FALSE(opened.attribute(AppleDoubleForkStore::infoAttribute)->has_value());  // no zeros stay behind
 }
 
 TEST_F(FolderFlags, StandInTheCompanionAboveWhereThereAreNoAttributes) {
   {
-    Folder open = folder();
-    EXPECT_EQ(*companionsOnly.changeFolderFlags(open, icon, inited), FolderInfoPlace::CompanionBeside);
-    EXPECT_EQ(companionsOnly.readFolderInfo(open)->flags(), icon);
+    Folder opened = open();
+    EXPECT_EQ(*companionsOnly.changeFolderFlags(opened, icon, inited), FolderInfoPlace::CompanionBeside);
+    EXPECT_EQ(companionsOnly.readFolderInfo(opened)->flags(), icon);
   }
   EXPECT_EQ(flagsIn(root / "._f"), icon);
   EXPECT_EQ(test::listing(root / "f"), "");
   // The flag of an archive or a volume counts as well, and goes with the others.
   writeCompanion(root / "f/._.", icon | shared);
-  Folder open = folder();
-  EXPECT_TRUE(companionsOnly.changeFolderFlags(open, 0, icon | inited).ok());
+  Folder opened = open();
+  EXPECT_TRUE(companionsOnly.changeFolderFlags(opened, 0, icon | inited).ok());
   EXPECT_FALSE(fs::exists(root / "._f"));  // nothing worth keeping was left in it
   EXPECT_EQ(flagsIn(root / "f/._."), shared);
 }
 
 TEST_F(FolderFlags, AreSetAndClearedInEveryPlaceThatExists) {
-  Folder open = folder();
-  if (!open.setAttribute(AppleDoubleForkStore::infoAttribute, Bytes(32)).ok()) GTEST_SKIP() << "no attributes here";
+  Folder opened = open();
+  if (!opened.setAttribute(AppleDoubleForkStore::infoAttribute, Bytes(32)).ok()) GTEST_SKIP() << "no attributes here";
   writeCompanion(root / "._f", inited | shared);
   writeCompanion(root / "f/._.", inited);
-  EXPECT_EQ(store.readFolderInfo(open)->flags() & icon, 0);
-  EXPECT_EQ(*store.changeFolderFlags(open, icon, inited), FolderInfoPlace::Attribute);
+  EXPECT_EQ(store.readFolderInfo(opened)->flags() & icon, 0);
+  EXPECT_EQ(*store.changeFolderFlags(opened, icon, inited), FolderInfoPlace::Attribute);
   EXPECT_EQ(attributeFlags(), icon);
   EXPECT_EQ(flagsIn(root / "._f"), icon | shared);
   EXPECT_EQ(flagsIn(root / "f/._."), icon);
-  EXPECT_TRUE(store.changeFolderFlags(open, 0, icon | inited).ok());
-  EXPECT_EQ(store.readFolderInfo(open)->flags(), shared);
+  EXPECT_TRUE(store.changeFolderFlags(opened, 0, icon | inited).ok());
+  EXPECT_EQ(store.readFolderInfo(opened)->flags(), shared);
   // Any one place alone says that there is an icon.
   for (const fs::path& place : {root / "._f", root / "f/._."}) {
     writeCompanion(place, icon);
-    EXPECT_EQ(store.readFolderInfo(open)->flags() & icon, icon) << place;
-    EXPECT_TRUE(store.changeFolderFlags(open, 0, icon).ok());
-    EXPECT_EQ(store.readFolderInfo(open)->flags() & icon, 0) << place;
+    EXPECT_EQ(store.readFolderInfo(opened)->flags() & icon, icon) << place;
+    EXPECT_TRUE(store.changeFolderFlags(opened, 0, icon).ok());
+    EXPECT_EQ(store.readFolderInfo(opened)->flags() & icon, 0) << place;
   }
 }
 
 TEST_F(FolderFlags, StandInsideAtTheRootOfAFileSystem) {
   const bool mounted = test::withMounted("ramfs", "", (root / "f").string(), [&] {
-    Folder open = folder();
-    EXPECT_EQ(*store.changeFolderFlags(open, icon, inited), FolderInfoPlace::CompanionInside);
-    EXPECT_EQ(store.readFolderInfo(open)->flags(), icon);
+    Folder opened = open();
+    EXPECT_EQ(*store.changeFolderFlags(opened, icon, inited), FolderInfoPlace::CompanionInside);
+    EXPECT_EQ(store.readFolderInfo(opened)->flags(), icon);
     EXPECT_TRUE(fs::exists(root / "f/._."));
     fs::create_directory(root / "f/sub");
-    Folder sub = open.openChild("sub", Access::Write).value();
+    Folder sub = opened.openChild("sub", Folder::Access::Write).value();
     // The folder above is one that we hold ourselves: not a lasting lock.
-    { Folder released = std::move(open); }
+    { Folder released = std::move(opened); }
     EXPECT_EQ(*store.changeFolderFlags(sub, icon, inited), FolderInfoPlace::CompanionBeside);
     EXPECT_EQ(flagsIn(root / "f/._sub"), icon);
   });
@@ -131,13 +119,13 @@ TEST_F(FolderFlags, WherePlantedThingsStandAboveTheAttributeServesOrItIsRefused)
   for (const auto& plant : plants) {
     plant();
     const std::string before = test::describeTree(root.path());
-    Folder open = folder();
-    EXPECT_EQ(store.readFolderInfo(open)->flags(), 0);
-    EXPECT_FALSE(companionsOnly.changeFolderFlags(open, icon, 0).ok());
-    EXPECT_TRUE(companionsOnly.changeFolderFlags(open, 0, icon).ok());
+    Folder opened = open();
+    EXPECT_EQ(store.readFolderInfo(opened)->flags(), 0);
+    EXPECT_FALSE(companionsOnly.changeFolderFlags(opened, icon, 0).ok());
+    EXPECT_TRUE(companionsOnly.changeFolderFlags(opened, 0, icon).ok());
     EXPECT_EQ(test::describeTree(root.path()), before);
-    EXPECT_EQ(*store.changeFolderFlags(open, icon, 0), FolderInfoPlace::Attribute);
-    EXPECT_TRUE(store.changeFolderFlags(open, 0, icon).ok());
+    EXPECT_EQ(*store.changeFolderFlags(opened, icon, 0), FolderInfoPlace::Attribute);
+    EXPECT_TRUE(store.changeFolderFlags(opened, 0, icon).ok());
     EXPECT_EQ(test::describeTree(root.path()), before);
     fs::remove_all(root / "._f");
   }
@@ -147,15 +135,15 @@ TEST_F(FolderFlags, WhenNeitherPlaceCanHoldThemTheReasonIsTold) {
   ASSERT_EQ(::chmod(root.path().c_str(), readOnly), 0);
   ASSERT_EQ(::chmod((root / "f").c_str(), 0777), 0);
   test::asOrdinaryUser([&] {
-    Folder open = folder();
-    const auto changed = companionsOnly.changeFolderFlags(open, icon, inited);
+    Folder opened = open();
+    const auto changed = companionsOnly.changeFolderFlags(opened, icon, inited);
     ASSERT_FALSE(changed.ok());
     EXPECT_EQ(changed.error().message(), (root / "._f").string() + ": cannot write: Permission denied");
   });
   ASSERT_EQ(::chmod((root / "f").c_str(), 0555), 0);
   test::asOrdinaryUser([&] {
-    Folder open = folder();
-    const auto changed = store.changeFolderFlags(open, icon, inited);
+    Folder opened = open();
+    const auto changed = store.changeFolderFlags(opened, icon, inited);
     ASSERT_FALSE(changed.ok());
     EXPECT_EQ(changed.error().where(), root / "f");
     EXPECT_NE(changed.error().why().find("as attribute: "), std::string::npos) << changed.error().why();
@@ -169,10 +157,10 @@ TEST_F(FolderFlags, AFlagThatCannotBeClearedIsAnError) {
   writeCompanion(root / "._f", icon);
   ASSERT_EQ(::chmod(root.path().c_str(), readOnly), 0);
   test::asOrdinaryUser([&] {
-    Folder open = folder();
-    EXPECT_FALSE(store.changeFolderFlags(open, 0, icon).ok());
-    EXPECT_EQ(store.readFolderInfo(open)->flags(), icon);
-    EXPECT_EQ(*store.changeFolderFlags(open, icon, inited), FolderInfoPlace::Attribute);
+    Folder opened = open();
+    EXPECT_FALSE(store.changeFolderFlags(opened, 0, icon).ok());
+    EXPECT_EQ(store.readFolderInfo(opened)->flags(), icon);
+    EXPECT_EQ(*store.changeFolderFlags(opened, icon, inited), FolderInfoPlace::Attribute);
   });
 }
 

@@ -5,28 +5,14 @@
 
 #include "iconfamily/ElementTypes.h"
 #include "iconfamily/format/IcnsContainer.h"
+#include "support/Bitmaps.h"
 #include "support/TemporaryFolder.h"
 
 namespace quorvane {
 namespace {
 
 Image filledImage(int pixels, const Bytes& pixel) {
-  auto bitmap = BitmapImageRep::bitmapImageRepWithSize({static_cast<float>(pixels), static_cast<float>(pixels)});
-  for (int y = 0; y < pixels; ++y)
-    for (int i = 0; i < 4 * pixels; ++i) bitmap.mutableRow(y)[i] = pixel[static_cast<std::size_t>(i % 4)];
-  return Image::imageWithBitmapImageRep(bitmap);
-}
-
-TEST(IconFamily, HoldsExactlyTheTwelveWrittenElements) {
-  const auto family = IconFamily::iconFamilyWithThumbnailsOfImage(filledImage(512, {10, 20, 200, 255}));
-  ASSERT_TRUE(family);
-  const auto elements = icnsElements(family->bytes());
-  ASSERT_TRUE(elements);
-  std::string types;
-  for (const auto& element : *elements) types += element.type.toString() + " ";
-  EXPECT_EQ(types, "ic09 ic08 it32 t8mk il32 icl8 l8mk ICN# is32 ics8 s8mk ics# ");
-  EXPECT_FALSE(family->bitmapImageRepWithAlphaForIconFamilyElement("ih32"));
-  EXPECT_FALSE(family->bitmapImageRepWithAlphaForIconFamilyElement("icl8"));
+  return Image::imageWithBitmapImageRep(test::filledBitmap(pixels, pixels, pixel));
 }
 
 TEST(IconFamily, DecodesAlphaFirstWithTheMaskOrOpaque) {
@@ -54,17 +40,6 @@ TEST(IconFamily, StoringRefusesOtherTypesAndSizesAndKeepsTheFamily) {
   EXPECT_TRUE(family.bytes().empty());
   EXPECT_TRUE(family.setIconFamilyElement("is32", small));
   EXPECT_TRUE(icnsElements(family.bytes()).ok());
-}
-
-TEST(IconFamily, UnknownElementsSurviveReplacingOne) {
-  auto family = *IconFamily::iconFamilyWithThumbnailsOfImage(filledImage(64, {1, 2, 3, 255}));
-  Bytes bytes = family.data();
-  ASSERT_TRUE(setIcnsElement(bytes, "abcd", Bytes{1, 2, 3}).ok());
-  family = IconFamily::initWithData(bytes);
-  EXPECT_TRUE(family.setIconFamilyElement("is32", *filledImage(16, {9, 9, 9, 255}).bitmapRepresentation()));
-  const auto kept = icnsElement(family.bytes(), "abcd");
-  ASSERT_TRUE(kept);
-  EXPECT_EQ(Bytes(kept->begin(), kept->end()), (Bytes{1, 2, 3}));
 }
 
 TEST(IconFamily, ImageHasOneRepresentationASizeDecodedWhenNeededPastDamagedOnes) {

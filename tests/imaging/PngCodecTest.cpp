@@ -41,17 +41,21 @@ ByteView pixelsOf(const BitmapImageRep& bitmap) {
   return bitmap.bitmapData();
 }
 
-TEST(PngCodec, StraightPixelsComeBackWithBlankColourWhereNothingShows) {
-  for (const auto& [width, height] : {std::pair{1, 1}, {1, 40}, {40, 1}, {33, 17}, {256, 3}}) {
+TEST(PngCodec, StraightPixelsComeBackWithBlankColourWhereNothingShowsToAnotherReaderToo) {
+  for (const auto& [width, height] : {std::pair{1, 1}, {1, 40}, {33, 17}, {256, 3}}) {
     const auto bitmap = randomBitmap(width, height, false, 1);
-    const auto decoded = decodePng(encoded(bitmap), 256);
+    const Bytes png = encoded(bitmap);
+    const auto decoded = decodePng(png, 256);
     ASSERT_TRUE(decoded.ok());
     EXPECT_EQ(decoded->layout(), bitmap.layout());
+    const QImage image = QImage::fromData(png.data(), static_cast<int>(png.size()), "PNG");
+    ASSERT_EQ(image.format(), QImage::Format_ARGB32);
     for (int y = 0; y < height; ++y)
       for (int x = 0; x < width; ++x) {
         const std::uint8_t* in = bitmap.row(y) + x * 4;
         const std::uint8_t* out = decoded->row(y) + x * 4;
         for (int channel = 0; channel < 4; ++channel) ASSERT_EQ(out[channel], in[3] == 0 ? 0 : in[channel]);
+        ASSERT_EQ(image.pixel(x, y), qRgba(out[0], out[1], out[2], out[3]));
       }
   }
 }
@@ -63,30 +67,13 @@ TEST(PngCodec, PremultipliedPixelsSurviveTheWayThereAndBack) {
   EXPECT_TRUE(std::ranges::equal(pixelsOf(decoded->toStandard()), pixelsOf(bitmap)));
 }
 
-TEST(PngCodec, AnotherReaderSeesTheSamePixels) {
-  const auto bitmap = randomBitmap(50, 30, false, 3);
-  const Bytes png = encoded(bitmap);
-  const QImage image = QImage::fromData(png.data(), static_cast<int>(png.size()), "PNG");
-  ASSERT_FALSE(image.isNull());
-  ASSERT_EQ(image.format(), QImage::Format_ARGB32);
-  const auto ours = decodePng(png, 50);
-  ASSERT_TRUE(ours.ok());
-  for (int y = 0; y < 30; ++y)
-    for (int x = 0; x < 50; ++x) {
-      const std::uint8_t* at = ours->row(y) + x * 4;
-      ASSERT_EQ(image.pixel(x, y), qRgba(at[0], at[1], at[2], at[3]));
-    }
-}
-
-TEST(PngCodec, OpaqueAndOddLayoutsAreStoredAsRgba) {
-  const auto grey = BitmapImageRep::bitmapImageRepWithLayout(
-      {.pixelsWide = 2, .pixelsHigh = 1, .samplesPerPixel = 1, .bitsPerPixel = 8, .hasAlpha = false}, {7, 250});
+TEST(PngCodec, OddLayoutsAreStoredAsRgba) {
+  const auto grey = BitmapImageRep::bitmapImageRepWithLayout({2, 1, 8, 1, 8, 0, false}, {7, 250});
   ASSERT_TRUE(grey);
   const Bytes png = encoded(*grey);
   EXPECT_EQ(png[25], 6);  // colour type
-  const auto decoded = decodePng(png, 2);
-  ASSERT_TRUE(decoded.ok());
-  EXPECT_THAT(pixelsOf(*decoded), ::testing::ElementsAre(7, 7, 7, 255, 250, 250, 250, 255));
+  const auto decoded = decodePng(png, 2).value();
+  EXPECT_THAT(pixelsOf(decoded), ::testing::ElementsAre(7, 7, 7, 255, 250, 250, 250, 255));
   EXPECT_FALSE(encodePng(BitmapImageRep()).ok());
 }
 
@@ -100,16 +87,12 @@ struct Form {
 
 /// A picture of 9 x 7 whose samples are the bytes of a counter, written in the given form.
 Bytes written(const Form& form) {
-  Bytes out;
+  char* data = nullptr;
+  std::size_t size = 0;
+  FILE* out = ::open_memstream(&data, &size);
   png_structp png = png_create_write_struct(PNG_LIBPNG_VER_STRING, nullptr, nullptr, nullptr);
   png_infop info = png_create_info_struct(png);
-  png_set_write_fn(
-      png, &out,
-      [](png_structp writer, png_bytep data, std::size_t count) {
-        auto* to = static_cast<Bytes*>(png_get_io_ptr(writer));
-        to->insert(to->end(), data, data + count);
-      },
-      nullptr);
+  png_init_io(png, out);
   png_set_IHDR(png, info, 9, 7, form.depth, form.colorType, form.isInterlaced ? PNG_INTERLACE_ADAM7 : 0, 0, 0);
   const png_color palette[4] = {{1, 2, 3}, {40, 50, 60}, {200, 210, 220}, {255, 0, 255}};
   const png_byte alphas[2] = {0, 128};
@@ -134,7 +117,10 @@ Bytes written(const Form& form) {
   png_write_image(png, rows.data());
   png_write_end(png, nullptr);
   png_destroy_write_struct(&png, &info);
-  return out;
+  std::fclose(out);
+  const Bytes bytes(data, data + size);
+  std::free(data);
+  return bytes;
 }
 
 TEST(PngCodec, EveryFormOfPixelsIsReadAsAnotherReaderReadsIt) {
@@ -170,20 +156,12 @@ TEST(PngCodec, SixteenBitsLoseTheirLowByte) {
     ASSERT_EQ(pixelsOf(*decoded)[i], static_cast<std::uint8_t>(i * 2 * 37 + i * 2 / 9));
 }
 
-TEST(PngCodec, HeaderAloneTellsTheSize) {
-  const Bytes png = written({"rgb", PNG_COLOR_TYPE_RGB, 8});
-  EXPECT_TRUE(isPng(png));
-  EXPECT_FALSE(isPng(ByteView(png).first(7)));
-  const auto size = pngSize(ByteView(png).first(26));
-  ASSERT_TRUE(size.ok());
-  EXPECT_EQ(*size, (PixelSize{9, 7}));
-  EXPECT_FALSE(pngSize(ByteView(png).first(25)).ok());
-}
-
 TEST(PngCodec, CutOffFilesFailQuietlyUntilAllPixelsAreThere) {
   for (const bool isInterlaced : {false, true}) {
     const Bytes png = written({"rgba", PNG_COLOR_TYPE_RGBA, 8, isInterlaced});
     const std::size_t lastChunk = 12;
+    EXPECT_EQ(*pngSize(ByteView(png).first(26)), (PixelSize{9, 7})) << "the header is enough";
+    EXPECT_FALSE(pngSize(ByteView(png).first(25)).ok() || isPng(ByteView(png).first(7)));
     testing::internal::CaptureStderr();
     for (std::size_t length = 0; length < png.size(); ++length) {
       // A copy of its own, so that the sanitizers see a read past the end.
@@ -196,19 +174,15 @@ TEST(PngCodec, CutOffFilesFailQuietlyUntilAllPixelsAreThere) {
 
 TEST(PngCodec, AFlippedByteNeverGivesAnotherSize) {
   const Bytes png = written({"rgba", PNG_COLOR_TYPE_RGBA, 8, true});
-  int failures = 0;
+  std::size_t failures = 0;
   for (std::size_t at = 0; at < png.size(); ++at) {
     Bytes damaged = png;
     damaged[at] ^= 0x41;
     const auto decoded = decodePng(damaged, 64);
-    if (!decoded.ok()) {
-      ++failures;
-      continue;
-    }
-    EXPECT_EQ(decoded->pixelsWide(), 9) << at;
-    EXPECT_EQ(decoded->pixelsHigh(), 7) << at;
+    if (!decoded.ok()) ++failures;
+    EXPECT_TRUE(!decoded.ok() || (decoded->pixelsWide() == 9 && decoded->pixelsHigh() == 7)) << at;
   }
-  EXPECT_GT(failures, static_cast<int>(png.size() / 2)) << "check sums cover nearly everything";
+  EXPECT_GT(failures, png.size() / 2) << "check sums cover nearly everything";
 }
 
 Bytes headerOf(std::uint32_t width, std::uint32_t height, std::uint8_t depth, std::uint8_t colorType) {
@@ -220,19 +194,38 @@ Bytes headerOf(std::uint32_t width, std::uint32_t height, std::uint8_t depth, st
 }
 
 TEST(PngCodec, AbsurdHeadersAreRefusedBeforeAnyAllocation) {
-  const auto kindOf = [](const Bytes& png, int maxPixels) {
+  using enum ErrorKind;
+  const std::tuple<const char*, Bytes, int, ErrorKind> rows[] = {
+      {"largest", headerOf(0x7FFFFFFF, 0x7FFFFFFF, 8, 6), 4096, TooLarge},
+      {"one too wide", headerOf(4097, 1, 8, 6), 4096, TooLarge},
+      {"over the area", headerOf(32768, 32768, 1, 0), 32768, TooLarge},
+      {"64 MiB out of 33 bytes", headerOf(4096, 4096, 8, 6), 4096, InvalidInput},
+      {"no width", headerOf(0, 16, 8, 6), 4096, InvalidInput},
+      {"negative height", headerOf(16, 0x80000000, 8, 6), 4096, InvalidInput},
+      {"no such colour type", headerOf(16, 16, 8, 5), 4096, InvalidInput},
+      {"no such depth", headerOf(16, 16, 3, 6), 4096, InvalidInput},
+      {"nothing", {}, 4096, InvalidInput}};
+  for (const auto& [what, png, maxPixels, kind] : rows) {
     const auto decoded = decodePng(png, maxPixels);
-    return decoded.ok() ? ErrorKind::Broken : decoded.error().kind();
+    ASSERT_FALSE(decoded.ok()) << what;
+    EXPECT_EQ(decoded.error().kind(), kind) << what;
+  }
+}
+
+TEST(PngCodec, DataFarBeyondThePixelsIsRefusedUnread) {
+  const auto png = encoded(randomBitmap(16, 16, false, 3));
+  const auto withMoreData = [&](std::uint32_t count) {
+    Bytes more = {std::uint8_t(count >> 24), std::uint8_t(count >> 16), std::uint8_t(count >> 8), std::uint8_t(count)};
+    more.insert(more.end(), {'I', 'D', 'A', 'T'});
+    more.resize(more.size() + count + 4);
+    Bytes changed = png;
+    changed.insert(changed.end() - 12, more.begin(), more.end());
+    return changed;
   };
-  EXPECT_EQ(kindOf(headerOf(0x7FFFFFFF, 0x7FFFFFFF, 8, 6), 4096), ErrorKind::TooLarge);
-  EXPECT_EQ(kindOf(headerOf(4097, 1, 8, 6), 4096), ErrorKind::TooLarge);
-  EXPECT_EQ(kindOf(headerOf(32768, 32768, 1, 0), 32768), ErrorKind::TooLarge) << "over the area";
-  EXPECT_EQ(kindOf(headerOf(4096, 4096, 8, 6), 4096), ErrorKind::InvalidInput) << "64 MiB cannot come of 33 bytes";
-  EXPECT_EQ(kindOf(headerOf(0, 16, 8, 6), 4096), ErrorKind::InvalidInput);
-  EXPECT_EQ(kindOf(headerOf(16, 0x80000000, 8, 6), 4096), ErrorKind::InvalidInput);
-  EXPECT_EQ(kindOf(headerOf(16, 16, 8, 5), 4096), ErrorKind::InvalidInput) << "no such colour type";
-  EXPECT_EQ(kindOf(headerOf(16, 16, 3, 6), 4096), ErrorKind::InvalidInput) << "no such depth";
-  EXPECT_EQ(kindOf({}, 4096), ErrorKind::InvalidInput);
+  EXPECT_TRUE(checkPngData(png).ok());
+  EXPECT_TRUE(checkPngData(withMoreData(1000)).ok());
+  EXPECT_FALSE(checkPngData(withMoreData(100'000)).ok());
+  EXPECT_FALSE(decodePng(withMoreData(100'000), 16).ok());
 }
 
 }  // namespace

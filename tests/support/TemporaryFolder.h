@@ -29,6 +29,10 @@ void writeFile(const std::filesystem::path& path, ByteView bytes);
 void writeFile(const std::filesystem::path& path, const std::string& text);
 Bytes readFile(const std::filesystem::path& path);
 
+inline Bytes bytesOf(const std::string& text) {
+  return Bytes(text.begin(), text.end());
+}
+
 /// Everything about a tree that a person could see: one line an entry, sorted: path, kind, mode, owner, link target or
 /// content hash, extended attributes, and modification time when `withTimes`. Two equal texts are equal trees.
 std::string describeTree(const std::filesystem::path& root, bool withTimes = false);

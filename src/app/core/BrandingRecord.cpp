@@ -110,6 +110,9 @@ Result<void> BrandingRecord::restore(Folder& folder, ForkStore& forks, const std
     // The date from before comes back only when nobody but us changed the folder since.
     if (values[ourTimeKey].toString() == timeText(now.st_mtim))
       modified = timeFrom(values[originalTimeKey].toString()).value_or(modified);
+    // Looked at before anything is changed: a reset that cannot be finished is not begun.
+    if (values[backupKey].toBool() && !TRY(record.statusOf(keptBackupName)))
+      return Error::invalidInput("the kept backup is missing").at(record.pathOf(keptBackupName));
     TRY_VOID(forks.restoreOriginal(folder, TRY(record.openChild(originalName, Folder::Access::Read))));
     if (values[backupKey].toBool()) {
       TRY_VOID(putBack(record, keptBackupName, folder, backupName));

@@ -1,12 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/core/BrandingTarget.h"
 
-#include <fcntl.h>
-#include <unistd.h>
-
 #include <QDir>
 #include <QFile>
-#include <cerrno>
 
 #include "iconfamily/IconFile.h"
 
@@ -44,10 +40,12 @@ Result<void> checkBrandFiles(const Folder& folder, const std::vector<std::string
   return {};
 }
 
-Result<void> checkWritable(const Folder& folder) {
-  if (::faccessat(AT_FDCWD, folder.path().c_str(), W_OK | X_OK, AT_EACCESS) != 0)
-    return Error::system(errno, "cannot write").at(folder.path());
-  return {};
+Result<void> checkPlaces(const Folder& folder, const ForkStore& forks) {
+  TRY_VOID(folder.checkWritable());
+  constexpr unsigned wanted = FinderInfo::hasCustomIcon;
+  const unsigned flags = TRY(forks.readFolderInfo(folder)).flags();
+  if ((flags & (wanted | FinderInfo::hasBeenInited)) == wanted) return {};
+  return forks.checkFolderFlags(folder);
 }
 
 }  // namespace quorvane

@@ -20,7 +20,8 @@ std::vector<std::string> brandFileNames(const ForkStore& forks, const std::strin
 /// names: everything is looked at before anything is changed.
 Result<void> checkBrandFiles(const Folder& folder, const std::vector<std::string>& names);
 
-/// Fails when nothing can be written into the folder, with the system's reason: said before anything is tried.
-Result<void> checkWritable(const Folder& folder);
+/// Fails when the folder, or the place where its flags are kept, cannot be written, with the system's reason: said
+/// before anything is tried.
+Result<void> checkPlaces(const Folder& folder, const ForkStore& forks);
 
 }  // namespace quorvane

@@ -30,6 +30,7 @@ Result<Image> imageOf(const IconFamily& family, const std::filesystem::path& pat
   auto image = family.imageWithAllReps();
   if (!image || !image->bitmapRepresentation()) image = kinds.iconForKindOfFile(path);
   if (!image) return Error::invalidInput("its icon holds no picture").at(path);
+  image->setScalesWhenResized(true);
   image->setSize(size);
   return *std::move(image);
 }
@@ -40,6 +41,17 @@ Result<bool> hasIcon(const Folder& folder, const IconFamily& family, const ForkS
   if ((flags & (FinderInfo::hasCustomIcon | FinderInfo::hasBeenInited)) != FinderInfo::hasCustomIcon) return false;
   const auto present = TRY(readFolderIconResource(folder, forks));
   return present && *present == family;
+}
+
+/// Only the folder's date after a reset rests on this: the icon is in place, and stays a success without it.
+void noteOurChange(Folder& folder) {
+  if (const auto noted = BrandingRecord::noteChanged(folder); !noted) logMessage("branding", noted.error().message());
+}
+
+/// Once the work is done; it is no less done when nobody could be told.
+void tellFileManagers(Folder& folder, const IconServices& services) {
+  if (const auto told = services.notices.noteDirectoryModified(folder); !told)
+    logMessage("branding", told.error().message());
 }
 
 }  // namespace
@@ -86,7 +98,7 @@ Result<BrandingOutcome> FolderBranding::writeIconWithImage(const std::optional<I
   const bool hasRecord = TRY(BrandingRecord::exists(folder));
   const bool hasBackup = TRY(folder.statusOf(backupName)).has_value();
   if (hasRecord && hasBackup && TRY(hasIcon(folder, family, _services.forks))) return BrandingOutcome::Unchanged;
-  TRY_VOID(checkWritable(folder));
+  TRY_VOID(checkPlaces(folder, _services.forks));
   if (mode == WriteMode::DryRun) return BrandingOutcome::Changed;
 
   if (!hasRecord) TRY_VOID(BrandingRecord::make(folder, _services.forks, backupName));
@@ -101,7 +113,7 @@ Result<BrandingOutcome> FolderBranding::writeIconWithImage(const std::optional<I
     }
     return written.error();
   }
-  TRY_VOID(BrandingRecord::noteChanged(folder));
+  noteOurChange(folder);
   noteAgain(folder.path());
   return BrandingOutcome::Changed;
 }
@@ -118,23 +130,23 @@ Result<BrandingOutcome> FolderBranding::revert(const std::filesystem::path& path
   Folder folder = TRY(openForWriting(path, mode));
   const auto family = TRY(readBackup(folder));
   if (!family) return BrandingOutcome::NothingToRevert;
-  TRY_VOID(checkWritable(folder));
+  TRY_VOID(checkPlaces(folder, _services.forks));
   if (mode == WriteMode::DryRun) return BrandingOutcome::Changed;
   TRY_VOID(setFolderIcon(*family, folder, _services));
   // The icon is back; a backup that cannot be removed is no failure.
   if (const auto removed = folder.removeFile(backupName); !removed) logMessage("branding", removed.error().message());
-  TRY_VOID(_services.notices.noteDirectoryModified(folder));
-  TRY_VOID(BrandingRecord::noteChanged(folder));
+  tellFileManagers(folder, _services);
+  noteOurChange(folder);
   return BrandingOutcome::Changed;
 }
 
 Result<BrandingOutcome> FolderBranding::reset(const std::filesystem::path& path, WriteMode mode) const {
   Folder folder = TRY(openForWriting(path, mode));
   if (!TRY(BrandingRecord::exists(folder))) return BrandingOutcome::NothingToRevert;
-  TRY_VOID(checkWritable(folder));
+  TRY_VOID(folder.checkWritable());
   if (mode == WriteMode::DryRun) return BrandingOutcome::Changed;
   TRY_VOID(BrandingRecord::restore(folder, _services.forks, backupName));
-  TRY_VOID(_services.notices.noteDirectoryModified(folder));
+  tellFileManagers(folder, _services);
   return BrandingOutcome::Changed;
 }
 
@@ -168,6 +180,8 @@ Result<FolderStatus> FolderBranding::status(const std::filesystem::path& path) c
   }
   if (status.hasCustomFlag && !status.hasIconFamily)
     status.faults.emplace_back("the folder claims an icon that is not there");
+  if (!status.hasCustomFlag && !status.hasIconFamily && status.faults.empty() && TRY(findIconFile(folder)))
+    status.faults.emplace_back("an icon file stands there that holds no icon");
   if (status.hasIconFamily && !status.hasCustomFlag)
     status.faults.emplace_back("the folder does not say that it has an icon");
   status.hasCustomIcon = status.hasIconFamily && status.hasCustomFlag;
