@@ -22,6 +22,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* input, std::size_t siz
   auto companion = AppleDouble::parse(ByteView(input, size));
   if (!companion || size > 1 << 20) return 0;
   checkWriting(*companion);
+  if (const auto at = companion->finderInfoOffset())
+    if (FinderInfo(ByteView(input, size).subspan(*at, FinderInfo::byteCount)) != companion->finderInfo()) std::abort();
   FinderInfo info(companion->resourceFork());
   info.setFlags(FinderInfo::hasCustomIcon);
   companion->setFinderInfo(info);

@@ -5,14 +5,37 @@
 #include <cerrno>
 
 #include "iconfamily/Companion.h"
+#include "iconfamily/ServerRecord.h"
 
 namespace quorvane {
 
 namespace {
 
-// Finder info that a folder or file has in an attribute of its own.
-std::optional<FinderInfo> infoIn(const std::optional<Bytes>& attribute) {
-  return attribute ? std::optional(FinderInfo(*attribute)) : std::nullopt;
+// Attributes of a file that hold its Finder info.
+struct InfoAttributes {
+  std::optional<Bytes> plain;
+  std::optional<Bytes> server;
+};
+
+Result<InfoAttributes> attributesOf(const Folder& folder, const std::string& name) {
+  return InfoAttributes{TRY(folder.attributeOf(name, AppleDoubleForkStore::infoAttribute)),
+                        TRY(folder.attributeOf(name, serverrecord::attributeName))};
+}
+
+// The same attributes with other Finder info; a malformed record stays as it is.
+InfoAttributes withInfo(const InfoAttributes& old, const FinderInfo& info) {
+  InfoAttributes changed = old;
+  if (old.plain && FinderInfo(*old.plain) != info) changed.plain = Bytes(info.bytes().begin(), info.bytes().end());
+  if (serverrecord::infoIfAny(old.server)) changed.server = serverrecord::withInfo(*old.server, info).value();
+  return changed;
+}
+
+// Sets those of `to` that are not as in `from`.
+Result<void> changeAttributes(Folder& folder, const std::string& name, const InfoAttributes& from,
+                              const InfoAttributes& to) {
+  if (to.plain != from.plain) TRY_VOID(folder.setAttributeOf(name, AppleDoubleForkStore::infoAttribute, *to.plain));
+  if (to.server != from.server) TRY_VOID(folder.setAttributeOf(name, serverrecord::attributeName, *to.server));
+  return {};
 }
 
 Result<void> mustBePlainFile(const Folder& folder, const std::string& name) {
@@ -32,10 +55,16 @@ Result<ForkedFile> AppleDoubleForkStore::read(const Folder& folder, const std::s
   auto fork = ResourceFork::parse(kept.content.resourceFork());
   if (!fork.ok()) return fork.error().at(folder.pathOf(file));
   content.fork = std::move(*fork);
-  const auto attribute =
-      _usesAttributes() ? infoIn(TRY(folder.attributeOf(name, infoAttribute))) : std::optional<FinderInfo>();
-  content.info = kept.content.finderInfo().value_or(attribute.value_or(FinderInfo()));
-  if (attribute) content.info = companion::withFlags(content.info, attribute->flags() & FinderInfo::hasCustomIcon, 0);
+  content.info = kept.content.finderInfo().value_or(FinderInfo());
+  if (!_usesAttributes()) return content;
+  const InfoAttributes attributes = TRY(attributesOf(folder, name));
+  const auto consider = [&content](const FinderInfo& info) {
+    // File servers leave the companion's entry zero and keep the info in the attribute alone.
+    if (content.info.isZero()) content.info = info;
+    content.info = companion::withFlags(content.info, info.flags() & FinderInfo::hasCustomIcon, 0);
+  };
+  if (attributes.plain) consider(FinderInfo(*attributes.plain));
+  if (const auto info = serverrecord::infoIfAny(attributes.server)) consider(*info);
   return content;
 }
 
@@ -48,17 +77,14 @@ Result<void> AppleDoubleForkStore::write(Folder& folder, const std::string& name
   kept.content.setResourceFork(std::move(*fork));
   kept.content.setFinderInfo(content.info);
 
-  // The attribute first: should the companion fail, it can be put back; the other way round a large file would have to
-  // be.
-  const auto attribute = _usesAttributes() ? TRY(folder.attributeOf(name, infoAttribute)) : std::optional<Bytes>();
-  const bool attributeDiffers = attribute && FinderInfo(*attribute) != content.info;
-  if (attributeDiffers) {
-    Bytes changed(content.info.bytes().begin(), content.info.bytes().end());
-    TRY_VOID(folder.setAttributeOf(name, infoAttribute, changed));
-  }
-  auto written = companion::write(folder, file, kept);
-  if (!written.ok() && attributeDiffers) {
-    if (auto back = folder.setAttributeOf(name, infoAttribute, *attribute); !back.ok()) return back;
+  // The attributes first: should the companion fail, they can be put back; the other way round a large file would have
+  // to be.
+  const InfoAttributes old = _usesAttributes() ? TRY(attributesOf(folder, name)) : InfoAttributes();
+  const InfoAttributes changed = withInfo(old, content.info);
+  auto written = changeAttributes(folder, name, old, changed);
+  if (written.ok()) written = companion::write(folder, file, kept);
+  if (!written.ok()) {
+    if (auto back = changeAttributes(folder, name, changed, old); !back.ok()) return back;
   }
   return written;
 }

@@ -10,7 +10,8 @@ namespace quorvane {
 /// else in the folder's companion, "._FOLDER" in the folder above ("._." inside at the root of a file system).
 ///
 /// Of a companion only what changes is changed: entries that we do not know and attribute blocks stay. A file that has
-/// the attribute too gets it kept in step. Companions of a folder that cannot be read say nothing about its flags.
+/// the attribute too gets it kept in step, as are records of file servers (ServerRecord.h) of files and folders that
+/// have one. Companions and records of a folder that cannot be read say nothing about its flags.
 class AppleDoubleForkStore : public ForkStore {
  public:
   enum class Attributes {
@@ -38,6 +39,8 @@ class AppleDoubleForkStore : public ForkStore {
   [[nodiscard]] bool _usesAttributes() const { return _attributes == Attributes::Use; }
   /// Whether the folder's attribute holds the flags now that were to be set.
   Result<bool> _changeAttribute(Folder& folder, std::uint16_t set, std::uint16_t clear) const;
+  /// The same for the file server's record, if there is one that can be read.
+  Result<bool> _changeServerRecord(Folder& folder, std::uint16_t set, std::uint16_t clear) const;
 
   Attributes _attributes;
 };

@@ -6,6 +6,7 @@
 #include "iconfamily/AppleDoubleForkStore.h"
 #include "iconfamily/Companion.h"
 #include "iconfamily/FolderCompanion.h"
+#include "iconfamily/ServerRecord.h"
 
 namespace quorvane {
 
@@ -58,6 +59,8 @@ Result<FinderInfo> AppleDoubleForkStore::readFolderInfo(const Folder& folder) co
   if (const auto info = TRY(infoSaidBy(folder, companion::insideName))) said.push_back(*info);
   if (_usesAttributes()) {
     if (const auto value = TRY(folder.attribute(infoAttribute))) said.emplace_back(*value);
+    if (const auto info = serverrecord::infoIfAny(TRY(folder.attribute(serverrecord::attributeName))))
+      said.push_back(*info);
   }
   if (said.empty()) return FinderInfo();
   const bool hasIcon = std::any_of(said.begin(), said.end(),
@@ -78,6 +81,14 @@ Result<bool> AppleDoubleForkStore::_changeAttribute(Folder& folder, std::uint16_
   return set != 0;
 }
 
+Result<bool> AppleDoubleForkStore::_changeServerRecord(Folder& folder, std::uint16_t set, std::uint16_t clear) const {
+  const auto old = TRY(folder.attribute(serverrecord::attributeName));
+  if (!serverrecord::infoIfAny(old)) return false;
+  const Bytes changed = TRY(serverrecord::withFlags(*old, set, clear));
+  if (changed != *old) TRY_VOID(folder.setAttribute(serverrecord::attributeName, changed));
+  return set != 0;
+}
+
 Result<void> AppleDoubleForkStore::checkFolderFlags(const Folder& folder) const {
   if (_usesAttributes() && folder.takesAttributes()) return {};
   const auto own = TRY(companion::ofFolder(folder, Access::Read));
@@ -90,12 +101,17 @@ Result<std::optional<FolderInfoPlace>> AppleDoubleForkStore::changeFolderFlags(F
   std::optional<FolderInfoPlace> place;
   std::optional<Error> attributeError;
   if (_usesAttributes()) {
-    const auto held = _changeAttribute(folder, set, clear);
-    if (!held.ok()) {
-      if (set == 0) return held.error();
-      attributeError = held.error();
-    } else if (*held) {
-      place = FolderInfoPlace::Attribute;
+    for (const auto& held : {_changeAttribute(folder, set, clear), _changeServerRecord(folder, set, clear)}) {
+      if (!held.ok()) {
+        if (set == 0) return held.error();
+        if (place || attributeError) {
+          note(held.error());
+        } else {
+          attributeError = held.error();
+        }
+      } else if (*held) {
+        place = FolderInfoPlace::Attribute;
+      }
     }
   }
 

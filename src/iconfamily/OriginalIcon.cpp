@@ -10,6 +10,7 @@
 #include "iconfamily/FolderCompanion.h"
 #include "iconfamily/IconFile.h"
 #include "iconfamily/OriginalState.h"
+#include "iconfamily/ServerRecord.h"
 
 namespace quorvane {
 
@@ -21,21 +22,27 @@ constexpr std::size_t stateBytes = 1 << 20;
 // The only bits of a folder's Finder info that we ever change.
 constexpr std::uint16_t ourFlags = FinderInfo::hasCustomIcon | FinderInfo::hasBeenInited;
 
-// An icon file and its companion, and the names under which they and the file's attribute are kept.
+// An icon file and its companion, and the names under which they and the file's attributes are kept.
 struct IconFileKeys {
   const char* name;
   const char* companion;
   const char* key;
   const char* companionKey;
   const char* attributeKey;
+  const char* recordKey;
 };
 constexpr std::array<IconFileKeys, 2> iconFileKeys{{
-    {iconFileName, "._Icon\r", "icon", "icon-companion", "icon-attribute"},
-    {mappedIconFileName, "._Icon\xEF\x80\x8D", "mapped-icon", "mapped-icon-companion", "mapped-icon-attribute"},
+    {iconFileName, "._Icon\r", "icon", "icon-companion", "icon-attribute", "icon-server-record"},
+    {mappedIconFileName, "._Icon\xEF\x80\x8D", "mapped-icon", "mapped-icon-companion", "mapped-icon-attribute",
+     "mapped-icon-server-record"},
 }};
 constexpr const char* besideKey = "folder-companion";
 constexpr const char* insideKey = "inside-companion";
 constexpr const char* attributeKey = "folder-attribute";
+constexpr const char* recordKey = "folder-server-record";
+
+// A file server's record as it was, which may be absent; nullopt when that is not known.
+using ServerRecord = std::optional<std::optional<Bytes>>;
 
 // Whether there was something to keep.
 Result<bool> keep(const Folder& folder, const std::string& name, const Folder& into, const char* key) {
@@ -155,25 +162,46 @@ Result<void> giveAttributeBack(Folder& folder, const std::optional<Bytes>& origi
       name, companion::withFlags(present.value_or(Bytes()), static_cast<std::uint16_t>(flags), ourFlags));
 }
 
+// The same for the record that a file server keeps of the folder. One that is gone, or that cannot be read (any more),
+// is the server's affair.
+Result<void> giveRecordBack(Folder& folder, const std::optional<Bytes>& original) {
+  const std::string name = serverrecord::attributeName;
+  const auto present = TRY(folder.attribute(name));
+  if (present == original || !serverrecord::infoIfAny(present)) return {};
+  const auto info = serverrecord::infoIfAny(original);
+  const auto flags = static_cast<std::uint16_t>(info ? info->flags() & ourFlags : 0);
+  const Bytes changed = TRY(serverrecord::withFlags(*present, flags, ourFlags));
+  return changed == *present ? Result<void>() : folder.setAttribute(name, changed);
+}
+
+Result<void> giveAttributeOfFileBack(Folder& folder, const std::string& file, const std::string& name,
+                                     const std::optional<Bytes>& original) {
+  if (TRY(folder.attributeOf(file, name)) == original) return {};
+  return original ? folder.setAttributeOf(file, name, *original) : folder.removeAttributeOf(file, name);
+}
+
 }  // namespace
 
 Result<void> AppleDoubleForkStore::saveOriginal(const Folder& folder, Folder& into) const {
   OriginalState state;
-  const auto attributeOf = [&](const std::string& file) -> Result<std::optional<Bytes>> {
+  const auto attributeOf = [&](const std::string& file, const char* attribute) -> Result<std::optional<Bytes>> {
     if (!_usesAttributes()) return std::optional<Bytes>();
-    return folder.attributeOf(file, infoAttribute);
+    return folder.attributeOf(file, attribute);
   };
   for (const auto& each : iconFileKeys) {
     state.setKept(each.key, TRY(keep(folder, each.name, into, each.key)));
     state.setKept(each.companionKey, TRY(keep(folder, each.companion, into, each.companionKey)));
     // Attributes belong to the file, whatever its names: the kept one shares those that are changed later.
-    state.setBytes(each.attributeKey, TRY(attributeOf(each.name)));
+    state.setBytes(each.attributeKey, TRY(attributeOf(each.name, infoAttribute)));
+    state.setBytes(each.recordKey, TRY(attributeOf(each.name, serverrecord::attributeName)));
   }
   TRY_VOID(keepFoldersCompanion(folder, companion::insideName, into, insideKey, state));
   const auto own = companion::ofFolder(folder, Access::Read);
   if (!own.ok() && !companion::isOutOfReach(own.error())) return own.error();
   if (own.ok() && own->above) TRY_VOID(keepFoldersCompanion(*own->above, own->file, into, besideKey, state));
   state.setBytes(attributeKey, _usesAttributes() ? TRY(folder.attribute(infoAttribute)) : std::optional<Bytes>());
+  state.setBytes(recordKey,
+                 _usesAttributes() ? TRY(folder.attribute(serverrecord::attributeName)) : std::optional<Bytes>());
   TRY_VOID(into.writeFile(OriginalState::fileName, state.serialize()));
   return {};
 }
@@ -205,6 +233,12 @@ Result<void> AppleDoubleForkStore::restoreOriginal(Folder& folder, const Folder&
     bool file;
     bool companion;
     std::optional<Bytes> attribute;
+    ServerRecord record;
+  };
+  // Older records of ours say nothing about it; it then stays as it is.
+  const auto recordIn = [&state](const char* key) -> Result<ServerRecord> {
+    if (!state.tellsOf(key)) return ServerRecord();
+    return ServerRecord(TRY(state.bytes(key)));
   };
   std::vector<KeptIconFile> iconFiles;
   bool hadIconFile = false;
@@ -213,25 +247,30 @@ Result<void> AppleDoubleForkStore::restoreOriginal(Folder& folder, const Folder&
     TRY_VOID(isFree(each.companion));
     const bool file = TRY(isKept(each.key));
     const bool companion = TRY(isKept(each.companionKey));
-    iconFiles.push_back({each, file, companion, TRY(state.bytes(each.attributeKey))});
+    iconFiles.push_back({each, file, companion, TRY(state.bytes(each.attributeKey)), TRY(recordIn(each.recordKey))});
     hadIconFile = hadIconFile || file;
   }
   const bool hadInside = state.tellsOf(insideKey) && TRY(isKept(insideKey));
   const bool hadBeside = state.tellsOf(besideKey) && TRY(isKept(besideKey));
   const auto attribute = TRY(state.bytes(attributeKey));
+  const auto record = TRY(recordIn(recordKey));
 
   const auto restoreFiles = [&]() -> Result<void> {
-    for (const auto& [keys, file, companion, wanted] : iconFiles) {
+    for (const auto& [keys, file, companion, wanted, wantedRecord] : iconFiles) {
       TRY_VOID(giveBack(folder, keys.companion, from, keys.companionKey, companion));
       TRY_VOID(giveBack(folder, keys.name, from, keys.key, file));
-      if (!file || !_usesAttributes() || TRY(folder.attributeOf(keys.name, infoAttribute)) == wanted) continue;
-      TRY_VOID(wanted ? folder.setAttributeOf(keys.name, infoAttribute, *wanted)
-                      : folder.removeAttributeOf(keys.name, infoAttribute));
+      if (!file || !_usesAttributes()) continue;
+      TRY_VOID(giveAttributeOfFileBack(folder, keys.name, infoAttribute, wanted));
+      if (wantedRecord)
+        TRY_VOID(giveAttributeOfFileBack(folder, keys.name, serverrecord::attributeName, *wantedRecord));
     }
     return {};
   };
   const auto restoreInfo = [&]() -> Result<void> {
-    if (_usesAttributes()) TRY_VOID(giveAttributeBack(folder, attribute));
+    if (_usesAttributes()) {
+      TRY_VOID(giveAttributeBack(folder, attribute));
+      if (record) TRY_VOID(giveRecordBack(folder, *record));
+    }
     if (state.tellsOf(insideKey))
       TRY_VOID(giveCompanionBack(folder, companion::insideName, from, insideKey, hadInside));
     if (!state.tellsOf(besideKey)) return {};

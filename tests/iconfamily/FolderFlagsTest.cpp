@@ -94,6 +94,39 @@ TEST_F(FolderFlags, AreSetAndClearedInEveryPlaceThatExists) {
   }
 }
 
+TEST_F(FolderFlags, AreKeptInStepInTheRecordOfAFileServer) {
+  Folder opened = open();
+  const char* name = serverrecord::attributeName;
+  if (!opened.setAttribute(name, test::serverRecord(icon | shared)).ok()) GTEST_SKIP() << "no attributes here";
+  EXPECT_EQ(store.readFolderInfo(opened)->flags(), icon | shared);
+  EXPECT_TRUE(store.changeFolderFlags(opened, 0, icon | inited).ok());
+  EXPECT_EQ(**opened.attribute(name), test::serverRecord(shared));
+  EXPECT_TRUE(opened.setAttribute(name, test::serverRecord(inited | shared)).ok());
+  EXPECT_EQ(*store.changeFolderFlags(opened, icon, inited), FolderInfoPlace::Attribute);
+  EXPECT_EQ(**opened.attribute(name), test::serverRecord(icon | shared));
+  EXPECT_EQ(attributeFlags(), icon);
+
+  // Where somebody else laid it out, by its table; what cannot be read is left alone.
+  const Bytes shifted = test::companionBytes(0, "", 7);
+  EXPECT_TRUE(opened.setAttribute(name, shifted).ok());
+  EXPECT_TRUE(store.changeFolderFlags(opened, icon, inited).ok());
+  EXPECT_EQ(**opened.attribute(name), test::companionBytes(icon, "", 7));
+  Bytes outside = test::serverRecord(icon), short9 = outside, none = outside;
+  outside[26 + 24 + 4] = 0xFF;  // offset of the third entry
+  short9[26 + 24 + 11] = 31;    // its length
+  none[26 + 24 + 3] = 10;       // its ID
+  for (const Bytes& bad : {Bytes{}, Bytes(402), Bytes(outside.begin(), outside.begin() + 200), outside, short9, none}) {
+    EXPECT_TRUE(opened.setAttribute(name, bad).ok());
+    EXPECT_EQ(*store.changeFolderFlags(opened, icon, inited), FolderInfoPlace::Attribute);
+    EXPECT_TRUE(store.changeFolderFlags(opened, 0, icon | inited).ok());
+    EXPECT_EQ(store.readFolderInfo(opened)->flags(), 0);
+    EXPECT_EQ(**opened.attribute(name), bad);
+  }
+  EXPECT_TRUE(opened.removeAttribute(name).ok());
+  EXPECT_TRUE(store.changeFolderFlags(opened, icon, inited).ok());
+  EXPECT_FALSE(opened.attribute(name)->has_value());  // the server's to make
+}
+
 TEST_F(FolderFlags, StandInsideAtTheRootOfAFileSystem) {
   const bool mounted = test::withMounted("ramfs", "", (root / "f").string(), [&] {
     Folder opened = open();

@@ -116,6 +116,21 @@ TEST(AppleDoubleForkStore, AFilesAttributeIsReadAndKeptInStep) {
   test::writeFile(root / "other", "data");
   EXPECT_TRUE(store.write(folder, "other", content).ok());
   EXPECT_FALSE(folder.attributeOf("other", AppleDoubleForkStore::infoAttribute)->has_value());
+
+  // A file server's record beside a companion that the server left without Finder info.
+  const char* record = serverrecord::attributeName;
+  test::writeFile(root / "served", "data");
+  test::writeFile(root / "._served", test::companionBytes(0, "fork", 0));
+  EXPECT_TRUE(folder.setAttributeOf("served", record, test::serverRecord(FinderInfo::hasCustomIcon, 5)).ok());
+  content = store.read(folder, "served").value();
+  EXPECT_EQ(content.info.flags(), FinderInfo::hasCustomIcon);
+  EXPECT_EQ(content.info.bytes()[20], 5);
+  content.info.setFlags(FinderInfo::isInvisible);
+  EXPECT_TRUE(store.write(folder, "served", content).ok());
+  EXPECT_EQ(**folder.attributeOf("served", record), test::serverRecord(FinderInfo::isInvisible, 5));
+  EXPECT_TRUE(folder.setAttributeOf("served", record, Bytes(402)).ok());
+  EXPECT_TRUE(store.write(folder, "served", ForkedFile()).ok());
+  EXPECT_EQ(**folder.attributeOf("served", record), Bytes(402));
 }
 
 // Whatever is planted in the place of a companion, or of the file, is neither followed nor overwritten.

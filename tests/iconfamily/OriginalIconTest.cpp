@@ -25,6 +25,10 @@ using test::companionBytes;
 
 const std::string mapped = "Icon\xEF\x80\x8D";
 
+void setServerRecord(const fs::path& path, const Bytes& record) {
+  ASSERT_EQ(::lsetxattr(path.c_str(), serverrecord::attributeName, record.data(), record.size(), 0), 0);
+}
+
 void setInfoAttribute(const fs::path& path, std::uint8_t highFlags, std::size_t size = 32) {
   Bytes value(size);
   value[8] = highFlags;
@@ -77,6 +81,19 @@ const std::vector<Start>& starts() {
          test::writeFile(above / "f/Icon\r", "");
          setInfoAttribute(above / "f/Icon\r", 0x40);
          setInfoAttribute(above / "f", 0x05, 36);
+       }},
+      {"an icon on a file server",
+       [](const fs::path& above) {
+         test::writeFile(above / "f/Icon\r", "");
+         test::writeFile(above / "f/._Icon\r", companionBytes(0, "theirs", 0));
+         setServerRecord(above / "f/Icon\r", test::serverRecord(FinderInfo::isInvisible));
+         setServerRecord(above / "f", test::serverRecord(FinderInfo::hasCustomIcon | FinderInfo::hasBeenInited));
+       }},
+      {"a file server's broken records",
+       [](const fs::path& above) {
+         test::writeFile(above / "f/Icon\r", "");
+         setServerRecord(above / "f/Icon\r", Bytes(402, 1));
+         setServerRecord(above / "f", Bytes(26));
        }},
       {"a flag without an icon, and no companion of ours",
        [](const fs::path& above) {
@@ -190,6 +207,33 @@ TEST(OriginalIconKept, LeavesWhatOthersWroteIntoTheFoldersInfo) {
     ASSERT_TRUE(companion.ok());
     EXPECT_EQ(companion->finderInfo()->bytes()[20], 200);
     EXPECT_EQ(companion->finderInfo()->flags(), FinderInfo::isInvisible | (hadInfo ? FinderInfo::hasBeenInited : 0));
+  }
+}
+
+TEST(OriginalIconKept, LeavesWhatAFileServerWroteIntoItsRecord) {
+  constexpr std::uint16_t icon = FinderInfo::hasCustomIcon, inited = FinderInfo::hasBeenInited;
+  const Bytes broken(402, 1);
+  struct Row {
+    std::optional<Bytes> before, meanwhile, after;
+  };
+  for (const auto& [before, meanwhile, after] :
+       std::vector<Row>{{test::serverRecord(inited, 5), test::serverRecord(icon, 6), test::serverRecord(inited, 6)},
+                        {std::nullopt, test::serverRecord(icon, 6), test::serverRecord(0, 6)},
+                        {broken, test::serverRecord(icon, 6), test::serverRecord(0, 6)},
+                        {test::serverRecord(inited, 5), broken, broken},
+                        {test::serverRecord(inited, 5), std::nullopt, std::nullopt}}) {
+    TemporaryFolder root;
+    fs::create_directory(root / "f");
+    if (before) setServerRecord(root / "f", *before);
+    AppleDoubleForkStore store;
+    Folder folder = Folder::open(root / "f", Access::Write).value();
+    expectOk(save(folder, store), "save");
+    expectOk(brand(folder, store, 1), "brand");
+    expectOk(meanwhile ? folder.setAttribute(serverrecord::attributeName, *meanwhile)
+                       : folder.removeAttribute(serverrecord::attributeName),
+             "meanwhile");
+    expectOk(restore(folder, store), "restore");
+    EXPECT_EQ(*folder.attribute(serverrecord::attributeName), after);
   }
 }
 

@@ -141,6 +141,13 @@ std::optional<FinderInfo> AppleDouble::finderInfo() const {
   return FinderInfo(entry->data);
 }
 
+std::optional<std::size_t> AppleDouble::finderInfoOffset() const {
+  const Entry* entry = find(EntryId::FinderInfo);
+  // No data starts within the header: an offset of zero is that of an entry we added.
+  if (!finderInfo() || entry->originalOffset == 0) return std::nullopt;
+  return entry->originalOffset;
+}
+
 void AppleDouble::setFinderInfo(const FinderInfo& info) {
   Entry& entry = theOnly(EntryId::FinderInfo);
   if (entry.data.size() < FinderInfo::byteCount) entry.data.resize(FinderInfo::byteCount);

@@ -32,6 +32,8 @@ class AppleDouble {
 
   /// The first 32 bytes of the Finder entry; nullopt without one (or with fewer bytes).
   [[nodiscard]] std::optional<FinderInfo> finderInfo() const;
+  /// Where those 32 bytes stood in the bytes that were parsed, for changing them in place.
+  [[nodiscard]] std::optional<std::size_t> finderInfoOffset() const;
   /// Adds the entry or changes its first 32 bytes.
   void setFinderInfo(const FinderInfo& info);
   /// The resource fork's bytes; empty without the entry.
