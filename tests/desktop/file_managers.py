@@ -9,6 +9,7 @@ It says what is missing. It ends with 0 only when all is as expected; its pictur
 import argparse
 import os
 import shutil
+import signal
 import subprocess
 import sys
 import time
@@ -33,52 +34,55 @@ class Case:
         self.session, self.manager, self.way, self.options = session, manager, way, options
         self.parent = os.path.join(session.place, "work")
         self.folder = os.path.join(self.parent, "Invoices")
-        self.colours = {}
         for name, colour in (("first", FIRST), ("second", SECOND), ("wrong", WRONG)):
             pictures.solid(self._base(name), 512, colour)
-        # The neighbour comes first in every order, so the folder that matters never changes its place.
-        os.makedirs(os.path.join(self.parent, "Archive"))
+        os.mkdir(self.parent)
         self.region = self.plain = self.brand = None
         self.verdicts, self.figures = {}, {}
 
     def _base(self, name):
         return os.path.join(self.session.place, name + ".png")
 
-    def _picture(self):
-        """The screen, once two looks are alike."""
-        end, last = time.monotonic() + 4, None
+    def _picture(self, quiet=0.25, limit=4.0):
+        """The screen, once it has not changed for `quiet` seconds, or after `limit`."""
+        end, last, since = time.monotonic() + limit, None, time.monotonic()
         while True:
-            data = self.session.screen()
-            if data == last or time.monotonic() > end:
+            data, now = self.session.screen(), time.monotonic()
+            if data != last:
+                last, since = data, now
+            if now - since >= quiet or now > end:
                 return pictures.Picture.from_ppm(data)
-            last = data
             time.sleep(0.25)
 
-    def _find(self):
-        """Learns the folder's place by watching it appear."""
-        self.session.open(self.manager, self.parent)
-        time.sleep(3)
-        without = self._picture()
-        os.mkdir(self.folder)
-        with open(os.path.join(self.folder, "letter.txt"), "w", encoding="utf-8") as file:
-            file.write("Dear reader\n")
+    def _place_of_new(self, name, before):
+        """Makes a folder and tells where it appears (None: nowhere), and the picture with it."""
+        os.mkdir(os.path.join(self.parent, name))
         end = time.monotonic() + 10
         while True:
-            time.sleep(1)
-            self.plain = self._picture()
-            self.region = pictures.appeared(without, self.plain)
-            if self.region or time.monotonic() > end:
-                break
-        if not self.region or self.region[2] - self.region[0] < 24 or self.region[3] - self.region[1] < 32:
-            self.plain.save(self._file("trouble"))
+            picture = self._picture(quiet=2, limit=10)
+            place = pictures.appeared(before, picture)
+            if place or time.monotonic() > end:
+                return place, picture
+
+    def _find(self):
+        """Learns the folder's place by watching it appear beside a neighbour, which comes first in every order: so it
+        never changes its place, and a window that is drawn late is not taken for a folder."""
+        self.session.open(self.manager, self.parent)
+        _, without = self._place_of_new("Archive", self._picture(quiet=2, limit=20))
+        self.region, self.plain = self._place_of_new("Invoices", without)
+        if not self.region or not all(
+                24 <= self.region[high] - self.region[high - 2] <= 200 for high in (2, 3)):
+            self.plain.save(self._file("trouble"), self.region)
             raise Trouble(f"{self.manager} shows no new folder ({self.region})")
+        with open(os.path.join(self.folder, "letter.txt"), "w", encoding="utf-8") as file:
+            file.write("Dear reader\n")
 
     def _judge(self, picture):
         """shown, plain or broken, and the share of the brand's colour and of what differs from before."""
         colour = pictures.share_of_colour(picture, self.region, self.brand) if self.brand else 0.0
         changed = pictures.share_of_change(self.plain, picture, self.region)
-        # A new name changes single letters. A brand fills at least a fifth of icon and name together.
-        verdict = "plain" if changed <= 0.02 else "shown" if colour >= 0.2 else "broken"
+        # A brand fills the icon but for its label; a theme may draw the plain folder a shade differently.
+        verdict = "plain" if changed <= 0.01 else "shown" if colour >= 0.4 else "broken"
         return verdict, colour, changed
 
     def _look(self, step):
@@ -209,6 +213,8 @@ def main():
     if options.negative:
         options.pictures = os.path.join(options.pictures, "negative")
     os.makedirs(options.pictures, exist_ok=True)
+    for each in (signal.SIGTERM, signal.SIGHUP):
+        signal.signal(each, lambda number, _: sys.exit(128 + number))
     sys.exit(1 if (run_negative if options.negative else run_all)(options) else 0)
 
 

@@ -79,11 +79,12 @@ def _first_run(flags, gap):
 
 
 def appeared(before, after):
-    """Where a folder appeared between two pictures (left, top, right, bottom), its name included; None when nowhere.
-    It is the upper one of the changes: the line below that counts the folders changes as well."""
+    """Where a folder's icon appeared between two pictures (left, top, right, bottom); None when nowhere. It is the
+    uppermost of the changes: below it are the folder's name, which changes with every renaming, and the line that
+    counts the folders."""
     changed = [[_far(before.pixel(x, y), after.pixel(x, y), CHANGED) for x in range(before.width)]
                if before.rows[y] != after.rows[y] else [] for y in range(before.height)]
-    top, bottom = _first_run([any(row) for row in changed], 40)
+    top, bottom = _first_run([any(row) for row in changed], 2)
     if top is None:
         return None
     left, right = _first_run([any(row and row[x] for row in changed[top:bottom]) for x in range(before.width)], 40)

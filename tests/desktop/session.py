@@ -20,6 +20,10 @@ COMMANDS = {
     "pcmanfm-qt": (["pcmanfm-qt", "--new-window"], "pcmanfm-qt"),
     "dolphin": (["dolphin", "--new-window"], "dolphin"),
 }
+OPENBOX = """<openbox_config xmlns="http://openbox.org/3.4/rc"><applications>
+<application class="*" type="normal"><decor>no</decor><maximized>yes</maximized></application>
+</applications></openbox_config>
+"""
 GTK = ("nautilus", "nemo", "caja", "thunar")
 WIDTH, HEIGHT = 900, 640
 TOOLS = {"Xvfb": "xvfb", "dbus-daemon": "dbus-daemon", "openbox": "openbox", "xdotool": "xdotool",
@@ -84,11 +88,13 @@ class Session:
         self.close()
 
     def _settings(self):
-        """One icon theme for each toolkit, so that the plain folder is a picture and not a matter of luck."""
+        """One icon theme for each toolkit, so that the plain folder is a picture and not a matter of luck; and every
+        window over the whole screen without a frame, so that a second one has everything in the same place."""
         files = {"gtk-3.0/settings.ini": "[Settings]\ngtk-icon-theme-name=Adwaita\ngtk-enable-animations=0\n",
                  "gtk-4.0/settings.ini": "[Settings]\ngtk-icon-theme-name=Adwaita\ngtk-enable-animations=0\n",
                  "kdeglobals": "[Icons]\nTheme=breeze\n[KDE]\nAnimationDurationFactor=0\n",
-                 "pcmanfm-qt/default/settings.conf": "[System]\nFallbackIconThemeName=breeze\n"}
+                 "pcmanfm-qt/default/settings.conf": "[System]\nFallbackIconThemeName=breeze\n",
+                 "openbox/rc.xml": OPENBOX}
         for name, text in files.items():
             path = os.path.join(self.home, ".config", name)
             os.makedirs(os.path.dirname(path), exist_ok=True)
@@ -132,7 +138,7 @@ class Session:
         return done
 
     def open(self, manager, folder):
-        """Opens a window of a file manager on a folder, in the same place each time, and waits until it is drawn."""
+        """Opens a window of a file manager on a folder and waits until it is there, not yet drawn."""
         command, window_class = COMMANDS[manager]
         environment = dict(self.environment)
         # Each believes to be on its own desktop; GTK managers misjudge things when told it is KDE.
@@ -149,10 +155,6 @@ class Session:
             if time.monotonic() > end:
                 raise Trouble(f"{manager} showed no window")
             time.sleep(0.2)
-        window = found[-1].decode()
-        time.sleep(0.5)
-        self.run("xdotool", "windowmove", window, "0", "20")
-        self.run("xdotool", "windowsize", window, str(WIDTH - 10), str(HEIGHT - 40))
         self.run("xdotool", "mousemove", str(WIDTH - 1), str(HEIGHT - 1))
 
     def screen(self):
