@@ -82,7 +82,7 @@ std::string endOfLines(const std::vector<Line>& lines) {
 /// The lines, with `added` at the head of the first desktop entry group, which is made when it is missing.
 std::string withLines(const std::vector<Line>& lines, const std::string& added, const std::string& end) {
   std::string out;
-  bool isAdded = added.empty();
+  bool isAdded = false;
   const auto endLine = [&] {
     if (!out.empty() && !out.ends_with('\n')) out += end;
   };
@@ -168,7 +168,10 @@ std::optional<std::string> restored(std::string_view text, const std::optional<s
     return trimmed(line.raw.text).empty() || (line.isHeader && line.group == Group::Entry);
   });
   if (isEmpty && !original) return std::nullopt;
-  return withLines(lines, former, endOfLines(all));
+  if (!former.empty()) return withLines(lines, former, endOfLines(all));
+  std::string rest;
+  for (const Line& line : lines) rest.append(line.raw.text).append(line.raw.end);
+  return rest;
 }
 
 bool namesIcon(std::string_view text, bool (*isOurs)(std::string_view value)) {
