@@ -76,7 +76,11 @@ std::vector<Line> filtered(const std::vector<Line>& lines, IsIn isIn) {
 }
 
 std::string endOfLines(const std::vector<Line>& lines) {
-  return lines.empty() || lines.front().raw.end.empty() ? "\n" : std::string(lines.front().raw.end);
+  if (lines.empty()) return "\n";
+  const TextLine& first = lines.front().raw;
+  // A lone line that is cut within its end is ended as the others will be.
+  if (first.end.empty()) return first.text.ends_with('\r') ? "\r\n" : "\n";
+  return std::string(first.end);
 }
 
 /// The lines, with `added` at the head of the first desktop entry group, which is made when it is missing.
