@@ -76,7 +76,11 @@ std::vector<Line> filtered(const std::vector<Line>& lines, IsIn isIn) {
 }
 
 std::string endOfLines(const std::vector<Line>& lines) {
-  return lines.empty() || lines.front().raw.end.empty() ? "\n" : std::string(lines.front().raw.end);
+  if (lines.empty()) return "\n";
+  const TextLine& first = lines.front().raw;
+  // A lone line that is cut within its end is ended as the others will be.
+  if (first.end.empty()) return first.text.ends_with('\r') ? "\r\n" : "\n";
+  return std::string(first.end);
 }
 
 /// The lines, with `added` at the head of the first desktop entry group, which is made when it is missing.
@@ -124,9 +128,8 @@ std::string escaped(std::string_view value) {
 
 std::string withIconLines(std::string_view text, const std::optional<std::string>& entryValue,
                           const std::optional<std::string>& escapedValue) {
-  const auto all = linesOf(text);
-  const std::string end = endOfLines(all);
-  const auto lines = filtered(all, [](const Line& line) { return !line.icon; });
+  const auto lines = filtered(linesOf(text), [](const Line& line) { return !line.icon; });
+  const std::string end = endOfLines(lines);
   std::string out = withLines(lines, entryValue ? "Icon=" + *entryValue + end : "", end);
   if (!escapedValue) return out;
   if (!out.empty() && !out.ends_with('\n')) out += end;
