@@ -38,7 +38,7 @@ struct Arguments {
   std::optional<std::filesystem::path> base;
   bool labelFromName = false;
   bool gitExclude = false;  ///< keep git from showing what the icon consists of
-  int pixels = 512;  ///< side of a rendered PNG
+  int pixels = 512;         ///< side of a rendered PNG
   OutputForm form = OutputForm::Words;
   bool isQuiet = false;
   bool isDryRun = false;

@@ -58,8 +58,8 @@ Result<void> SurroundingNotes::excludeFromGit(const std::filesystem::path& path)
   const auto patterns = folderExcludes(folder, *tree, _branding.services().forks);
   if (TRY(missingExcludes(*tree, patterns)).empty()) return {};
   if (!_arguments.isDryRun) TRY(addExcludes(*tree, patterns));
-  _reporter.noteOnce(printable(tree->excludeFile()) + (_arguments.isDryRun ? ": the icon's files would be added"
-                                                                            : ": the icon's files are added"));
+  _reporter.noteOnce(printable(tree->excludeFile()) +
+                     (_arguments.isDryRun ? ": the icon's files would be added" : ": the icon's files are added"));
   return {};
 }
 

@@ -101,7 +101,8 @@ Result<std::vector<std::string>> missingExcludes(const GitTree& tree, const std:
 }
 
 Result<WriteOutcome> addExcludes(const GitTree& tree, const std::vector<std::string>& patterns) {
-  if (!tree.isOurs) return Error::refused("cannot write: the repository belongs to somebody else").at(tree.excludeFile());
+  if (!tree.isOurs)
+    return Error::refused("cannot write: the repository belongs to somebody else").at(tree.excludeFile());
   if (TRY(missingExcludes(tree, patterns)).empty()) return WriteOutcome::Unchanged;
   Folder repository = TRY(Folder::open(tree.repository, Folder::Access::Write));
   Folder info = TRY(repository.makeChild("info"));

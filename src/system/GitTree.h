@@ -11,8 +11,8 @@
 
 namespace quorvane {
 
-/// The git work tree that a folder lies in. Found without git, and by its rules: upwards to the nearest ".git", a folder
-/// or the file that linked work trees and submodules have, not past the file system's border.
+/// The git work tree that a folder lies in. Found without git, and by its rules: upwards to the nearest ".git", a
+/// folder or the file that linked work trees and submodules have, not past the file system's border.
 struct GitTree {
   std::filesystem::path root;        ///< the top of the work tree
   std::filesystem::path repository;  ///< what all work trees of the repository share; holds "info/exclude"

@@ -109,7 +109,7 @@ class GitTest(EndToEndTest):
             outcome = self.expect(0, "apply", *mode, *LABEL, *folders)
             self.assertEqual(outcome.err.count(words), 1, outcome)
             self.assertEqual(tree(os.path.join(path, ".git")), before)
-        self.assertNotIn("git", self.expect(0, "apply", *LABEL, "--color", "red", *folders).err)
+        self.assertNotIn("git", self.expect(0, "apply", "--label", "Other", *folders).err)
         self.assertEqual(self.expect(0, "apply", "--quiet", *LABEL, self.folder("c", path)).err, "")
 
     def test_a_broken_repository_stops_no_apply(self):

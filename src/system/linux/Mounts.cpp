@@ -74,8 +74,8 @@ std::optional<Mount> mountOf(const std::filesystem::path& folder) {
 
 bool isNetworkType(std::string_view type) {
   constexpr std::array<std::string_view, 18> types{
-      "nfs",        "nfs4",       "cifs",         "smb3",        "smbfs",           "afs",
-      "ceph",       "coda",       "ncpfs",        "davfs",       "fuse.sshfs",      "fuse.davfs",
+      "nfs",         "nfs4",        "cifs",           "smb3",           "smbfs",           "afs",
+      "ceph",        "coda",        "ncpfs",          "davfs",          "fuse.sshfs",      "fuse.davfs",
       "fuse.davfs2", "fuse.rclone", "fuse.curlftpfs", "fuse.glusterfs", "fuse.gvfsd-fuse", "fuse.s3fs"};
   return std::ranges::find(types, type) != types.end();
 }
