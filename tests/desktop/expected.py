@@ -29,6 +29,8 @@ EXPECTED = {
     ("pcmanfm-qt", "mv"): _steps("broken"),
     ("thunar", "gio"): NEVER,
     ("thunar", "mv"): NEVER,
+    ("thunar-thumbnails", "gio"): _steps("shown"),
+    ("thunar-thumbnails", "mv"): _steps("shown"),
 }
 
 REASONS = {

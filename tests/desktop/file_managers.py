@@ -37,6 +37,9 @@ class Case:
         for name, colour in (("first", FIRST), ("second", SECOND), ("wrong", WRONG)):
             pictures.solid(self._base(name), 512, colour)
         os.mkdir(self.parent)
+        if manager == "thunar-thumbnails":
+            with open(os.path.join(ROOT, "resources/thumbnailer/quorvane-folder.thumbnailer"), encoding="utf-8") as file:
+                session.add_thumbnailer(file.read().replace("=quorvane", "=" + options.program))
         self.region = self.plain = self.brand = None
         self.verdicts, self.figures = {}, {}
 

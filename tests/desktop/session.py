@@ -17,6 +17,7 @@ COMMANDS = {
     "nemo": (["nemo", "--no-desktop"], "nemo"),
     "caja": (["caja", "--no-desktop"], "caja"),
     "thunar": (["thunar"], "thunar"),
+    "thunar-thumbnails": (["thunar"], "thunar"),  # with the optional thumbnailer, see docs/thunar.md
     "pcmanfm-qt": (["pcmanfm-qt", "--new-window"], "pcmanfm-qt"),
     "dolphin": (["dolphin", "--new-window"], "dolphin"),
 }
@@ -24,7 +25,7 @@ OPENBOX = """<openbox_config xmlns="http://openbox.org/3.4/rc"><applications>
 <application class="*" type="normal"><decor>no</decor><maximized>yes</maximized></application>
 </applications></openbox_config>
 """
-GTK = ("nautilus", "nemo", "caja", "thunar")
+GTK = ("nautilus", "nemo", "caja", "thunar", "thunar-thumbnails")
 WIDTH, HEIGHT = 900, 640
 TOOLS = {"Xvfb": "xvfb", "dbus-daemon": "dbus-daemon", "openbox": "openbox", "xdotool": "xdotool",
          "import": "imagemagick", "gio": "libglib2.0-bin"}
@@ -36,11 +37,11 @@ class Trouble(Exception):
 
 def missing(managers):
     """Debian packages of what is not installed."""
-    wanted = {**TOOLS, **{name: name for name in managers}}
+    wanted = {**TOOLS, **{COMMANDS[name][0][0]: COMMANDS[name][0][0] for name in managers}}
     packages = [package for program, package in wanted.items() if not shutil.which(program)]
     if not os.path.exists("/usr/libexec/gvfsd-metadata"):
         packages.append("gvfs-daemons")
-    if "thunar" in managers and not os.path.exists("/usr/share/dbus-1/services/org.xfce.Tumbler.Thumbnailer1.service"):
+    if "thunar" in wanted and not os.path.exists("/usr/share/dbus-1/services/org.xfce.Tumbler.Thumbnailer1.service"):
         packages.append("tumbler")
     if "pcmanfm-qt" in managers or "dolphin" in managers:
         if not os.path.isdir("/usr/share/icons/breeze"):
@@ -128,6 +129,13 @@ class Session:
         if not line:
             raise Trouble(f"{name} did not start")
         return line
+
+    def add_thumbnailer(self, text):
+        """Before the first window, or tumblerd does not know it."""
+        folder = os.path.join(self.home, ".local/share/thumbnailers")
+        os.makedirs(folder)
+        with open(os.path.join(folder, "under-test.thumbnailer"), "w", encoding="utf-8") as file:
+            file.write(text)
 
     def run(self, *command, check=True):
         """Runs a program to its end inside the session and returns what it printed."""
