@@ -117,7 +117,7 @@ class FolderBranding {
   [[nodiscard]] Result<FolderStatus> statusOf(const Folder& folder) const;
 
   /// The marks of a branded folder, or (without a picture) of one whose former icon was put back.
-  static WantedMarks marksFor(const std::optional<std::string>& picture);
+  static Result<WantedMarks> marksFor(const Folder& folder, const std::optional<std::string>& picture);
   Result<Notes> setMarks(Folder& folder, const WantedMarks& wanted) const;
   [[nodiscard]] Result<std::vector<std::string>> markFaults(const Folder& folder, const WantedMarks& wanted) const;
 
