@@ -33,6 +33,7 @@ struct Parser {
   bool jsonLines = false;
   bool quiet = false;
   bool dryRun = false;
+  bool crossFileSystems = false;
   std::vector<std::pair<Command, CLI::App*>> commands;
 
   Parser();
@@ -117,11 +118,29 @@ Parser::Parser() {
   addDryRun(*reset);
   addCommon(*reset);
 
+  CLI::App* repair =
+      add(app, Command::Repair, "repair", "Mend brands: after a move, a copy or an interruption",
+          "repair [OPTIONS] FOLDER...", {"quorvane repair ~/Invoices", "quorvane repair --dry-run ~/*/"});
+  folders(repair);
+  addDryRun(*repair);
+  addCommon(*repair);
+
   CLI::App* status =
       add(app, Command::Status, "status", "Say what icon, backup and record folders have", "status [OPTIONS] FOLDER...",
           {"quorvane status ~/Invoices", "quorvane status --json ~/Invoices ~/Taxes"});
   folders(status);
   addCommon(*status);
+
+  CLI::App* verify = add(app, Command::Verify, "verify", "Check that brands are whole and shown everywhere",
+                         "verify [OPTIONS] FOLDER...", {"quorvane verify ~/Invoices", "quorvane verify --json ~/*/"});
+  folders(verify);
+  addCommon(*verify);
+
+  CLI::App* list = add(app, Command::List, "list", "Find the branded folders in trees", "list [OPTIONS] TREE...",
+                       {"quorvane list ~/Documents", "quorvane list --json-lines /srv/share"});
+  list->add_option("TREE", paths, "One or more folders to search, with all below")->type_name("");
+  list->add_flag("--cross-file-systems", crossFileSystems, "Go on where another file system is mounted");
+  addCommon(*list);
 
   CLI::App* render = add(app, Command::Render, "render", "Compose an icon into a PNG or icns file, touching no folder",
                          "render [OPTIONS] OUT",
@@ -141,15 +160,16 @@ Parser::Parser() {
   CLI::App* make =
       add(*icns, Command::IcnsMake, "make", "Encode a picture as an icon family", "icns make PICTURE OUT.icns",
           {"quorvane icns make picture.png picture.icns", "quorvane icns make photo.jpg photo.icns"});
-  CLI::App* list = add(*icns, Command::IcnsList, "list", "List the elements of icon family files", "icns list FILE...",
-                       {"quorvane icns list picture.icns", "quorvane icns list --json picture.icns"});
+  CLI::App* listElements =
+      add(*icns, Command::IcnsList, "list", "List the elements of icon family files", "icns list FILE...",
+          {"quorvane icns list picture.icns", "quorvane icns list --json picture.icns"});
   CLI::App* extract = add(*icns, Command::IcnsExtract, "extract",
                           "Write each picture of an icon family as DIR/TYPE.png", "icns extract FILE DIR",
                           {"quorvane icns extract picture.icns pictures/", "quorvane icns extract --json a.icns out"});
   make->add_option("FILES", paths, "PICTURE and OUT.icns")->type_name("");
-  list->add_option("FILE", paths, "One or more icns files")->type_name("");
+  listElements->add_option("FILE", paths, "One or more icns files")->type_name("");
   extract->add_option("FILES", paths, "FILE and DIR")->type_name("");
-  for (CLI::App* command : {make, list, extract}) addCommon(*command);
+  for (CLI::App* command : {make, listElements, extract}) addCommon(*command);
 }
 
 /// The words of the command line up to a "--", and those after it, which are never options. "--option=" becomes two
@@ -190,6 +210,8 @@ PathCount pathCount(Command command) {
       return {2, 2, "FILE and DIR"};
     case Command::IcnsList:
       return {1, SIZE_MAX, "FILE"};
+    case Command::List:
+      return {1, SIZE_MAX, "TREE"};
     default:
       return {1, SIZE_MAX, "FOLDER"};
   }
@@ -280,6 +302,7 @@ Result<Arguments> readArguments(const Parser& parser, Command command) {
   arguments.form = parser.json ? OutputForm::Json : parser.jsonLines ? OutputForm::JsonLines : OutputForm::Words;
   arguments.isQuiet = parser.quiet;
   arguments.isDryRun = parser.dryRun;
+  arguments.crossesFileSystems = parser.crossFileSystems;
   return arguments;
 }
 
@@ -293,8 +316,14 @@ std::string commandName(Command command) {
       return "revert";
     case Command::Reset:
       return "reset";
+    case Command::Repair:
+      return "repair";
     case Command::Status:
       return "status";
+    case Command::Verify:
+      return "verify";
+    case Command::List:
+      return "list";
     case Command::Render:
       return "render";
     case Command::IcnsMake:
@@ -308,7 +337,8 @@ std::string commandName(Command command) {
 }
 
 const std::vector<std::string>& commandWords() {
-  static const std::vector<std::string> words{"apply", "revert", "reset", "status", "render", "icns"};
+  static const std::vector<std::string> words{"apply",  "revert", "reset",  "repair", "status",
+                                              "verify", "list",   "render", "icns"};
   return words;
 }
 

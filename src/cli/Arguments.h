@@ -12,7 +12,19 @@
 
 namespace quorvane::cli {
 
-enum class Command { Apply, Revert, Reset, Status, Render, IcnsMake, IcnsList, IcnsExtract };
+enum class Command {
+  Apply,
+  Revert,
+  Reset,
+  Repair,
+  Status,
+  Verify,
+  List,
+  Render,
+  IcnsMake,
+  IcnsList,
+  IcnsExtract,
+};
 
 /// The command's name as it is typed and reported ("icns make").
 std::string commandName(Command command);
@@ -29,6 +41,7 @@ struct Arguments {
   OutputForm form = OutputForm::Words;
   bool isQuiet = false;
   bool isDryRun = false;
+  bool crossesFileSystems = false;  ///< `list` goes on where another file system is mounted
 };
 
 /// The program has nothing more to do than end with this code; what was to be said has been said.

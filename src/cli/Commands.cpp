@@ -2,8 +2,10 @@
 #include "cli/Commands.h"
 
 #include <csignal>
+#include <cstdlib>
 
 #include "cli/ExitCode.h"
+#include "cli/SecondNotices.h"
 
 namespace quorvane::cli {
 
@@ -18,6 +20,13 @@ void onSignal(int signal) {
     std::raise(signal);
   }
   receivedSignal = signal;
+}
+
+/// File managers run in a desktop session only; elsewhere nobody needs to be told twice.
+bool isInSession() {
+  for (const char* variable : {"DISPLAY", "WAYLAND_DISPLAY"})
+    if (const char* value = std::getenv(variable); value != nullptr && *value != '\0') return true;
+  return false;
 }
 
 }  // namespace
@@ -36,16 +45,27 @@ void watchSignals() {
 int run(const Arguments& arguments, const IconServices& services) {
   Reporter reporter(commandName(arguments.command), arguments.form, arguments.isQuiet, arguments.isDryRun);
   bool hasNothing = false;
+  SecondNotices secondNotices;
+  const FolderBranding branding(services, isInSession() ? secondNotices.later() : FolderBranding::Later());
   switch (arguments.command) {
     case Command::Apply:
-      runApply(arguments, services, reporter);
+      runApply(arguments, branding, reporter);
       break;
     case Command::Revert:
     case Command::Reset:
-      runWaysBack(arguments, services, reporter);
+      runWaysBack(arguments, branding, reporter);
+      break;
+    case Command::Repair:
+      runRepair(arguments, branding, reporter);
+      break;
+    case Command::Verify:
+      runVerify(arguments, branding, reporter);
+      break;
+    case Command::List:
+      hasNothing = !runList(arguments, branding, reporter);
       break;
     case Command::Status:
-      hasNothing = !runStatus(arguments, services, reporter);
+      hasNothing = !runStatus(arguments, branding, reporter);
       break;
     case Command::Render:
       runRender(arguments, services, reporter);
@@ -56,6 +76,7 @@ int run(const Arguments& arguments, const IconServices& services) {
       runIcns(arguments, reporter);
       break;
   }
+  secondNotices.finish();
   if (pendingSignal() != 0) {
     reporter.note("interrupted; " + std::to_string(reporter.successes()) + " done, " +
                   std::to_string(reporter.failures()) + " failed");

@@ -89,4 +89,9 @@ void Reporter::note(const std::string& words) {
   if (!_isQuiet) writeLine(stderr, "quorvane: " + words);
 }
 
+void Reporter::noteOnce(const std::string& words) {
+  constexpr std::size_t most = 64;
+  if (_saidOnce.size() < most && _saidOnce.insert(words).second) note(words);
+}
+
 }  // namespace quorvane::cli

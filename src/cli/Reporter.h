@@ -4,6 +4,7 @@
 #include <QJsonObject>
 #include <cstdio>
 #include <filesystem>
+#include <set>
 #include <string>
 
 #include "foundation/base/Error.h"
@@ -32,6 +33,8 @@ class Reporter {
   void failed(const std::filesystem::path& path, const Error& error);
   /// A remark for people on standard error.
   void note(const std::string& words);
+  /// A remark that holds for many folders alike: said the first time only. Few of them are remembered.
+  void noteOnce(const std::string& words);
 
   [[nodiscard]] int failures() const { return _failures; }
   [[nodiscard]] int successes() const { return _successes; }
@@ -47,6 +50,7 @@ class Reporter {
   int _failures = 0;
   int _successes = 0;
   bool _hasItems = false;
+  std::set<std::string> _saidOnce;
 };
 
 /// Puts a path into a JSON object under `key`; one that is not UTF-8 also as base64 under `key`_base64.

@@ -14,6 +14,7 @@
 #include "cli/Terminal.h"
 #include "iconfamily/AppleDoubleForkStore.h"
 #include "system/FileManagerNotices.h"
+#include "system/FolderMarks.h"
 #include "system/KindIcons.h"
 
 namespace {
@@ -82,5 +83,7 @@ int main(int argc, char** argv) {
   AppleDoubleForkStore forks;
   const auto kinds = makeDesktopKindIcons();
   StampingNotices notices;
-  return codeAfterOutput(run(arguments, {.forks = forks, .kinds = *kinds, .notices = notices}));
+  const auto metadata = makeDesktopMetadata();
+  const auto marks = makeDesktopMarks(*metadata);
+  return codeAfterOutput(run(arguments, {.forks = forks, .kinds = *kinds, .notices = notices, .marks = marks.get()}));
 }

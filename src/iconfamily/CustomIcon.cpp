@@ -121,7 +121,7 @@ Result<std::optional<IconFamily>> readCustomIcon(const std::filesystem::path& pa
 }
 
 Result<void> setFolderIcon(const IconFamily& family, Folder& folder, const IconServices& services,
-                           bool withCompatibility) {
+                           bool withCompatibility, const std::function<Result<void>()>& andAlso) {
   TRY_VOID(checkFamily(family));
   HeldFiles former(folder);
   for (const std::string& spelling : iconFileNames) {
@@ -139,6 +139,7 @@ Result<void> setFolderIcon(const IconFamily& family, Folder& folder, const IconS
   addIconResources(content.fork, family, withCompatibility);
   TRY_VOID(services.forks.write(folder, iconFileName, content));
   TRY(services.forks.changeFolderFlags(folder, FinderInfo::hasCustomIcon, FinderInfo::hasBeenInited));
+  if (andAlso) TRY_VOID(andAlso());
   TRY_VOID(services.notices.noteDirectoryModified(folder));
   former.release();
   return {};

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <filesystem>
+#include <functional>
 #include <optional>
 
 #include "foundation/Folder.h"
@@ -22,7 +23,8 @@ Result<std::optional<IconFamily>> readFolderIconResource(const Folder& folder, c
 
 /// Stores the family as the folder's custom icon (open for writing) and tells the file managers. Replaces whatever icon
 /// was there with all its resources. Unlike a bare sequence of steps, a failure puts the former icon files back.
+/// `andAlso` runs when the icon is in place, before anybody is told: its failure counts as one of the whole.
 Result<void> setFolderIcon(const IconFamily& family, Folder& folder, const IconServices& services,
-                           bool withCompatibility = false);
+                           bool withCompatibility = false, const std::function<Result<void>()>& andAlso = {});
 
 }  // namespace quorvane

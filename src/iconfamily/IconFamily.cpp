@@ -97,6 +97,12 @@ std::optional<BitmapImageRep> IconFamily::bitmapImageRepWithAlphaForIconFamilyEl
   return BitmapImageRep::bitmapImageRepWithLayout(layout, *std::move(argb));
 }
 
+std::optional<Bytes> IconFamily::storedElement(FourCharCode type) const {
+  const auto data = icnsElement(hIconFamily, type);
+  if (!data) return std::nullopt;
+  return Bytes(data->begin(), data->end());
+}
+
 bool IconFamily::looksLikeFamily(ByteView bytes) {
   return ByteReader(bytes).readCode() == FourCharCode("icns");
 }

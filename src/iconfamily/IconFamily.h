@@ -48,6 +48,9 @@ class IconFamily {
   /// when it is first needed. nullopt when the bytes are no family or hold no picture.
   [[nodiscard]] std::optional<Image> imageWithAllReps() const;
 
+  /// The bytes of an element as they are stored; nullopt when there is none, or the family is none.
+  [[nodiscard]] std::optional<Bytes> storedElement(FourCharCode type) const;
+
   /// Whether bytes begin as an icon family does.
   static bool looksLikeFamily(ByteView bytes);
   /// Why the bytes are no icon family, if they are none.

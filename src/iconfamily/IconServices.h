@@ -8,6 +8,7 @@
 #include "iconfamily/ForkStore.h"
 #include "iconfamily/IconFamily.h"
 #include "system/FileManagerNotices.h"
+#include "system/FolderMarks.h"
 #include "system/KindIcons.h"
 
 namespace quorvane {
@@ -17,6 +18,7 @@ struct IconServices {
   ForkStore& forks;
   const KindIcons& kinds;
   FileManagerNotices& notices;
+  FolderMarks* marks = nullptr;  ///< none: branded folders get nothing but the custom icon
 };
 
 }  // namespace quorvane

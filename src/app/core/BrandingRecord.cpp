@@ -3,8 +3,10 @@
 
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <array>
+#include <functional>
 
-#include "foundation/base/Limits.h"
+#include "foundation/KeptFiles.h"
 
 namespace quorvane {
 
@@ -14,12 +16,18 @@ constexpr int recordVersion = 1;
 constexpr std::size_t recordBytes = 64 * 1024;
 const std::string recordName = "record.json";
 const std::string originalName = "original";
+const std::string marksName = "marks";
 const std::string keptBackupName = "backup.icns";
 
 const QString versionKey = QStringLiteral("version");
 const QString backupKey = QStringLiteral("had_backup");
 const QString originalTimeKey = QStringLiteral("modified_before");
 const QString ourTimeKey = QStringLiteral("modified_by_us");
+const QString ourDateKey = QStringLiteral("modified_by_us_before_reset");
+const QString brandedKey = QStringLiteral("branded");
+const QString unfinishedKey = QStringLiteral("unfinished");
+
+constexpr std::array operations{BrandingOperation::Apply, BrandingOperation::Revert, BrandingOperation::Reset};
 
 // Seconds and nanoseconds as text: JSON numbers hold no 64-bit times.
 QString timeText(const timespec& time) {
@@ -54,38 +62,87 @@ Result<QJsonObject> readRecord(const Folder& record) {
   return values;
 }
 
-/// Replaces a file by a kept one; the kept one stays, so that it can be done again.
-Result<void> putBack(const Folder& from, const std::string& keptName, Folder& to, const std::string& name) {
-  const std::string temporary = Folder::temporaryName();
-  TRY_VOID(from.preserve(keptName, to, temporary));
-  // Two names of one file cannot be renamed over each other; the first then simply goes.
-  if (const auto renamed = to.rename(temporary, to, name); !renamed) return renamed;
-  return to.removeFile(temporary);
+Result<void> changeRecord(Folder& folder, const std::function<void(QJsonObject&)>& change) {
+  Folder record = TRY(folder.openChild(BrandingRecord::folderName, Folder::Access::Write));
+  QJsonObject values = TRY(readRecord(record));
+  change(values);
+  return writeRecord(record, values);
+}
+
+Result<void> noteReset(Folder& folder, const QJsonObject& values, bool isOurDate) {
+  if (values.contains(ourDateKey)) return {};
+  return changeRecord(folder, [&](QJsonObject& changed) {
+    changed[unfinishedKey] = QString::fromStdString(operationName(BrandingOperation::Reset));
+    changed[ourDateKey] = isOurDate;
+  });
+}
+
+Result<std::uint64_t> sizeOf(const Folder& folder, int depth) {
+  std::uint64_t size = 0;
+  for (const std::string& name : TRY(folder.names())) {
+    const auto info = TRY(folder.statusOf(name));
+    if (info && S_ISREG(info->st_mode)) size += static_cast<std::uint64_t>(info->st_size);
+    if (info && S_ISDIR(info->st_mode) && depth > 0)
+      size += TRY(sizeOf(TRY(folder.openChild(name, Folder::Access::Read)), depth - 1));
+  }
+  return size;
 }
 
 }  // namespace
 
-Result<bool> BrandingRecord::exists(const Folder& folder) {
+std::string operationName(BrandingOperation operation) {
+  switch (operation) {
+    case BrandingOperation::Apply:
+      return "apply";
+    case BrandingOperation::Revert:
+      return "revert";
+    case BrandingOperation::Reset:
+      break;
+  }
+  return "reset";
+}
+
+Result<std::optional<BrandingState>> BrandingRecord::state(const Folder& folder) {
   const auto info = TRY(folder.statusOf(folderName));
-  if (!info) return false;
+  if (!info) return std::optional<BrandingState>();
   const Folder record = TRY(folder.openChild(folderName, Folder::Access::Read));
   if (!TRY(record.statusOf(recordName)))
     return Error::refused("stands in the way; it is not a record of ours").at(record.path());
-  TRY(readRecord(record));
-  return true;
+  const QJsonObject values = TRY(readRecord(record));
+  BrandingState state{.isBranded = values[brandedKey].toBool(), .unfinished = {}};
+  for (const auto operation : operations)
+    if (values[unfinishedKey].toString().toStdString() == operationName(operation)) state.unfinished = operation;
+  return std::optional(state);
 }
 
-Result<void> BrandingRecord::make(Folder& folder, const ForkStore& forks, const std::string& backupName) {
+Result<std::uint64_t> BrandingRecord::size(const Folder& folder) {
+  const auto info = TRY(folder.statusOf(folderName));
+  if (!info || !S_ISDIR(info->st_mode)) return std::uint64_t{0};
+  return sizeOf(TRY(folder.openChild(folderName, Folder::Access::Read)), 1);
+}
+
+Result<std::optional<Folder>> BrandingRecord::originalMarks(const Folder& folder) {
+  const Folder record = TRY(folder.openChild(folderName, Folder::Access::Read));
+  if (!TRY(record.statusOf(marksName))) return std::optional<Folder>();
+  return std::optional<Folder>(TRY(record.openChild(marksName, Folder::Access::Read)));
+}
+
+Result<void> BrandingRecord::make(Folder& folder, const IconServices& services, const std::string& backupName) {
   const struct stat before = TRY(folder.status());
   const std::string temporary = Folder::temporaryName();
   const auto build = [&]() -> Result<void> {
     Folder record = TRY(folder.makeChild(temporary));
     Folder original = TRY(record.makeChild(originalName));
-    TRY_VOID(forks.saveOriginal(folder, original));
-    const bool hadBackup = TRY(folder.statusOf(backupName)).has_value();
-    if (hadBackup) TRY_VOID(folder.preserve(backupName, record, keptBackupName));
-    return writeRecord(
-        record, {{versionKey, recordVersion}, {backupKey, hadBackup}, {originalTimeKey, timeText(before.st_mtim)}});
+    TRY_VOID(services.forks.saveOriginal(folder, original));
+    if (services.marks != nullptr) {
+      Folder marks = TRY(record.makeChild(marksName));
+      TRY_VOID(services.marks->saveOriginal(folder, marks));
+    }
+    const bool hadBackup = TRY(keepFile(folder, backupName, record, keptBackupName));
+    return writeRecord(record, {{versionKey, recordVersion},
+                                {backupKey, hadBackup},
+                                {originalTimeKey, timeText(before.st_mtim)},
+                                {unfinishedKey, QString::fromStdString(operationName(BrandingOperation::Apply))}});
   };
   auto done = build();
   if (done.ok()) done = folder.rename(temporary, folder, folderName);
@@ -93,29 +150,45 @@ Result<void> BrandingRecord::make(Folder& folder, const ForkStore& forks, const 
   return done;
 }
 
-Result<void> BrandingRecord::noteChanged(Folder& folder) {
-  if (!TRY(exists(folder))) return {};
-  Folder record = TRY(folder.openChild(folderName, Folder::Access::Write));
-  QJsonObject values = TRY(readRecord(record));
-  values[ourTimeKey] = timeText(TRY(folder.status()).st_mtim);
-  return writeRecord(record, values);
+Result<void> BrandingRecord::begin(Folder& folder, BrandingOperation operation) {
+  return changeRecord(
+      folder, [&](QJsonObject& values) { values[unfinishedKey] = QString::fromStdString(operationName(operation)); });
 }
 
-Result<void> BrandingRecord::restore(Folder& folder, ForkStore& forks, const std::string& backupName) {
+Result<void> BrandingRecord::finish(Folder& folder, bool isBranded) {
+  const struct stat now = TRY(folder.status());
+  return changeRecord(folder, [&](QJsonObject& values) {
+    values.remove(unfinishedKey);
+    values.remove(ourDateKey);
+    values[brandedKey] = isBranded;
+    values[ourTimeKey] = timeText(now.st_mtim);
+  });
+}
+
+Result<FolderMarks::Notes> BrandingRecord::restore(Folder& folder, const IconServices& services,
+                                                   const std::string& backupName) {
   const struct stat now = TRY(folder.status());
   timespec modified = now.st_mtim;
+  FolderMarks::Notes notes;
   {
     const Folder record = TRY(folder.openChild(folderName, Folder::Access::Read));
     const QJsonObject values = TRY(readRecord(record));
-    // The date from before comes back only when nobody but us changed the folder since.
-    if (values[ourTimeKey].toString() == timeText(now.st_mtim))
-      modified = timeFrom(values[originalTimeKey].toString()).value_or(modified);
+    // The date from before comes back only when nobody but us changed the folder since. A reset that was interrupted
+    // has found that out already.
+    const bool isOurDate = values[ourDateKey].toBool(values[ourTimeKey].toString() == timeText(now.st_mtim));
+    if (isOurDate) modified = timeFrom(values[originalTimeKey].toString()).value_or(modified);
     // Looked at before anything is changed: a reset that cannot be finished is not begun.
     if (values[backupKey].toBool() && !TRY(record.statusOf(keptBackupName)))
       return Error::invalidInput("the kept backup is missing").at(record.pathOf(keptBackupName));
-    TRY_VOID(forks.restoreOriginal(folder, TRY(record.openChild(originalName, Folder::Access::Read))));
+    TRY_VOID(noteReset(folder, values, isOurDate));
+    TRY_VOID(services.forks.restoreOriginal(folder, TRY(record.openChild(originalName, Folder::Access::Read))));
+    // Whatever names the picture goes before the picture does: a file manager would show a broken one.
+    if (services.marks != nullptr) {
+      const auto original = TRY(originalMarks(folder));
+      notes = TRY(services.marks->set(folder, {}, original ? &*original : nullptr));
+    }
     if (values[backupKey].toBool()) {
-      TRY_VOID(putBack(record, keptBackupName, folder, backupName));
+      TRY_VOID(putBackFile(record, keptBackupName, folder, backupName));
     } else {
       TRY_VOID(folder.removeFile(backupName));
     }
@@ -123,7 +196,7 @@ Result<void> BrandingRecord::restore(Folder& folder, ForkStore& forks, const std
   TRY_VOID(folder.removeChild(folderName));
   // Somebody else's folder cannot be dated; nothing rests on it.
   (void)folder.setTimes(now.st_atim, modified);
-  return {};
+  return notes;
 }
 
 }  // namespace quorvane

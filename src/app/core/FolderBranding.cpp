@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/core/FolderBranding.h"
 
-#include "app/core/BrandingRecord.h"
 #include "app/core/BrandingTarget.h"
 #include "foundation/base/Limits.h"
 #include "foundation/base/Log.h"
@@ -14,16 +13,6 @@ namespace {
 
 constexpr Size shownSize{512, 512};
 constexpr Size canvasSize{128, 128};
-
-/// The backup icon's family; nullopt without a backup. Fails on one that is no plain file or no icon.
-Result<std::optional<IconFamily>> readBackup(const Folder& folder) {
-  const auto bytes = TRY(folder.readFile(FolderBranding::backupName, limits::iconFileBytes));
-  if (!bytes) return std::optional<IconFamily>();
-  const IconFamily family = IconFamily::initWithData(*bytes);
-  if (const auto checked = family.check(); !checked)
-    return checked.error().at(folder.pathOf(FolderBranding::backupName));
-  return std::optional(family);
-}
 
 /// The family's picture; of one that holds none, the picture of the folder's kind, as the desktop shows then.
 Result<Image> imageOf(const IconFamily& family, const std::filesystem::path& path, Size size, const KindIcons& kinds) {
@@ -43,21 +32,28 @@ Result<bool> hasIcon(const Folder& folder, const IconFamily& family, const ForkS
   return present && *present == family;
 }
 
-/// Only the folder's date after a reset rests on this: the icon is in place, and stays a success without it.
-void noteOurChange(Folder& folder) {
-  if (const auto noted = BrandingRecord::noteChanged(folder); !noted) logMessage("branding", noted.error().message());
-}
-
-/// Once the work is done; it is no less done when nobody could be told.
-void tellFileManagers(Folder& folder, const IconServices& services) {
-  if (const auto told = services.notices.noteDirectoryModified(folder); !told)
-    logMessage("branding", told.error().message());
+/// What was to be done is done, or is being taken back: this alone is for the log.
+template <typename T>
+void logFailure(const Result<T>& result) {
+  if (!result.ok()) logMessage("branding", result.error().message());
 }
 
 }  // namespace
 
 std::filesystem::path FolderBranding::_backupPathForFolder(const std::filesystem::path& folder) {
   return folder / backupName;
+}
+
+std::string FolderBranding::interruptedWords(BrandingOperation operation) {
+  return "an earlier " + operationName(operation) + " was interrupted here";
+}
+
+Result<std::optional<IconFamily>> FolderBranding::readBackup(const Folder& folder) {
+  const auto bytes = TRY(folder.readFile(backupName, limits::iconFileBytes));
+  if (!bytes) return std::optional<IconFamily>();
+  const IconFamily family = IconFamily::initWithData(*bytes);
+  if (const auto checked = family.check(); !checked) return checked.error().at(folder.pathOf(backupName));
+  return std::optional(family);
 }
 
 Result<Image> FolderBranding::_iconImageForPath(const std::filesystem::path& path) const {
@@ -90,32 +86,91 @@ Result<bool> FolderBranding::backupIcon(Folder& folder) const {
   return true;
 }
 
-Result<BrandingOutcome> FolderBranding::writeIconWithImage(const std::optional<Image>& image,
-                                                           const std::filesystem::path& toPath, WriteMode mode) const {
+WantedMarks FolderBranding::marksFor(const std::optional<std::string>& picture) {
+  return {.picture = picture, .hiddenFile = iconFileName};
+}
+
+Result<FolderBranding::Notes> FolderBranding::setMarks(Folder& folder, const WantedMarks& wanted) const {
+  if (_services.marks == nullptr) return Notes();
+  const auto state = BrandingRecord::state(folder);
+  const auto original = state.ok() && *state ? TRY(BrandingRecord::originalMarks(folder)) : std::optional<Folder>();
+  return _services.marks->set(folder, wanted, original ? &*original : nullptr);
+}
+
+Result<std::vector<std::string>> FolderBranding::markFaults(const Folder& folder, const WantedMarks& wanted) const {
+  if (_services.marks == nullptr) return std::vector<std::string>();
+  return _services.marks->faults(folder, wanted);
+}
+
+void FolderBranding::tell(Folder& folder) const {
+  if (_services.marks != nullptr) _services.marks->forgetThumbnails(folder.path());
+  // It is no less done when nobody could be told.
+  logFailure(_services.notices.noteDirectoryModified(folder));
+}
+
+Result<bool> FolderBranding::isBrandedWith(const Folder& folder, const IconFamily& family,
+                                           const BrandPicture& picture) const {
+  if (!TRY(hasIcon(folder, family, _services.forks))) return false;
+  if (_services.marks == nullptr) return true;
+  return TRY(picture.isAlone(folder)) && TRY(markFaults(folder, marksFor(picture.path()))).empty();
+}
+
+Result<FolderBranding::Notes> FolderBranding::writeBrand(Folder& folder, const IconFamily& family,
+                                                         const BrandPicture& picture) const {
+  const auto former = TRY(BrandPicture::allIn(folder));
+  if (_services.marks != nullptr) TRY_VOID(picture.write(folder));
+  Notes notes;
+  const auto mark = [&]() -> Result<void> {
+    notes = TRY(setMarks(folder, marksFor(picture.path())));
+    return {};
+  };
+  const bool isThere = TRY(hasIcon(folder, family, _services.forks));
+  if (const auto done = isThere ? mark() : setFolderIcon(family, folder, _services, false, mark); !done) {
+    // The former icon is back; what names the new picture goes before the picture does.
+    const auto formerPicture = former.size() == 1 ? std::optional(former.front()) : std::nullopt;
+    logFailure(setMarks(folder, marksFor(formerPicture)));
+    logFailure(BrandPicture::removeAll(folder, formerPicture));
+    return done.error();
+  }
+  logFailure(BrandPicture::removeAll(folder, picture.path()));
+  tell(folder);
+  return notes;
+}
+
+Result<BrandingResult> FolderBranding::writeIconWithImage(const std::optional<Image>& image,
+                                                          const std::filesystem::path& toPath, WriteMode mode) const {
   if (!image) return Error::invalidInput("there is no picture to make an icon of").at(toPath);
   Folder folder = TRY(openForWriting(toPath, mode));
   const IconFamily family = TRY(IconFamily::iconFamilyWithThumbnailsOfImage(*image));
-  const bool hasRecord = TRY(BrandingRecord::exists(folder));
+  const BrandPicture picture = TRY(BrandPicture::of(family));
+  const auto state = TRY(BrandingRecord::state(folder));
   const bool hasBackup = TRY(folder.statusOf(backupName)).has_value();
-  if (hasRecord && hasBackup && TRY(hasIcon(folder, family, _services.forks))) return BrandingOutcome::Unchanged;
+  if (state && state->isBranded && !state->unfinished && hasBackup && TRY(isBrandedWith(folder, family, picture)))
+    return BrandingResult{BrandingOutcome::Unchanged, {}};
   TRY_VOID(checkPlaces(folder, _services.forks));
-  if (mode == WriteMode::DryRun) return BrandingOutcome::Changed;
+  if (mode == WriteMode::DryRun) return BrandingResult{};
 
-  if (!hasRecord) TRY_VOID(BrandingRecord::make(folder, _services.forks, backupName));
+  if (state) {
+    TRY_VOID(BrandingRecord::begin(folder, BrandingOperation::Apply));
+  } else {
+    TRY_VOID(BrandingRecord::make(folder, _services, backupName));
+  }
   // A backup that cannot be written does not stop an apply: the record holds the way back as well.
-  if (const auto backup = backupIcon(folder); !backup) logMessage("branding", "no backup: " + backup.error().message());
-  if (const auto written = setFolderIcon(family, folder, _services); !written) {
-    if (!hasRecord) {
-      // Nothing of a first apply that failed stays.
-      (void)BrandingRecord::noteChanged(folder);
-      const auto restored = BrandingRecord::restore(folder, _services.forks, backupName);
-      if (!restored) logMessage("branding", "cannot undo: " + restored.error().message());
-    }
+  logFailure(backupIcon(folder));
+  auto written = writeBrand(folder, family, picture);
+  if (!written) {
+    logFailure(BrandingRecord::finish(folder, state && state->isBranded));
+    // Nothing of a first apply that failed stays.
+    if (!state) logFailure(BrandingRecord::restore(folder, _services, backupName));
     return written.error();
   }
-  noteOurChange(folder);
+  BrandingResult result{BrandingOutcome::Changed, *std::move(written)};
+  if (state && state->unfinished)
+    result.notes.push_back(interruptedWords(*state->unfinished) + "; this run made it good");
+  // What is in place stays a success: at worst the next run takes this one for interrupted.
+  logFailure(BrandingRecord::finish(folder, true));
   noteAgain(folder.path());
-  return BrandingOutcome::Changed;
+  return result;
 }
 
 void FolderBranding::noteAgain(const std::filesystem::path& path) const {
@@ -126,66 +181,45 @@ void FolderBranding::noteAgain(const std::filesystem::path& path) const {
   });
 }
 
-Result<BrandingOutcome> FolderBranding::revert(const std::filesystem::path& path, WriteMode mode) const {
+Result<FolderBranding::Notes> FolderBranding::putBackup(Folder& folder, const IconFamily& backup) const {
+  const auto former = TRY(BrandPicture::allIn(folder));
+  Notes notes = TRY(setMarks(folder, marksFor({})));
+  if (const auto done = setFolderIcon(backup, folder, _services); !done) {
+    if (former.size() == 1) logFailure(setMarks(folder, marksFor(former.front())));
+    return done.error();
+  }
+  logFailure(BrandPicture::removeAll(folder));
+  // The icon is back; a backup that cannot be removed is no failure.
+  logFailure(folder.removeFile(backupName));
+  tell(folder);
+  return notes;
+}
+
+Result<BrandingResult> FolderBranding::revert(const std::filesystem::path& path, WriteMode mode) const {
   Folder folder = TRY(openForWriting(path, mode));
   const auto family = TRY(readBackup(folder));
-  if (!family) return BrandingOutcome::NothingToRevert;
+  if (!family) return BrandingResult{BrandingOutcome::NothingToRevert, {}};
   TRY_VOID(checkPlaces(folder, _services.forks));
-  if (mode == WriteMode::DryRun) return BrandingOutcome::Changed;
-  TRY_VOID(setFolderIcon(*family, folder, _services));
-  // The icon is back; a backup that cannot be removed is no failure.
-  if (const auto removed = folder.removeFile(backupName); !removed) logMessage("branding", removed.error().message());
-  tellFileManagers(folder, _services);
-  noteOurChange(folder);
-  return BrandingOutcome::Changed;
+  if (mode == WriteMode::DryRun) return BrandingResult{};
+  // Without a record that can be read there is still the backup.
+  const auto state = BrandingRecord::state(folder);
+  const bool hasRecord = state.ok() && state->has_value();
+  if (hasRecord) TRY_VOID(BrandingRecord::begin(folder, BrandingOperation::Revert));
+  auto notes = putBackup(folder, *family);
+  if (hasRecord) logFailure(BrandingRecord::finish(folder, !notes.ok() && (*state)->isBranded));
+  return BrandingResult{BrandingOutcome::Changed, TRY(std::move(notes))};
 }
 
-Result<BrandingOutcome> FolderBranding::reset(const std::filesystem::path& path, WriteMode mode) const {
+Result<BrandingResult> FolderBranding::reset(const std::filesystem::path& path, WriteMode mode) const {
   Folder folder = TRY(openForWriting(path, mode));
-  if (!TRY(BrandingRecord::exists(folder))) return BrandingOutcome::NothingToRevert;
+  const bool hasRecord = TRY(BrandingRecord::state(folder)).has_value();
+  // What a session remembers of a folder comes back with a new folder under the old path.
+  if (!hasRecord && TRY(markFaults(folder, {})).empty()) return BrandingResult{BrandingOutcome::NothingToRevert, {}};
   TRY_VOID(folder.checkWritable());
-  if (mode == WriteMode::DryRun) return BrandingOutcome::Changed;
-  TRY_VOID(BrandingRecord::restore(folder, _services.forks, backupName));
-  tellFileManagers(folder, _services);
-  return BrandingOutcome::Changed;
-}
-
-Result<FolderStatus> FolderBranding::status(const std::filesystem::path& path) const {
-  const Folder folder = TRY(Folder::open(path, Folder::Access::Read));
-  FolderStatus status;
-  const auto fault = [&status](const Error& error) { status.faults.push_back(error.message()); };
-  for (const std::string& name : brandFileNames(_services.forks, backupName))
-    if (const auto info = TRY(folder.statusOf(name)); info && S_ISREG(info->st_mode))
-      status.bytes += static_cast<std::uint64_t>(info->st_size);
-  if (const auto info = _services.forks.readFolderInfo(folder)) {
-    status.hasCustomFlag = (info->flags() & FinderInfo::hasCustomIcon) != 0;
-  } else {
-    fault(info.error());
-  }
-  if (const auto family = readFolderIconResource(folder, _services.forks)) {
-    status.hasIconFamily = family->has_value() && (*family)->check().ok();
-    if (family->has_value() && !status.hasIconFamily) status.faults.emplace_back("the icon resource is no icon family");
-  } else {
-    fault(family.error());
-  }
-  if (const auto backup = readBackup(folder)) {
-    status.hasBackup = backup->has_value();
-  } else {
-    fault(backup.error());
-  }
-  if (const auto record = BrandingRecord::exists(folder)) {
-    status.hasRecord = *record;
-  } else {
-    fault(record.error());
-  }
-  if (status.hasCustomFlag && !status.hasIconFamily)
-    status.faults.emplace_back("the folder claims an icon that is not there");
-  if (!status.hasCustomFlag && !status.hasIconFamily && status.faults.empty() && TRY(findIconFile(folder)))
-    status.faults.emplace_back("an icon file stands there that holds no icon");
-  if (status.hasIconFamily && !status.hasCustomFlag)
-    status.faults.emplace_back("the folder does not say that it has an icon");
-  status.hasCustomIcon = status.hasIconFamily && status.hasCustomFlag;
-  return status;
+  if (mode == WriteMode::DryRun) return BrandingResult{};
+  Notes notes = hasRecord ? TRY(BrandingRecord::restore(folder, _services, backupName)) : TRY(setMarks(folder, {}));
+  tell(folder);
+  return BrandingResult{BrandingOutcome::Changed, std::move(notes)};
 }
 
 }  // namespace quorvane

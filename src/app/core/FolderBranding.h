@@ -9,6 +9,8 @@
 #include <string>
 #include <vector>
 
+#include "app/core/BrandPicture.h"
+#include "app/core/BrandingRecord.h"
 #include "foundation/Folder.h"
 #include "foundation/base/Result.h"
 #include "iconfamily/IconFamily.h"
@@ -26,15 +28,30 @@ struct FolderStatus {
   bool hasRecord = false;           ///< we changed this folder, and reset can give back what was there before
   std::uint64_t bytes = 0;          ///< of all files of the brand
   std::vector<std::string> faults;  ///< what contradicts itself, in words
+  /// What keeps file managers that know no custom icons from showing it, or from showing the plain folder again; in
+  /// words. Moving or copying a folder is enough.
+  std::vector<std::string> markFaults;
+  std::optional<BrandingOperation> unfinished;  ///< one that was interrupted
 
   /// Part of a custom icon without the rest.
   [[nodiscard]] bool isIncomplete() const { return hasIconFamily != hasCustomFlag || !faults.empty(); }
+  /// All is as one of our operations leaves it, or nothing of ours is there.
+  [[nodiscard]] bool isSound() const { return !isIncomplete() && markFaults.empty() && !unfinished; }
 };
 
 enum class BrandingOutcome {
   Changed,
   Unchanged,        ///< it was already as wanted; nothing was written
   NothingToRevert,  ///< no backup, or (for reset) no record
+};
+
+/// What an operation did, and what the user should know of it besides: sentences for people, without the folder's path.
+struct BrandingResult {
+  BrandingOutcome outcome = BrandingOutcome::Changed;
+  std::vector<std::string> notes;
+
+  /// Tests and callers to whom the notes do not matter.
+  bool operator==(BrandingOutcome other) const { return outcome == other; }
 };
 
 enum class WriteMode {
@@ -72,21 +89,52 @@ class FolderBranding {
 
   /// Builds a family from the image, backs up, stores the family as the folder's custom icon and tells the file
   /// managers. A backup that exists or cannot be written does not stop it. On failure the old icon stays.
-  Result<BrandingOutcome> writeIconWithImage(const std::optional<Image>& image, const std::filesystem::path& toPath,
-                                             WriteMode mode = WriteMode::Write) const;
+  Result<BrandingResult> writeIconWithImage(const std::optional<Image>& image, const std::filesystem::path& toPath,
+                                            WriteMode mode = WriteMode::Write) const;
 
   /// Puts the backed-up icon back as the custom icon and, only if that succeeds, removes the backup.
-  Result<BrandingOutcome> revert(const std::filesystem::path& path, WriteMode mode = WriteMode::Write) const;
+  Result<BrandingResult> revert(const std::filesystem::path& path, WriteMode mode = WriteMode::Write) const;
 
   /// Gives back what was there before the first apply and removes everything of ours.
-  Result<BrandingOutcome> reset(const std::filesystem::path& path, WriteMode mode = WriteMode::Write) const;
+  Result<BrandingResult> reset(const std::filesystem::path& path, WriteMode mode = WriteMode::Write) const;
 
   [[nodiscard]] Result<FolderStatus> status(const std::filesystem::path& path) const;
 
+  /// Makes a branded folder sound again: finishes what was interrupted, writes the marks anew after the folder was
+  /// moved or copied, makes an icon that is damaged or missing from its picture. Unchanged when nothing was wrong. What
+  /// no longer can be made whole goes back to what was there before the first apply; the notes say so.
+  Result<BrandingResult> repair(const std::filesystem::path& path, WriteMode mode = WriteMode::Write) const;
+
  private:
+  using Notes = FolderMarks::Notes;
+
   [[nodiscard]] Result<Folder> openForWriting(const std::filesystem::path& path, WriteMode mode) const;
   Result<bool> backupIcon(Folder& folder) const;
+  /// The backup's family; nullopt without a backup. Fails on one that is no plain file or no icon.
+  static Result<std::optional<IconFamily>> readBackup(const Folder& folder);
+  [[nodiscard]] Result<FolderStatus> statusOf(const Folder& folder) const;
 
+  /// The marks of a branded folder, or (without a picture) of one whose former icon was put back.
+  static WantedMarks marksFor(const std::optional<std::string>& picture);
+  Result<Notes> setMarks(Folder& folder, const WantedMarks& wanted) const;
+  [[nodiscard]] Result<std::vector<std::string>> markFaults(const Folder& folder, const WantedMarks& wanted) const;
+
+  /// Whether the folder shows exactly this icon everywhere already.
+  [[nodiscard]] Result<bool> isBrandedWith(const Folder& folder, const IconFamily& family,
+                                           const BrandPicture& picture) const;
+  /// Icon, picture and marks, after begin() and before finish(): all or none of them.
+  Result<Notes> writeBrand(Folder& folder, const IconFamily& family, const BrandPicture& picture) const;
+  /// The backup as custom icon and the marks from before the first apply, then no backup and no picture.
+  Result<Notes> putBackup(Folder& folder, const IconFamily& backup) const;
+
+  Result<Notes> repairBranded(Folder& folder, const BrandingState& state) const;
+  Result<Notes> repairIcon(Folder& folder, const IconFamily& family) const;
+  Result<Notes> repairForeign(Folder& folder) const;
+  Result<Notes> giveUp(Folder& folder, const std::string& why) const;
+
+  static std::string interruptedWords(BrandingOperation operation);
+  /// File managers look at the folder again.
+  void tell(Folder& folder) const;
   void noteAgain(const std::filesystem::path& path) const;
 
   const IconServices& _services;

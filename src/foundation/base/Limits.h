@@ -22,6 +22,9 @@ inline constexpr int elementPixels = 4096;
 inline constexpr std::size_t forkResources = 8192;
 inline constexpr std::size_t companionEntries = 512;
 
+/// Longest ".directory" or ".hidden" file that is edited; usual ones have a few lines.
+inline constexpr std::size_t folderSettingsBytes = std::size_t{16} << 20;
+
 /// Depth of folders that are removed with what is in them; ours are two deep.
 inline constexpr int removedFolderDepth = 32;
 /// Largest file that is copied to be kept where it cannot be kept by a second link.

@@ -1,0 +1,86 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/core/BrandPicture.h"
+
+#include <QCryptographicHash>
+#include <algorithm>
+
+#include "foundation/base/Limits.h"
+#include "imaging/PngCodec.h"
+#include "system/FolderMarks.h"
+
+namespace quorvane {
+
+namespace {
+
+constexpr qsizetype hashDigits = 16;
+const std::string holderName = markPictureFolder;
+
+/// The PNG as it stands in the family when it does, so that it can be compared without decoding.
+Result<Bytes> pngOf(const IconFamily& family) {
+  if (auto element = family.storedElement("ic09"); element && isPng(*element)) return *std::move(element);
+  const auto image = family.imageWithAllReps();
+  const auto bitmap = image ? image->bitmapRepresentation() : std::nullopt;
+  if (!bitmap) return Error::invalidInput("its icon holds no picture");
+  return encodePng(*bitmap);
+}
+
+std::string nameFor(ByteView png) {
+  const QByteArrayView view(png.data(), static_cast<qsizetype>(png.size()));
+  const QByteArray hash = QCryptographicHash::hash(view.toByteArray(), QCryptographicHash::Sha256).toHex();
+  return markPicturePrefix + hash.left(hashDigits).toStdString() + markPictureSuffix;
+}
+
+std::string nameIn(const std::string& path) {
+  return path.substr(holderName.size() + 1);
+}
+
+Result<bool> hasHolder(const Folder& folder) {
+  const auto info = TRY(folder.statusOf(holderName));
+  return info && S_ISDIR(info->st_mode);
+}
+
+}  // namespace
+
+Result<BrandPicture> BrandPicture::of(const IconFamily& family) {
+  Bytes png = TRY(pngOf(family));
+  std::string path = holderName + "/" + nameFor(png);
+  return BrandPicture(std::move(path), std::move(png));
+}
+
+Result<bool> BrandPicture::isAlone(const Folder& folder) const {
+  const auto all = TRY(allIn(folder));
+  if (all.size() != 1 || all.front() != _path) return false;
+  return TRY(read(folder, _path)) == _bytes;
+}
+
+Result<void> BrandPicture::write(Folder& folder) const {
+  Folder holder = TRY(folder.openChild(holderName, Folder::Access::Write));
+  TRY(holder.writeFile(nameIn(_path), _bytes));
+  return {};
+}
+
+Result<std::vector<std::string>> BrandPicture::allIn(const Folder& folder) {
+  std::vector<std::string> found;
+  if (!TRY(hasHolder(folder))) return found;
+  for (const std::string& name : TRY(TRY(folder.openChild(holderName, Folder::Access::Read)).names()))
+    if (std::string path = holderName + "/" + name; isMarkPicture(path)) found.push_back(std::move(path));
+  return found;
+}
+
+Result<void> BrandPicture::removeAll(Folder& folder, const std::optional<std::string>& except) {
+  const auto all = TRY(allIn(folder));
+  if (std::ranges::all_of(all, [&](const std::string& path) { return path == except; })) return {};
+  Folder holder = TRY(folder.openChild(holderName, Folder::Access::Write));
+  for (const std::string& path : all)
+    if (path != except) TRY_VOID(holder.removeFile(nameIn(path)));
+  return {};
+}
+
+Result<Bytes> BrandPicture::read(const Folder& folder, const std::string& path) {
+  const Folder holder = TRY(folder.openChild(holderName, Folder::Access::Read));
+  auto bytes = TRY(holder.readFile(nameIn(path), limits::iconFileBytes));
+  if (!bytes) return Error(ErrorKind::NotFound, "the icon's picture is missing").at(folder.path() / path);
+  return *std::move(bytes);
+}
+
+}  // namespace quorvane
