@@ -33,6 +33,10 @@ class PromisesTest(EndToEndTest):
     def inside(self, name):
         return os.path.join(self.path, name)
 
+    def append(self, name, text):
+        with open(self.inside(name), "ab") as file:
+            file.write(text)
+
     def test_changes_of_what_is_not_ours_are_seen_and_changes_of_what_is_ours_are_not(self):
         letter = "letter.txt"
         seen = (lambda: write(self.inside(letter), b"x"), lambda: os.utime(self.inside(letter), (1, 1)),
@@ -42,7 +46,11 @@ class PromisesTest(EndToEndTest):
                 lambda: write(os.path.join(self.root, "home", "trace"), b""),
                 lambda: write(os.path.join(self.root, "above", "._neighbour"), b""),
                 lambda: write(self.inside(".quorvane-0123456.tmp"), b""), lambda: os.remove(self.inside("link")))
-        unseen = (lambda: write(self.inside(ICON), b"x"), lambda: os.remove(self.inside(ICON_COMPANION)),
+        seen += (lambda: write(self.inside(".directory"), b"[Desktop Entry]\nIcon=x\n"),
+                 lambda: write(self.inside(".hidden"), b"Icon\r\n"), lambda: os.chmod(self.inside(".hidden"), 0o644))
+        unseen = (lambda: write(self.inside(ICON), b"x"),
+                  lambda: self.append(".hidden", b"\nIcon\r\n"),
+                  lambda: self.append(".directory", b"[Desktop\\sEntry]\nIcon=x\n"), lambda: os.remove(self.inside(ICON_COMPANION)),
                   lambda: os.setxattr(self.path, FINDER_INFO, bytes(32)), lambda: os.mkdir(self.inside(".quorvane")),
                   lambda: os.removexattr(self.path, SERVER_RECORD),
                   lambda: write(os.path.join(self.root, "above", "._Invoices"), b""))
@@ -69,10 +77,12 @@ class PromisesTest(EndToEndTest):
                   lambda: write(self.inside(ICON_COMPANION), read(self.inside(ICON_COMPANION))[:-9]))
         for number, change in enumerate(breaks):
             with self.subTest(broken=number):
-                self.start()
+                self.assertEqual(promises.check_sound(PATH, self.start()), [])
                 self.assertEqual(promises.check_whole(PATH, self.picture(), old, new, []), [])
                 change()
                 self.assertTrue(promises.check_whole(PATH, self.picture(), old, new, []))
+                if number > 0:
+                    self.assertTrue(promises.check_sound(PATH, self.picture()))
                 self.assertEqual(promises.check_whole(PATH, self.picture(), old, new, ["told"]), [])
 
     def test_every_place_of_the_flags_is_read(self):

@@ -6,7 +6,7 @@ import struct
 
 from loop import Scenario
 from promises import SERVER_RECORD, Picture
-from support import FOREIGN, ICON, plant_custom_icon, write
+from support import FINDER_INFO, FOREIGN, ICON, ICON_COMPANION, plant_custom_icon, write
 
 NEW, OLD = ("--json", "--label", "n", "--size", "20"), ("--label", "o", "--size", "20")
 
@@ -28,6 +28,9 @@ def foreign(path):
     os.setxattr(path, "user.note", b"and me")
     os.setxattr(path, SERVER_RECORD, server_record(0x0500))
     os.setxattr(os.path.join(path, ICON), SERVER_RECORD, server_record(0x4000))
+    write(os.path.join(path, ".directory"), b"# mine\r\n[Desktop Entry]\r\nComment=x\r\nIcon=folder-red\r\n", mode=0o640,
+          seconds=1_300_000_000)
+    write(os.path.join(path, ".hidden"), b"secret\nno newline at the end", mode=0o600, seconds=1_300_000_001)
 
 
 def server_record(flags):
@@ -39,22 +42,33 @@ def server_record(flags):
 
 
 def prepared(kind, *commands, count=1):
-    """Fills a place with `count` folders and runs commands on them, after the picture of the beginning was taken."""
+    """Fills a place with `count` folders and runs commands on them, after the picture of the beginning was taken. A
+    function among the commands is called with each folder instead."""
     names = ["Invoices", "Letters", "Music"][:count]
 
     def prepare(root, run):
-        os.mkdir(os.path.join(root, "home"))
+        os.makedirs(os.path.join(root, "home", ".cache"), mode=0o700)  # libraries of the desktop make it
         folders = [os.path.join("above", name) for name in names]
         for path in folders:
             kind(os.path.join(root, path))
         write(os.path.join(root, "above", "neighbour"), b"not ours", seconds=1_200_000_000)
         pristine = Picture(root, folders)
         for command in commands:
-            code, out, err = run([*command, *(os.path.join(root, path) for path in folders)], root)
-            assert code == 0, (command, out, err)
+            for path in folders if callable(command) else ():
+                command(os.path.join(root, path))
+            if not callable(command):
+                code, out, err = run([*command, *(os.path.join(root, path) for path in folders)], root)
+                assert code == 0, (command, out, err)
         return folders, pristine
 
     return prepare
+
+
+def damaged(path):
+    """A branded folder that has lost its flag, its icon and a mark."""
+    os.removexattr(path, FINDER_INFO)
+    os.remove(os.path.join(path, ICON_COMPANION))
+    os.remove(os.path.join(path, ".hidden"))
 
 
 APPLY_OLD = ("apply", *OLD)
@@ -64,8 +78,9 @@ SCENARIOS = (
     Scenario("apply over a custom icon", ("apply", *NEW), prepared(foreign)),
     Scenario("second apply over a custom icon", ("apply", *NEW), prepared(foreign, APPLY_OLD)),
     Scenario("revert", ("revert", "--json"), prepared(foreign, APPLY_OLD)),
+    Scenario("repair", ("repair", "--json"), prepared(plain, APPLY_OLD, damaged)),
     Scenario("reset", ("reset", "--json"), prepared(plain, APPLY_OLD)),
     Scenario("reset to a custom icon", ("reset", "--json"), prepared(foreign, APPLY_OLD)),
-    Scenario("apply to three", ("apply", *NEW), prepared(plain, count=3)),
-    Scenario("reset of three", ("reset", "--json"), prepared(plain, APPLY_OLD, count=3)),
+    Scenario("apply to three", ("apply", *NEW), prepared(plain, count=3), every=5),
+    Scenario("reset of three", ("reset", "--json"), prepared(plain, APPLY_OLD, count=3), every=5),
 )
