@@ -33,6 +33,8 @@ class AppleDoubleForkStore : public ForkStore {
                                                            std::uint16_t clear) override;
 
   [[nodiscard]] Result<void> saveOriginal(const Folder& folder, Folder& into) const override;
+  [[nodiscard]] Result<void> checkOriginal(const Folder& from) const override;
+  [[nodiscard]] Result<ResourceFork> originalIconFork(const Folder& from) const override;
   Result<void> restoreOriginal(Folder& folder, const Folder& from) override;
 
  private:

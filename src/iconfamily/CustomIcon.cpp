@@ -102,6 +102,10 @@ Result<std::optional<IconFamily>> readFolderIconResource(const Folder& folder, c
   return familyIn(TRY(forks.read(folder, *name)).fork);
 }
 
+Result<std::optional<IconFamily>> readOriginalIcon(const Folder& from, const ForkStore& forks) {
+  return familyIn(TRY(forks.originalIconFork(from)));
+}
+
 Result<std::optional<IconFamily>> readCustomIcon(const std::filesystem::path& path, const ForkStore& forks) {
   if (isDirectory(path)) {
     const Folder folder = TRY(Folder::open(path, Folder::Access::Read));

@@ -21,6 +21,9 @@ Result<std::optional<IconFamily>> readCustomIcon(const std::filesystem::path& pa
 /// The family in the folder's icon file, whether or not the folder's flag says that it has one.
 Result<std::optional<IconFamily>> readFolderIconResource(const Folder& folder, const ForkStore& forks);
 
+/// The former custom icon among what ForkStore::saveOriginal() kept; nullopt without one.
+Result<std::optional<IconFamily>> readOriginalIcon(const Folder& from, const ForkStore& forks);
+
 /// Stores the family as the folder's custom icon (open for writing) and tells the file managers. Replaces whatever icon
 /// was there with all its resources. Unlike a bare sequence of steps, a failure puts the former icon files back.
 /// `andAlso` runs when the icon is in place, before anybody is told: its failure counts as one of the whole.

@@ -60,6 +60,10 @@ class ForkStore {
   /// the folder's icon files with all that belongs to them and the folder's Finder info, or their absence. Complete
   /// only when it succeeds: build it under a temporary name.
   [[nodiscard]] virtual Result<void> saveOriginal(const Folder& folder, Folder& into) const = 0;
+  /// Fails when something of what saveOriginal() kept there is missing or damaged.
+  [[nodiscard]] virtual Result<void> checkOriginal(const Folder& from) const = 0;
+  /// The fork of the icon file that was kept; empty without one.
+  [[nodiscard]] virtual Result<ResourceFork> originalIconFork(const Folder& from) const = 0;
   /// Brings it back, the very files where the file system allows it. Can be repeated after an interruption; `from`
   /// stays as it is. What somebody else wrote into the folder's Finder info meanwhile is left, only our flags come out.
   virtual Result<void> restoreOriginal(Folder& folder, const Folder& from) = 0;

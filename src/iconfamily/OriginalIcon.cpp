@@ -147,6 +147,25 @@ void sweepAbove(const Folder& folder, const Folder& above) {
     static_cast<void>(folder.openParent(Access::Write));
 }
 
+Result<OriginalState> readState(const Folder& from) {
+  const auto text = TRY(from.readFile(OriginalState::fileName, stateBytes));
+  if (!text)
+    return Error(ErrorKind::NotFound, "there is no record of the original icon")
+        .at(from.pathOf(OriginalState::fileName));
+  auto parsed = OriginalState::parse(*text);
+  if (!parsed.ok()) return parsed.error().at(from.pathOf(OriginalState::fileName));
+  return parsed;
+}
+
+// Whether a file was kept, which then has to be there.
+Result<bool> isKept(const Folder& from, const OriginalState& state, const char* key) {
+  const bool kept = TRY(state.isKept(key));
+  const auto info = kept ? TRY(from.statusOf(key)) : std::optional<struct stat>();
+  if (kept && (!info || !S_ISREG(info->st_mode)))
+    return Error::invalidInput("the kept original is missing").at(from.pathOf(key));
+  return kept;
+}
+
 // What giveCompanionBack does, for the folder's attribute.
 Result<void> giveAttributeBack(Folder& folder, const std::optional<Bytes>& original) {
   const std::string name = AppleDoubleForkStore::infoAttribute;
@@ -206,23 +225,31 @@ Result<void> AppleDoubleForkStore::saveOriginal(const Folder& folder, Folder& in
   return {};
 }
 
+Result<void> AppleDoubleForkStore::checkOriginal(const Folder& from) const {
+  const OriginalState state = TRY(readState(from));
+  for (const auto& each : iconFileKeys) {
+    TRY(isKept(from, state, each.key));
+    TRY(isKept(from, state, each.companionKey));
+  }
+  for (const char* key : {insideKey, besideKey})
+    if (state.tellsOf(key)) TRY(isKept(from, state, key));
+  return {};
+}
+
+Result<ResourceFork> AppleDoubleForkStore::originalIconFork(const Folder& from) const {
+  const OriginalState state = TRY(readState(from));
+  for (const auto& each : iconFileKeys) {
+    if (!TRY(isKept(from, state, each.key)) || !TRY(isKept(from, state, each.companionKey))) continue;
+    const auto kept = TRY(companion::read(from, each.companionKey));
+    return ResourceFork::parse(kept.content.resourceFork());
+  }
+  return ResourceFork();
+}
+
 Result<void> AppleDoubleForkStore::restoreOriginal(Folder& folder, const Folder& from) {
-  const auto text = TRY(from.readFile(OriginalState::fileName, stateBytes));
-  if (!text)
-    return Error(ErrorKind::NotFound, "there is no record of the original icon")
-        .at(from.pathOf(OriginalState::fileName));
-  const auto parsed = OriginalState::parse(*text);
-  if (!parsed.ok()) return parsed.error().at(from.pathOf(OriginalState::fileName));
-  const OriginalState& state = *parsed;
+  const OriginalState state = TRY(readState(from));
 
   // All is looked at before anything is changed.
-  const auto isKept = [&](const char* key) -> Result<bool> {
-    const bool kept = TRY(state.isKept(key));
-    const auto info = kept ? TRY(from.statusOf(key)) : std::optional<struct stat>();
-    if (kept && (!info || !S_ISREG(info->st_mode)))
-      return Error::invalidInput("the kept original is missing").at(from.pathOf(key));
-    return kept;
-  };
   const auto isFree = [&](const std::string& name) -> Result<void> {
     const auto info = TRY(folder.statusOf(name));
     if (info && !S_ISREG(info->st_mode)) return Error::refused("is no plain file").at(folder.pathOf(name));
@@ -245,13 +272,13 @@ Result<void> AppleDoubleForkStore::restoreOriginal(Folder& folder, const Folder&
   for (const auto& each : iconFileKeys) {
     TRY_VOID(isFree(each.name));
     TRY_VOID(isFree(each.companion));
-    const bool file = TRY(isKept(each.key));
-    const bool companion = TRY(isKept(each.companionKey));
+    const bool file = TRY(isKept(from, state, each.key));
+    const bool companion = TRY(isKept(from, state, each.companionKey));
     iconFiles.push_back({each, file, companion, TRY(state.bytes(each.attributeKey)), TRY(recordIn(each.recordKey))});
     hadIconFile = hadIconFile || file;
   }
-  const bool hadInside = state.tellsOf(insideKey) && TRY(isKept(insideKey));
-  const bool hadBeside = state.tellsOf(besideKey) && TRY(isKept(besideKey));
+  const bool hadInside = state.tellsOf(insideKey) && TRY(isKept(from, state, insideKey));
+  const bool hadBeside = state.tellsOf(besideKey) && TRY(isKept(from, state, besideKey));
   const auto attribute = TRY(state.bytes(attributeKey));
   const auto record = TRY(recordIn(recordKey));
 

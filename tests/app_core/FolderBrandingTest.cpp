@@ -63,7 +63,7 @@ class WearyNotices : public FileManagerNotices {
 TEST_P(FolderBrandingTest, ARevertWhoseNoticeFailsIsStillOne) {
   ASSERT_TRUE(branding.writeIconWithImage(test::plainImage(Qt::red), folder).ok());
   WearyNotices weary;
-  const IconServices others{.forks = forks, .kinds = kinds, .notices = weary};
+  const IconServices others{.forks = forks, .kinds = kinds, .notices = weary, .marks = marks.get()};
   const auto reverted = FolderBranding(others).revert(folder);
   ASSERT_TRUE(reverted.ok()) << reverted.error().message();
   EXPECT_EQ(*reverted, BrandingOutcome::Changed);
@@ -248,7 +248,7 @@ TEST_P(FolderBrandingTest, WhatFailsHasChangedNothingAndWhatIsDoneIsNoFailure) {
   ASSERT_TRUE(branding.writeIconWithImage(test::plainImage(Qt::red), folder).ok());
   const Bytes red = shownIcon();
   FailingNotices failing;
-  const IconServices hinderedServices{.forks = forks, .kinds = kinds, .notices = failing};
+  const IconServices hinderedServices{.forks = forks, .kinds = kinds, .notices = failing, .marks = marks.get()};
   const FolderBranding hindered{hinderedServices};
   // The record says when the folder was last changed, so that a reset knows whether its date is ours.
   const auto allButTheRecord = [&] {

@@ -4,11 +4,14 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
+#include <map>
+#include <memory>
 
 #include "app/core/FolderBranding.h"
 #include "iconfamily/AppleDoubleForkStore.h"
 #include "support/TemporaryFolder.h"
 #include "system/FileManagerNotices.h"
+#include "system/FolderMarks.h"
 #include "system/KindIcons.h"
 
 namespace quorvane::test {
@@ -23,6 +26,27 @@ class RecordingNotices : public FileManagerNotices {
   std::vector<std::filesystem::path> noted;
 };
 
+/// A session's settings of folders, without a session.
+class MemoryMetadata : public FolderMetadata {
+ public:
+  [[nodiscard]] Result<std::optional<std::string>> customIcon(const std::filesystem::path& folder) const override {
+    if (!isReachable) return Error(ErrorKind::Unsupported, "no session");
+    const auto found = icons.find(folder);
+    return found == icons.end() ? std::optional<std::string>() : std::optional(found->second);
+  }
+  Result<void> setCustomIcon(const std::filesystem::path& folder, const std::optional<std::string>& picture) override {
+    if (!isReachable) return Error(ErrorKind::Unsupported, "no session");
+    if (picture) {
+      icons[folder] = *picture;
+    } else {
+      icons.erase(folder);
+    }
+    return {};
+  }
+  std::map<std::filesystem::path, std::string> icons;
+  bool isReachable = true;
+};
+
 /// A picture of one colour, opaque, 128 points and `pixels` pixels a side.
 Image plainImage(QColor color, int pixels = 64);
 
@@ -35,7 +59,9 @@ class BrandingFixture : public ::testing::TestWithParam<AppleDoubleForkStore::At
   AppleDoubleForkStore forks{GetParam()};
   OwnKindIcons kinds;
   RecordingNotices notices;
-  IconServices services{.forks = forks, .kinds = kinds, .notices = notices};
+  MemoryMetadata metadata;
+  std::unique_ptr<FolderMarks> marks = makeDesktopMarks(metadata);
+  IconServices services{.forks = forks, .kinds = kinds, .notices = notices, .marks = marks.get()};
   FolderBranding branding{services};
 
   BrandingFixture() { std::filesystem::create_directory(folder); }

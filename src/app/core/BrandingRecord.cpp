@@ -7,6 +7,7 @@
 #include <functional>
 
 #include "foundation/KeptFiles.h"
+#include "iconfamily/CustomIcon.h"
 
 namespace quorvane {
 
@@ -121,6 +122,19 @@ Result<std::uint64_t> BrandingRecord::size(const Folder& folder) {
   return sizeOf(TRY(folder.openChild(folderName, Folder::Access::Read)), 1);
 }
 
+Result<void> BrandingRecord::check(const Folder& folder, const ForkStore& forks) {
+  const Folder record = TRY(folder.openChild(folderName, Folder::Access::Read));
+  const QJsonObject values = TRY(readRecord(record));
+  if (values[backupKey].toBool() && !TRY(record.statusOf(keptBackupName)))
+    return Error::invalidInput("the kept backup is missing").at(record.pathOf(keptBackupName));
+  return forks.checkOriginal(TRY(record.openChild(originalName, Folder::Access::Read)));
+}
+
+Result<std::optional<IconFamily>> BrandingRecord::originalIcon(const Folder& folder, const ForkStore& forks) {
+  const Folder record = TRY(folder.openChild(folderName, Folder::Access::Read));
+  return readOriginalIcon(TRY(record.openChild(originalName, Folder::Access::Read)), forks);
+}
+
 Result<std::optional<Folder>> BrandingRecord::originalMarks(const Folder& folder) {
   const Folder record = TRY(folder.openChild(folderName, Folder::Access::Read));
   if (!TRY(record.statusOf(marksName))) return std::optional<Folder>();
@@ -178,8 +192,7 @@ Result<FolderMarks::Notes> BrandingRecord::restore(Folder& folder, const IconSer
     const bool isOurDate = values[ourDateKey].toBool(values[ourTimeKey].toString() == timeText(now.st_mtim));
     if (isOurDate) modified = timeFrom(values[originalTimeKey].toString()).value_or(modified);
     // Looked at before anything is changed: a reset that cannot be finished is not begun.
-    if (values[backupKey].toBool() && !TRY(record.statusOf(keptBackupName)))
-      return Error::invalidInput("the kept backup is missing").at(record.pathOf(keptBackupName));
+    TRY_VOID(check(folder, services.forks));
     TRY_VOID(noteReset(folder, values, isOurDate));
     TRY_VOID(services.forks.restoreOriginal(folder, TRY(record.openChild(originalName, Folder::Access::Read))));
     // Whatever names the picture goes before the picture does: a file manager would show a broken one.

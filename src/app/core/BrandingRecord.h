@@ -38,6 +38,10 @@ class BrandingRecord {
   static Result<std::optional<BrandingState>> state(const Folder& folder);
   /// Bytes of everything in it.
   static Result<std::uint64_t> size(const Folder& folder);
+  /// Fails when something that a reset needs is missing or damaged.
+  static Result<void> check(const Folder& folder, const ForkStore& forks);
+  /// The folder's custom icon from before the first apply; nullopt when it had none.
+  static Result<std::optional<IconFamily>> originalIcon(const Folder& folder, const ForkStore& forks);
   /// What file managers were told before, for FolderMarks; nullopt when nothing was kept.
   static Result<std::optional<Folder>> originalMarks(const Folder& folder);
 

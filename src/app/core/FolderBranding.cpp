@@ -56,14 +56,26 @@ Result<std::optional<IconFamily>> FolderBranding::readBackup(const Folder& folde
   return std::optional(family);
 }
 
+Result<IconFamily> FolderBranding::familyFromBefore(const Folder& folder) const {
+  const auto state = BrandingRecord::state(folder);
+  const bool isOurs = state.ok() && *state && ((*state)->isBranded || (*state)->unfinished);
+  if (!isOurs) return IconFamily::iconFamilyWithIconOfFile(folder.path(), _services);
+  // The present icon is a brand: an earlier apply could not write the backup.
+  const auto original = TRY(BrandingRecord::originalIcon(folder, _services.forks));
+  if (original && original->check()) return *original;
+  const auto image = _services.kinds.iconForKindOfFile(folder.path());
+  if (!image) return Error::invalidInput("there is no picture of its kind").at(folder.path());
+  return IconFamily::iconFamilyWithThumbnailsOfImage(*image);
+}
+
 Result<Image> FolderBranding::_iconImageForPath(const std::filesystem::path& path) const {
   return imageOf(TRY(IconFamily::iconFamilyWithIconOfFile(path, _services)), path, shownSize, _services.kinds);
 }
 
 Result<Image> FolderBranding::originalIconImage(const std::filesystem::path& path) const {
   const Folder folder = TRY(Folder::open(path, Folder::Access::Read));
-  if (const auto backup = TRY(readBackup(folder))) return imageOf(*backup, path, canvasSize, _services.kinds);
-  return imageOf(TRY(IconFamily::iconFamilyWithIconOfFile(path, _services)), path, canvasSize, _services.kinds);
+  const auto backup = TRY(readBackup(folder));
+  return imageOf(backup ? *backup : TRY(familyFromBefore(folder)), path, canvasSize, _services.kinds);
 }
 
 Result<Folder> FolderBranding::openForWriting(const std::filesystem::path& path, WriteMode mode) const {
@@ -81,8 +93,7 @@ Result<bool> FolderBranding::backupIconForFolderAtPath(const std::filesystem::pa
 Result<bool> FolderBranding::backupIcon(Folder& folder) const {
   // Whatever stands there, an existing backup is never replaced.
   if (TRY(folder.statusOf(backupName))) return false;
-  const IconFamily family = TRY(IconFamily::iconFamilyWithIconOfFile(folder.path(), _services));
-  TRY(folder.writeFile(backupName, family.bytes()));
+  TRY(folder.writeFile(backupName, TRY(familyFromBefore(folder)).bytes()));
   return true;
 }
 

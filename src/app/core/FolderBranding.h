@@ -112,6 +112,8 @@ class FolderBranding {
   Result<bool> backupIcon(Folder& folder) const;
   /// The backup's family; nullopt without a backup. Fails on one that is no plain file or no icon.
   static Result<std::optional<IconFamily>> readBackup(const Folder& folder);
+  /// The icon from before the first apply, where there is no backup of it.
+  [[nodiscard]] Result<IconFamily> familyFromBefore(const Folder& folder) const;
   [[nodiscard]] Result<FolderStatus> statusOf(const Folder& folder) const;
 
   /// The marks of a branded folder, or (without a picture) of one whose former icon was put back.

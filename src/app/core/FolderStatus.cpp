@@ -61,6 +61,9 @@ Result<FolderStatus> FolderBranding::statusOf(const Folder& folder) const {
   } else {
     fault(read.error());
   }
+  if (status.hasRecord) {
+    if (const auto checked = BrandingRecord::check(folder, _services.forks); !checked) fault(checked.error());
+  }
   if (status.faults.empty()) status.faults = TRY(iconFaults(folder, status, _services.forks));
   status.hasCustomIcon = status.hasIconFamily && status.hasCustomFlag;
   if (state) status.unfinished = state->unfinished;

@@ -44,7 +44,7 @@ Result<Text> readText(const Folder& folder, const std::string& name) {
 Result<void> writeText(Folder& folder, const std::string& name, const std::string& text, const Text& asRead) {
   std::optional<Bytes> before;
   if (asRead) before.emplace(asRead->begin(), asRead->end());
-  TRY(folder.writeFile(name, bytesOf(text), before));
+  TRY_VOID(folder.writeFile(name, bytesOf(text), before));
   return {};
 }
 
@@ -92,7 +92,7 @@ Result<void> keepText(const Folder& folder, const std::string& name, Folder& int
   const auto original = withoutOurs(**text);
   if (!original) return {};
   if (*original != **text) return writeText(into, name, *original, {});
-  TRY(keepFile(folder, name, into, name));
+  TRY_VOID(keepFile(folder, name, into, name));
   return {};
 }
 
@@ -110,7 +110,7 @@ Result<void> DesktopMarks::saveOriginal(const Folder& folder, Folder& into) cons
                     [](const std::string& text) { return directoryfile::restored(text, {}, isMarkPicture); }));
   TRY_VOID(keepText(folder, hiddenfile::fileName, into, [](const std::string& text) { return Text(text); }));
   const auto setting = _metadata.customIcon(folder.path());
-  if (setting.ok() && *setting && !isMarkPicture(**setting)) TRY(into.writeFile(keptSetting, bytesOf(**setting)));
+  if (setting.ok() && *setting && !isMarkPicture(**setting)) TRY_VOID(into.writeFile(keptSetting, bytesOf(**setting)));
   return {};
 }
 

@@ -76,13 +76,17 @@ std::vector<Line> filtered(const std::vector<Line>& lines, IsIn isIn) {
 }
 
 std::string endOfLines(const std::vector<Line>& lines) {
-  return lines.empty() || lines.front().raw.end.empty() ? "\n" : std::string(lines.front().raw.end);
+  if (lines.empty()) return "\n";
+  const TextLine& first = lines.front().raw;
+  // A lone line that is cut within its end is ended as the others will be.
+  if (first.end.empty()) return first.text.ends_with('\r') ? "\r\n" : "\n";
+  return std::string(first.end);
 }
 
 /// The lines, with `added` at the head of the first desktop entry group, which is made when it is missing.
 std::string withLines(const std::vector<Line>& lines, const std::string& added, const std::string& end) {
   std::string out;
-  bool isAdded = added.empty();
+  bool isAdded = false;
   const auto endLine = [&] {
     if (!out.empty() && !out.ends_with('\n')) out += end;
   };
@@ -168,7 +172,10 @@ std::optional<std::string> restored(std::string_view text, const std::optional<s
     return trimmed(line.raw.text).empty() || (line.isHeader && line.group == Group::Entry);
   });
   if (isEmpty && !original) return std::nullopt;
-  return withLines(lines, former, endOfLines(all));
+  if (!former.empty()) return withLines(lines, former, endOfLines(all));
+  std::string rest;
+  for (const Line& line : lines) rest.append(line.raw.text).append(line.raw.end);
+  return rest;
 }
 
 bool namesIcon(std::string_view text, bool (*isOurs)(std::string_view value)) {
