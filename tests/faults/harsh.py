@@ -4,11 +4,11 @@ checked after each, and the way back once the conditions are good again."""
 import ctypes
 import json
 import os
-import shutil
 import subprocess
 import tempfile
 
 import promises
+from places import fast_place
 from promises import Picture
 from scenarios import NEW, OLD, plain
 from support import PATIENCE, PROGRAM, EndToEndTest, write
@@ -78,7 +78,7 @@ class Work:
         _code, status, _err = self.run(("status", "--json"))
         broken += promises.check_whole(INSIDE, now, old, wished, json.loads(status)["results"][0].get("faults"))
         if code == 0:
-            broken += promises.check_success(INSIDE, now, wished)
+            broken += promises.check_success(INSIDE, now, wished, json.loads(out)["results"][0].get("notes", ()))
         else:
             broken += promises.check_failure(INSIDE, now, old, wished)
             self.test.assertGreater(len(err.strip()), 10, "no reason given")
@@ -96,7 +96,12 @@ class Work:
 class HarshTest(EndToEndTest):
     """Mounts made by a test are for its process alone."""
 
+    fast = True
     _mounts_are_ours = False
+
+    @classmethod
+    def setUpClass(cls):
+        tempfile.tempdir = fast_place() if cls.fast else None
 
     def lay(self, name="place", kind=plain, commands=(), place=None):
         return Work(self, os.path.join(place or self.place, name), kind, commands)
@@ -115,8 +120,3 @@ class HarshTest(EndToEndTest):
             self.skipTest(f"may not mount: {error}")
         self.addCleanup(unmount, place)
         return place
-
-    def remade(self, name):
-        path = os.path.join(self.place, name)
-        shutil.rmtree(path, ignore_errors=True)
-        return path
