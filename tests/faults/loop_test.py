@@ -11,7 +11,7 @@ from points import Tracer
 from scenarios import SCENARIOS
 from support import PATIENCE, PROGRAM
 
-STRIDE = int(os.environ.get("QUORVANE_STRIDE", "23"))
+STRIDE = int(os.environ.get("QUORVANE_STRIDE", "61"))
 
 
 class LoopTest(unittest.TestCase):

@@ -70,8 +70,7 @@ bool isLasting(const Error& error) {
   return std::ranges::find(codes, error.systemCode()) != std::end(codes);
 }
 
-Result<void> attempt(const Result<void>& done, const std::string& file, bool isLastWayBack,
-                     FolderMarks::Notes& notes) {
+Result<void> attempt(const Result<void>& done, const std::string& file, bool isLastWayBack, FolderMarks::Notes& notes) {
   if (done.ok()) return {};
   const bool isLost = isLastWayBack && done.error().kind() == ErrorKind::System;
   if (isLost || !isLasting(done.error())) return done.error();
