@@ -12,6 +12,7 @@
 #include "cli/Commands.h"
 #include "cli/ExitCode.h"
 #include "cli/Terminal.h"
+#include "cli/Thumbnail.h"
 #include "iconfamily/AppleDoubleForkStore.h"
 #include "system/FileManagerNotices.h"
 #include "system/FolderMarks.h"
@@ -64,6 +65,7 @@ bool drawsText(Command command) {
 }  // namespace
 
 int main(int argc, char** argv) {
+  if (isThumbnailCall(argc, argv)) return writeThumbnail(argv, AppleDoubleForkStore());
   if (isForWindow(argc, argv)) return startWindow(argv);
   const auto parsed = parseArguments(argc, argv);
   if (const auto* finished = std::get_if<Finished>(&parsed)) return codeAfterOutput(finished->exitCode);

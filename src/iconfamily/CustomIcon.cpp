@@ -4,6 +4,7 @@
 #include <fcntl.h>
 #include <sys/stat.h>
 
+#include <cerrno>
 #include <string>
 #include <utility>
 #include <vector>
@@ -83,6 +84,17 @@ class HeldFiles {
   std::vector<Held> _files;
 };
 
+/// An empty icon file; the name under which it could be made. File systems of other makes take no carriage return in
+/// names; a Mac writes the mapped spelling there.
+Result<std::string> makeIconFile(Folder& folder) {
+  const auto written = folder.writeFile(iconFileName, {});
+  if (written.ok()) return std::string(iconFileName);
+  const int code = written.error().systemCode();
+  if (code != EINVAL && code != EILSEQ) return written.error();
+  TRY_VOID(folder.writeFile(mappedIconFileName, {}));
+  return std::string(mappedIconFileName);
+}
+
 struct Located {
   Folder folder;
   std::string name;
@@ -134,14 +146,14 @@ Result<void> setFolderIcon(const IconFamily& family, Folder& folder, const IconS
   }
 
   // No resource of the old icon file is kept. Other spellings would be second icon files.
+  const std::string name = TRY(makeIconFile(folder));
   for (const std::string& spelling : iconFileNames)
-    if (spelling != iconFileName) TRY_VOID(services.forks.removeFile(folder, spelling));
-  TRY_VOID(folder.writeFile(iconFileName, {}));
+    if (spelling != name) TRY_VOID(services.forks.removeFile(folder, spelling));
   ForkedFile content;
   content.info.setTypeAndCreator("icon", "MACS");
   content.info.setFlags(FinderInfo::isInvisible);
   addIconResources(content.fork, family, withCompatibility);
-  TRY_VOID(services.forks.write(folder, iconFileName, content));
+  TRY_VOID(services.forks.write(folder, name, content));
   TRY(services.forks.changeFolderFlags(folder, FinderInfo::hasCustomIcon, FinderInfo::hasBeenInited));
   if (andAlso) TRY_VOID(andAlso());
   TRY_VOID(services.notices.noteDirectoryModified(folder));

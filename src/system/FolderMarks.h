@@ -19,6 +19,8 @@ struct WantedMarks {
   std::optional<std::string> picture;
   /// A file inside that only Macs know how to hide; none: nothing is hidden.
   std::optional<std::string> hiddenFile;
+  /// All names under which such a file may have been hidden before.
+  std::vector<std::string> formerlyHidden;
 };
 
 /// The marks by which file managers that do not know custom icons are made to show one: the seam to the desktop.

@@ -4,10 +4,12 @@ import base64
 import json
 import os
 import re
+import shutil
+import subprocess
 import unittest
 import urllib.parse
 
-from support import BACKUP, ICON, LABEL, EndToEndTest, read
+from support import BACKUP, ICON, LABEL, PROGRAM, EndToEndTest, read
 
 NAMES = (" ", "a b", "quote'\"`", "back\\slash", "$HOME", "*?[x]", "100%s%n", "#", "-rf", "--help", ".hidden", "...",
          "trailing ", "two\nlines", "carriage\rreturn", "tab\t", "\x1b]0;title\x07", "\x1b[31m", "\x7f", "b" * 255,
@@ -42,6 +44,28 @@ class NamesTest(EndToEndTest):
                 outcome.out.encode("utf-8")  # machine output is valid UTF-8 whatever the name
                 text = json.dumps(json.loads(outcome.out))
                 self.assertTrue(self.lossless(json.loads(outcome.out), folder), text)
+
+    def test_where_a_name_may_hold_no_carriage_return_the_mapped_one_serves(self):
+        if shutil.which("strace") is None:
+            self.skipTest("there is no strace")
+        mapped = "Icon\uf00d"
+        for step in range(1, 12):
+            # As such a file system does: the renaming to that very name fails, and it alone; the record is
+            # the first that is renamed without the newer call.
+            folder = self.folder(f"Refused {step}")
+            done = subprocess.run(["strace", "-f", "-e", "trace=renameat,renameat2", "-e",
+                                   f"inject=renameat2:error=EINVAL:when={step}", "-e",
+                                   "inject=renameat:error=EINVAL:when=2", PROGRAM, "apply", "--label", "x", folder], capture_output=True, env=self.environment(), timeout=120, check=False)
+            if os.path.exists(os.path.join(folder, mapped)):
+                self.assertEqual(done.returncode, 0, done.stderr)
+                self.assertFalse(os.path.exists(os.path.join(folder, ICON)))
+                self.assertTrue(os.path.isfile(os.path.join(folder, "._" + mapped)))
+                self.assertEqual(read(os.path.join(folder, ".hidden")), mapped.encode() + b"\n")
+                self.expect(0, "verify", folder)
+                self.expect(0, "reset", folder)
+                self.assertEqual(sorted(os.listdir(folder)), ["empty", "letter.txt"])
+                return
+        self.fail("no step led to the mapped name")
 
     def lossless(self, value, folder):
         """Whether the path stands somewhere in this value: as text, or percent-escaped, or in base64."""

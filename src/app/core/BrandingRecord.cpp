@@ -8,6 +8,7 @@
 
 #include "foundation/KeptFiles.h"
 #include "iconfamily/CustomIcon.h"
+#include "iconfamily/IconFile.h"
 
 namespace quorvane {
 
@@ -90,6 +91,10 @@ Result<std::uint64_t> sizeOf(const Folder& folder, int depth) {
 }
 
 }  // namespace
+
+WantedMarks noMarks() {
+  return {.picture = {}, .hiddenFile = {}, .formerlyHidden = {iconFileNames.begin(), iconFileNames.end()}};
+}
 
 std::string operationName(BrandingOperation operation) {
   switch (operation) {
@@ -198,7 +203,7 @@ Result<FolderMarks::Notes> BrandingRecord::restore(Folder& folder, const IconSer
     // Whatever names the picture goes before the picture does: a file manager would show a broken one.
     if (services.marks != nullptr) {
       const auto original = TRY(originalMarks(folder));
-      notes = TRY(services.marks->set(folder, {}, original ? &*original : nullptr));
+      notes = TRY(services.marks->set(folder, noMarks(), original ? &*original : nullptr));
     }
     if (values[backupKey].toBool()) {
       TRY_VOID(putBackFile(record, keptBackupName, folder, backupName));

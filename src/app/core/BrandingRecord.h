@@ -22,6 +22,9 @@ struct BrandingState {
   std::optional<BrandingOperation> unfinished;  ///< one that was begun and never ended
 };
 
+/// Nothing of ours: what a folder without a brand should say to file managers.
+WantedMarks noMarks();
+
 /// What stood in a folder before the first apply, kept in the hidden folder ".quorvane" inside it until a reset:
 ///
 ///   original/     the former icon files and Finder info, as the ForkStore keeps them

@@ -101,7 +101,7 @@ Result<FolderBranding::Notes> FolderBranding::repairBranded(Folder& folder, cons
                        std::string(BrandingRecord::folderName));
 
   isBranded = isBranded || state.unfinished == Apply;
-  Notes more = isBranded ? TRY(repairIcon(folder, *family)) : TRY(setMarks(folder, marksFor({})));
+  Notes more = isBranded ? TRY(repairIcon(folder, *family)) : TRY(setMarks(folder, TRY(marksFor(folder, {}))));
   if (!isBranded) TRY_VOID(BrandPicture::removeAll(folder));
   TRY(_services.forks.changeFolderFlags(folder, FinderInfo::hasCustomIcon, FinderInfo::hasBeenInited));
   notes.insert(notes.end(), more.begin(), more.end());
@@ -113,7 +113,7 @@ Result<FolderBranding::Notes> FolderBranding::repairBranded(Folder& folder, cons
 
 Result<FolderBranding::Notes> FolderBranding::repairForeign(Folder& folder) const {
   TRY_VOID(completeIconFile(folder, _services.forks));
-  Notes notes = TRY(setMarks(folder, {}));
+  Notes notes = TRY(setMarks(folder, noMarks()));
   const auto name = TRY(findIconFile(folder));
   const auto family = TRY(readFolderIconResource(folder, _services.forks));
   if (family && family->check().ok()) {

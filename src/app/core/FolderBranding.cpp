@@ -99,8 +99,9 @@ Result<bool> FolderBranding::backupIcon(Folder& folder) const {
   return true;
 }
 
-WantedMarks FolderBranding::marksFor(const std::optional<std::string>& picture) {
-  return {.picture = picture, .hiddenFile = iconFileName};
+Result<WantedMarks> FolderBranding::marksFor(const Folder& folder, const std::optional<std::string>& picture) {
+  std::string name = TRY(findIconFile(folder)).value_or(iconFileName);
+  return WantedMarks{.picture = picture, .hiddenFile = std::move(name), .formerlyHidden = {}};
 }
 
 Result<FolderBranding::Notes> FolderBranding::setMarks(Folder& folder, const WantedMarks& wanted) const {
@@ -125,7 +126,7 @@ Result<bool> FolderBranding::isBrandedWith(const Folder& folder, const IconFamil
                                            const BrandPicture& picture) const {
   if (!TRY(hasIcon(folder, family, _services.forks))) return false;
   if (_services.marks == nullptr) return true;
-  return TRY(picture.isAlone(folder)) && TRY(markFaults(folder, marksFor(picture.path()))).empty();
+  return TRY(picture.isAlone(folder)) && TRY(markFaults(folder, TRY(marksFor(folder, picture.path())))).empty();
 }
 
 Result<FolderBranding::Notes> FolderBranding::writeBrand(Folder& folder, const IconFamily& family,
@@ -134,14 +135,14 @@ Result<FolderBranding::Notes> FolderBranding::writeBrand(Folder& folder, const I
   if (_services.marks != nullptr) TRY_VOID(picture.write(folder));
   Notes notes;
   const auto mark = [&]() -> Result<void> {
-    notes = TRY(setMarks(folder, marksFor(picture.path())));
+    notes = TRY(setMarks(folder, TRY(marksFor(folder, picture.path()))));
     return {};
   };
   const bool isThere = TRY(hasIcon(folder, family, _services.forks));
   if (const auto done = isThere ? mark() : setFolderIcon(family, folder, _services, false, mark); !done) {
     // The former icon is back; what names the new picture goes before the picture does.
     const auto formerPicture = former.size() == 1 ? std::optional(former.front()) : std::nullopt;
-    logFailure(setMarks(folder, marksFor(formerPicture)));
+    if (const auto wanted = marksFor(folder, formerPicture)) logFailure(setMarks(folder, *wanted));
     logFailure(BrandPicture::removeAll(folder, formerPicture));
     return done.error();
   }
@@ -196,9 +197,10 @@ void FolderBranding::noteAgain(const std::filesystem::path& path) const {
 
 Result<FolderBranding::Notes> FolderBranding::putBackup(Folder& folder, const IconFamily& backup) const {
   const auto former = TRY(BrandPicture::allIn(folder));
-  Notes notes = TRY(setMarks(folder, marksFor({})));
+  Notes notes = TRY(setMarks(folder, TRY(marksFor(folder, {}))));
   if (const auto done = setFolderIcon(backup, folder, _services); !done) {
-    if (former.size() == 1) logFailure(setMarks(folder, marksFor(former.front())));
+    if (const auto wanted = marksFor(folder, former.size() == 1 ? std::optional(former.front()) : std::nullopt))
+      logFailure(setMarks(folder, *wanted));
     return done.error();
   }
   logFailure(BrandPicture::removeAll(folder));
@@ -227,10 +229,12 @@ Result<BrandingResult> FolderBranding::reset(const std::filesystem::path& path, 
   Folder folder = TRY(openForWriting(path, mode));
   const bool hasRecord = TRY(BrandingRecord::state(folder)).has_value();
   // What a session remembers of a folder comes back with a new folder under the old path.
-  if (!hasRecord && TRY(markFaults(folder, {})).empty()) return BrandingResult{BrandingOutcome::NothingToRevert, {}};
+  if (!hasRecord && TRY(markFaults(folder, noMarks())).empty())
+    return BrandingResult{BrandingOutcome::NothingToRevert, {}};
   TRY_VOID(folder.checkWritable());
   if (mode == WriteMode::DryRun) return BrandingResult{};
-  Notes notes = hasRecord ? TRY(BrandingRecord::restore(folder, _services, backupName)) : TRY(setMarks(folder, {}));
+  Notes notes =
+      hasRecord ? TRY(BrandingRecord::restore(folder, _services, backupName)) : TRY(setMarks(folder, noMarks()));
   tell(folder);
   return BrandingResult{BrandingOutcome::Changed, std::move(notes)};
 }

@@ -74,6 +74,8 @@ class FolderBranding {
   explicit FolderBranding(const IconServices& services, Later later = {})
       : _services(services), _later(std::move(later)) {}
 
+  [[nodiscard]] const IconServices& services() const { return _services; }
+
   /// The backup icon's path, ".BackupIcon.icns" directly inside the folder.
   static std::filesystem::path _backupPathForFolder(const std::filesystem::path& folder);
   static constexpr const char* backupName = ".BackupIcon.icns";
@@ -117,7 +119,7 @@ class FolderBranding {
   [[nodiscard]] Result<FolderStatus> statusOf(const Folder& folder) const;
 
   /// The marks of a branded folder, or (without a picture) of one whose former icon was put back.
-  static WantedMarks marksFor(const std::optional<std::string>& picture);
+  static Result<WantedMarks> marksFor(const Folder& folder, const std::optional<std::string>& picture);
   Result<Notes> setMarks(Folder& folder, const WantedMarks& wanted) const;
   [[nodiscard]] Result<std::vector<std::string>> markFaults(const Folder& folder, const WantedMarks& wanted) const;
 

@@ -70,15 +70,15 @@ Result<FolderStatus> FolderBranding::statusOf(const Folder& folder) const {
   if (_services.marks == nullptr) return status;
 
   if (!state) {
-    status.markFaults = TRY(markFaults(folder, {}));
+    status.markFaults = TRY(markFaults(folder, noMarks()));
   } else if (!state->isBranded) {
-    status.markFaults = TRY(markFaults(folder, marksFor({})));
+    status.markFaults = TRY(markFaults(folder, TRY(marksFor(folder, {}))));
   } else if (status.hasIconFamily) {
     const auto picture = BrandPicture::of(**family);
     if (!picture) {
       fault(picture.error());
     } else {
-      status.markFaults = TRY(markFaults(folder, marksFor(picture->path())));
+      status.markFaults = TRY(markFaults(folder, TRY(marksFor(folder, picture->path()))));
       if (!TRY(picture->isAlone(folder)))
         status.markFaults.emplace_back("the picture for file managers is missing, damaged or another icon's");
     }

@@ -135,9 +135,12 @@ Result<void> DesktopMarks::_setHiddenFile(Folder& folder, const WantedMarks& wan
     if (hiddenfile::hides(before, *wanted.hiddenFile)) return {};
     return writeText(folder, name, hiddenfile::withName(before, *wanted.hiddenFile), present);
   }
-  if (!present || original == nullptr) return {};
+  if (original == nullptr) return {};
   const Text kept = TRY(readText(*original, name));
-  return giveBack(folder, name, present, hiddenfile::restored(*present, kept, "Icon\r"), original, kept);
+  Text result = present;
+  for (const std::string& hidden : wanted.formerlyHidden)
+    if (result) result = hiddenfile::restored(*result, kept, hidden);
+  return giveBack(folder, name, present, result, original, kept);
 }
 
 Result<void> DesktopMarks::_setMetadata(Folder& folder, const WantedMarks& wanted, const Folder* original) const {

@@ -128,9 +128,8 @@ std::string escaped(std::string_view value) {
 
 std::string withIconLines(std::string_view text, const std::optional<std::string>& entryValue,
                           const std::optional<std::string>& escapedValue) {
-  const auto all = linesOf(text);
-  const std::string end = endOfLines(all);
-  const auto lines = filtered(all, [](const Line& line) { return !line.icon; });
+  const auto lines = filtered(linesOf(text), [](const Line& line) { return !line.icon; });
+  const std::string end = endOfLines(lines);
   std::string out = withLines(lines, entryValue ? "Icon=" + *entryValue + end : "", end);
   if (!escapedValue) return out;
   if (!out.empty() && !out.ends_with('\n')) out += end;
