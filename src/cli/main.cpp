@@ -84,7 +84,12 @@ int main(int argc, char** argv) {
 
   // Never a display, whatever the session has; and no word of Qt's among ours.
   qputenv("QT_QPA_PLATFORM", "offscreen");
-  qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) {});
+  qInstallMessageHandler([](QtMsgType type, const QMessageLogContext&, const QString& words) {
+    if (type != QtFatalMsg) return;
+    // It would end with a crash: no file handles, no memory. Nothing has been begun that would have to be finished.
+    std::fprintf(stderr, "quorvane: cannot start: %s\n", qPrintable(words));
+    ::_exit(exitFailed);
+  });
   std::unique_ptr<QCoreApplication> application;
   if (drawsText(arguments.command)) {
     application = makeGuiApplication(argc, argv);
