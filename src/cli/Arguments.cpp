@@ -29,6 +29,7 @@ struct Parser {
   RawLook raw;
   std::string pixels;
   bool labelFromName = false;
+  bool gitExclude = false;
   bool json = false;
   bool jsonLines = false;
   bool quiet = false;
@@ -101,6 +102,7 @@ Parser::Parser() {
   folders(apply);
   addLook(*apply);
   apply->add_flag("--label-from-name", labelFromName, "The label is each folder's own name");
+  apply->add_flag("--git-exclude", gitExclude, "In a git work tree: put the icon's files on its private exclude list");
   addDryRun(*apply);
   addCommon(*apply);
 
@@ -281,6 +283,7 @@ Result<Arguments> readArguments(const Parser& parser, Command command) {
   arguments.look = TRY(readLook(parser.raw));
   if (!parser.raw.base.empty()) arguments.base = parser.raw.base;
   arguments.labelFromName = parser.labelFromName;
+  arguments.gitExclude = parser.gitExclude;
   if (parser.labelFromName && !arguments.look.label.isNull())
     return Error::invalidInput("--label and --label-from-name exclude each other");
   if (!parser.pixels.empty()) {

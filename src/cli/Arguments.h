@@ -42,7 +42,8 @@ struct Arguments {
   Look look;
   std::optional<std::filesystem::path> base;
   bool labelFromName = false;
-  int pixels = 512;  ///< side of a rendered PNG
+  bool gitExclude = false;  ///< keep git from showing what the icon consists of
+  int pixels = 512;         ///< side of a rendered PNG
   OutputForm form = OutputForm::Words;
   bool isQuiet = false;
   bool isDryRun = false;

@@ -3,6 +3,7 @@
 
 #include "app/core/BrandedFolderSearch.h"
 #include "cli/Commands.h"
+#include "cli/SurroundingNotes.h"
 #include "cli/Terminal.h"
 
 namespace quorvane::cli {
@@ -80,8 +81,10 @@ void runApply(const Arguments& arguments, const FolderBranding& branding, Report
   if (arguments.look.label.isNull() && !arguments.labelFromName && !base)
     return reporter.failed({}, Error::invalidInput("nothing to apply: give a --label, a --base or both"));
 
+  SurroundingNotes surroundings(arguments, branding, reporter);
   for (const auto& folder : arguments.paths) {
     if (pendingSignal() != 0) return;
+    surroundings.beforeApply(folder);
     const auto outcome = applyTo(folder, arguments, base, branding);
     if (!outcome) {
       reporter.failed(folder, outcome.error());
@@ -91,6 +94,7 @@ void runApply(const Arguments& arguments, const FolderBranding& branding, Report
       reporter.done(folder, "applied", printable(folder) + ": branded", notesOf(*outcome));
       sayNotes(*outcome, reporter);
     }
+    if (outcome) surroundings.afterApply(folder);
   }
 }
 

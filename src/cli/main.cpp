@@ -12,6 +12,7 @@
 #include "cli/Commands.h"
 #include "cli/ExitCode.h"
 #include "cli/Terminal.h"
+#include "cli/Thumbnail.h"
 #include "iconfamily/AppleDoubleForkStore.h"
 #include "system/FileManagerNotices.h"
 #include "system/FolderMarks.h"
@@ -75,6 +76,7 @@ std::unique_ptr<QGuiApplication> makeGuiApplication(int& argc, char** argv) {
 }  // namespace
 
 int main(int argc, char** argv) {
+  if (isThumbnailCall(argc, argv)) return writeThumbnail(argv, AppleDoubleForkStore());
   if (isForWindow(argc, argv)) return startWindow(argv);
   const auto parsed = parseArguments(argc, argv);
   if (const auto* finished = std::get_if<Finished>(&parsed)) return codeAfterOutput(finished->exitCode);
@@ -82,7 +84,12 @@ int main(int argc, char** argv) {
 
   // Never a display, whatever the session has; and no word of Qt's among ours.
   qputenv("QT_QPA_PLATFORM", "offscreen");
-  qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) {});
+  qInstallMessageHandler([](QtMsgType type, const QMessageLogContext&, const QString& words) {
+    if (type != QtFatalMsg) return;
+    // It would end with a crash: no file handles, no memory. Nothing has been begun that would have to be finished.
+    std::fprintf(stderr, "quorvane: cannot start: %s\n", qPrintable(words));
+    ::_exit(exitFailed);
+  });
   std::unique_ptr<QCoreApplication> application;
   if (drawsText(arguments.command)) {
     application = makeGuiApplication(argc, argv);

@@ -38,7 +38,8 @@ class FolderMarks {
   [[nodiscard]] virtual Result<void> saveOriginal(const Folder& folder, Folder& into) const = 0;
   /// Makes the marks what is wanted. What is no longer wanted is given back from `original`, the folder that
   /// saveOriginal() filled; without one, only what is recognisably ours is taken out. What the user set in its place
-  /// since stays. Changes nothing that is right already. Notes are sentences for people.
+  /// since stays. Changes nothing that is right already. Notes are sentences for people. Where nothing at all is wanted
+  /// any more, what the system does not let be given back from `original` is a failure in any case.
   virtual Result<Notes> set(Folder& folder, const WantedMarks& wanted, const Folder* original) = 0;
   /// What set() would change, in words; empty when all is as wanted, as far as it can be told here.
   [[nodiscard]] virtual Result<std::vector<std::string>> faults(const Folder& folder,

@@ -82,6 +82,8 @@ Result<Folder> FolderBranding::openForWriting(const std::filesystem::path& path,
   Folder folder = TRY(Folder::open(path, mode == WriteMode::Write ? Folder::Access::Write : Folder::Access::Read));
   TRY_VOID(checkTarget(folder.path()));
   TRY_VOID(checkBrandFiles(folder, brandFileNames(_services.forks, backupName)));
+  // Opening sweeps, in the record too, whatever is found to be done.
+  if (mode == WriteMode::Write) static_cast<void>(folder.openChild(BrandingRecord::folderName, Folder::Access::Write));
   return folder;
 }
 

@@ -74,6 +74,8 @@ class FolderBranding {
   explicit FolderBranding(const IconServices& services, Later later = {})
       : _services(services), _later(std::move(later)) {}
 
+  [[nodiscard]] const IconServices& services() const { return _services; }
+
   /// The backup icon's path, ".BackupIcon.icns" directly inside the folder.
   static std::filesystem::path _backupPathForFolder(const std::filesystem::path& folder);
   static constexpr const char* backupName = ".BackupIcon.icns";

@@ -25,6 +25,15 @@ inline constexpr std::size_t companionEntries = 512;
 /// Longest ".directory" or ".hidden" file that is edited; usual ones have a few lines.
 inline constexpr std::size_t folderSettingsBytes = std::size_t{16} << 20;
 
+/// Longest ".git" file or "commondir" (one path), and list of what git does not look at; git itself reads 4 KiB and any
+/// length.
+inline constexpr std::size_t gitPointerBytes = std::size_t{16} << 10;
+inline constexpr std::size_t gitExcludeBytes = std::size_t{4} << 20;
+/// Longest table of mounts; thousands of them fit.
+inline constexpr std::size_t mountTableBytes = std::size_t{4} << 20;
+/// Entries of a folder that are searched for the marker of a synchronising client.
+inline constexpr std::size_t markerEntries = 10'000;
+
 /// Depth of folders that are removed with what is in them; ours are two deep.
 inline constexpr int removedFolderDepth = 32;
 /// Largest file that is copied to be kept where it cannot be kept by a second link.

@@ -70,9 +70,10 @@ bool isLasting(const Error& error) {
   return std::ranges::find(codes, error.systemCode()) != std::end(codes);
 }
 
-Result<void> attempt(const Result<void>& done, const std::string& file, FolderMarks::Notes& notes) {
+Result<void> attempt(const Result<void>& done, const std::string& file, bool isLastWayBack, FolderMarks::Notes& notes) {
   if (done.ok()) return {};
-  if (!isLasting(done.error())) return done.error();
+  const bool isLost = isLastWayBack && done.error().kind() == ErrorKind::System;
+  if (isLost || !isLasting(done.error())) return done.error();
   notes.push_back("'" + file + "' is left as it is: " + done.error().why());
   return {};
 }
@@ -155,8 +156,10 @@ Result<FolderMarks::Notes> DesktopMarks::set(Folder& folder, const WantedMarks& 
   Notes notes;
   const auto metadata = _setMetadata(folder, wanted, original);
   if (!metadata.ok()) notes.push_back(wanted.picture ? noSession : noSessionToClear);
-  TRY_VOID(attempt(_setDirectoryFile(folder, wanted, original), directoryfile::fileName, notes));
-  TRY_VOID(attempt(_setHiddenFile(folder, wanted, original), hiddenfile::fileName, notes));
+  // What is kept goes when all has been given back: then a note would be all that is left of it.
+  const bool isLastWayBack = original != nullptr && !wanted.picture && !wanted.hiddenFile;
+  TRY_VOID(attempt(_setDirectoryFile(folder, wanted, original), directoryfile::fileName, isLastWayBack, notes));
+  TRY_VOID(attempt(_setHiddenFile(folder, wanted, original), hiddenfile::fileName, isLastWayBack, notes));
   return notes;
 }
 
