@@ -345,6 +345,11 @@ const std::vector<std::string>& commandWords() {
   return words;
 }
 
+void visitParser(const std::function<void(const CLI::App&)>& visit) {
+  const Parser parser;
+  visit(parser.app);
+}
+
 std::variant<Arguments, Finished> parseArguments(int argc, const char* const* argv) {
   Parser parser;
   const Words words = splitWords(argc, argv);

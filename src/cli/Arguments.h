@@ -2,6 +2,7 @@
 #pragma once
 
 #include <filesystem>
+#include <functional>
 #include <optional>
 #include <string>
 #include <variant>
@@ -9,6 +10,10 @@
 
 #include "app/core/Look.h"
 #include "cli/Reporter.h"
+
+namespace CLI {
+class App;
+}
 
 namespace quorvane::cli {
 
@@ -52,6 +57,9 @@ struct Finished {
 
 /// Reads the command line (argv[0] included). Help and version go to standard output, complaints to standard error.
 std::variant<Arguments, Finished> parseArguments(int argc, const char* const* argv);
+
+/// Shows the parser with all its commands and options, as it stands before it has read anything.
+void visitParser(const std::function<void(const CLI::App&)>& visit);
 
 /// The commands' first words, for telling a folder from a mistyped command.
 const std::vector<std::string>& commandWords();

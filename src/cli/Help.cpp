@@ -29,8 +29,7 @@ HelpFormatter::HelpFormatter() {
 std::string HelpFormatter::make_help(const CLI::App* app, std::string name, CLI::AppFormatMode mode) const {
   if (mode == CLI::AppFormatMode::Sub) return make_expanded(app);
   std::string help = useLine(*app) + "\n";
-  const auto lines = linesOf(*app);
-  for (std::size_t i = 1; i < lines.size(); ++i) help += "  " + lines[i] + "\n";
+  for (const std::string& example : examplesOf(*app)) help += "  " + example + "\n";
   help += "\n" + app->get_description() + "\n";
   help += make_positionals(app);
   help += make_groups(app, mode);
@@ -51,9 +50,19 @@ void describeUse(CLI::App& app, const std::string& use, const std::vector<std::s
   app.formatter(std::make_shared<HelpFormatter>());
 }
 
-std::string useLine(const CLI::App& app) {
+std::string useText(const CLI::App& app) {
   const auto lines = linesOf(app);
-  return "Use: quorvane " + (lines.empty() ? app.get_name() : lines.front());
+  return lines.empty() ? app.get_name() : lines.front();
+}
+
+std::vector<std::string> examplesOf(const CLI::App& app) {
+  auto lines = linesOf(app);
+  if (!lines.empty()) lines.erase(lines.begin());
+  return lines;
+}
+
+std::string useLine(const CLI::App& app) {
+  return "Use: quorvane " + useText(app);
 }
 
 }  // namespace quorvane::cli

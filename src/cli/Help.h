@@ -20,6 +20,10 @@ class HelpFormatter : public CLI::Formatter {
 /// Sets the use line (without the program's name) and the examples that the help of `app` begins with.
 void describeUse(CLI::App& app, const std::string& use, const std::vector<std::string>& examples);
 
+/// What describeUse set.
+std::string useText(const CLI::App& app);
+std::vector<std::string> examplesOf(const CLI::App& app);
+
 /// The first line of a command's help: "Use: quorvane ...".
 std::string useLine(const CLI::App& app);
 

@@ -62,6 +62,17 @@ bool drawsText(Command command) {
   return command == Command::Apply || command == Command::Render;
 }
 
+/// Beside what it is told to use, Qt looks for a display in the session's runtime folder, and makes one in the
+/// temporary folder where there is none. This keeps that from being made.
+std::unique_ptr<QGuiApplication> makeGuiApplication(int& argc, char** argv) {
+  const bool hasFolder = qEnvironmentVariableIsSet("TMPDIR");
+  const QByteArray folder = qgetenv("TMPDIR");
+  qputenv("TMPDIR", "/dev/null");
+  auto application = std::make_unique<QGuiApplication>(argc, argv);
+  hasFolder ? qputenv("TMPDIR", folder) : qunsetenv("TMPDIR");
+  return application;
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -81,7 +92,7 @@ int main(int argc, char** argv) {
   });
   std::unique_ptr<QCoreApplication> application;
   if (drawsText(arguments.command)) {
-    application = std::make_unique<QGuiApplication>(argc, argv);
+    application = makeGuiApplication(argc, argv);
   } else {
     application = std::make_unique<QCoreApplication>(argc, argv);
   }

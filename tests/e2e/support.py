@@ -18,11 +18,15 @@ import unittest
 sys.dont_write_bytecode = True
 
 PROGRAM = os.environ.get("QUORVANE", "")
+BUILD = os.environ.get("QUORVANE_BUILD", "")
+CMAKE = os.environ.get("QUORVANE_CMAKE", "cmake")
 ROOT = os.path.dirname(os.path.dirname(os.path.dirname(os.path.abspath(__file__))))
 SHARED = os.environ.get("QUORVANE_SHARED", os.path.join(os.path.dirname(ROOT), "shared"))
 # A run that takes longer counts as hanging. Sanitizers are given more.
 PATIENCE = float(os.environ.get("QUORVANE_PATIENCE", "10"))
 NOBODY = 65534
+with open(os.path.join(ROOT, "cmake/Identity.cmake"), encoding="utf-8") as _identity:
+    APP_ID = re.search(r'set\(QUORVANE_APP_ID "(.+)"\)', _identity.read())[1]
 
 ICON = "Icon\r"
 ICON_COMPANION = "._Icon\r"
