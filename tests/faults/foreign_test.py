@@ -28,11 +28,12 @@ COMPANIONS = {
 DIRECTORIES = {
     "empty": b"", "binary": bytes(range(256)) * 10, "mark": b"\xef\xbb\xbf[Desktop Entry]\nName=x\n", "CR": b"a\rb\r",
     "two equal groups": b"[Desktop Entry]\nIcon=a\n[Other]\nIcon=b\n[Desktop Entry]\nIcon=c\nIcon[de]=d",
-    "comments": b"# c\n" * 200_000 + b"[Desktop Entry]\r\nIcon = x \r\n", "long line": b"[Desktop Entry]\nIcon=" + b"x" * 500_000,
+    "comments": b"# c\n" * 200_000 + b"[Desktop Entry]\r\nIcon = x \r\n",
+    "long line": b"[Desktop Entry]\nIcon=" + b"x" * 500_000,
     "not text": b"[Desktop Entry]\nName=\xff\xfe\nIcon=\xff", "huge": b"#" * (11 << 20),
 }
-HIDDENS = {"empty": b"", "no end": b"Icon", "ours already": b"a\nIcon\r\nb", "binary": bytes(range(256)), "CRLF": b"a\r\nb\r\n",
-           "huge": b"x\n" * (6 << 20)}
+HIDDENS = {"empty": b"", "no end": b"Icon", "ours already": b"a\nIcon\r\nb", "binary": bytes(range(256)),
+           "CRLF": b"a\r\nb\r\n", "huge": b"x\n" * (6 << 20)}
 
 
 class ForeignTest(HarshTest):

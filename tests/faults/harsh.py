@@ -1,6 +1,6 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
-"""What the tests of harsh places share: a folder in a place, commands run on it under hard conditions with every promise
-checked after each, and the way back once the conditions are good again."""
+"""What the tests of harsh places share: a folder in a place, commands run on it under hard conditions with every
+promise checked after each, and the way back once the conditions are good again."""
 import ctypes
 import json
 import os

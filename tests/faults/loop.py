@@ -139,7 +139,8 @@ class Loop:
 
             counts, broken = {kind: [0, 0] for kind in kinds}, []
             with ThreadPoolExecutor(self.jobs) as pool:
-                for point, faults in pool.map(one, enumerate(thin(points(bench.calls, kinds, every_error), stride * scenario.every))):
+                chosen = thin(points(bench.calls, kinds, every_error), stride * scenario.every)
+                for point, faults in pool.map(one, enumerate(chosen)):
                     counts[point.kind][0] += 1
                     counts[point.kind][1] += bool(faults)
                     broken += [f"{scenario.name}: {point}: {fault}" for fault in faults]

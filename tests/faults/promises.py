@@ -196,7 +196,8 @@ def check_whole(path, after, old, new, faults):
 def check_sound(path, after):
     """Whatever it shows, it shows it everywhere."""
     icon, flag, told = after.shown[path]
-    pictures = {what for mark, what in told.items() if mark.startswith(".directory") and str(what).startswith("picture")}
+    pictures = {what for mark, what in told.items()
+                if mark.startswith(".directory") and str(what).startswith("picture")}
     broken = []
     if isinstance(icon, str) or (icon is not None) != flag:
         broken.append(f"not sound: {words(after.shown[path])}")

@@ -8,7 +8,8 @@ import unittest
 import promises
 from promises import SERVER_RECORD, Picture
 from scenarios import foreign, plain, server_record
-from support import CUSTOM_ICON, FINDER_INFO, FOREIGN, ICON, ICON_COMPANION, EndToEndTest, plant_custom_icon, read, write
+from support import (CUSTOM_ICON, FINDER_INFO, FOREIGN, ICON, ICON_COMPANION, EndToEndTest, plant_custom_icon, read,
+                     write)
 
 PATH = os.path.join("above", "Invoices")
 

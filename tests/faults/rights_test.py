@@ -1,6 +1,6 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
-"""Folders that may not be written, or not by everybody: the reason is said and nothing changes. Where it may be done, what
-is made belongs to the folder's owner, and links that somebody planted are not followed, by root least of all."""
+"""Folders that may not be written, or not by everybody: the reason is said and nothing changes. Where it may be done,
+what is made belongs to the folder's owner, and links that somebody planted are not followed, by root least of all."""
 import os
 import stat
 import subprocess

@@ -28,17 +28,18 @@ def foreign(path):
     os.setxattr(path, "user.note", b"and me")
     os.setxattr(path, SERVER_RECORD, server_record(0x0500))
     os.setxattr(os.path.join(path, ICON), SERVER_RECORD, server_record(0x4000))
-    write(os.path.join(path, ".directory"), b"# mine\r\n[Desktop Entry]\r\nComment=x\r\nIcon=folder-red\r\n", mode=0o640,
-          seconds=1_300_000_000)
+    write(os.path.join(path, ".directory"), b"# mine\r\n[Desktop Entry]\r\nComment=x\r\nIcon=folder-red\r\n",
+          mode=0o640, seconds=1_300_000_000)
     write(os.path.join(path, ".hidden"), b"secret\nno newline at the end", mode=0o600, seconds=1_300_000_001)
 
 
 def server_record(flags):
     """What Samba keeps of a file or folder: 402 bytes."""
-    rows = ((4, 0x9A, 0), (8, 0x162, 16), (9, 0x7A, 32), (14, 0x172, 4), (0x80444556, 0x176, 8), (0x80494E4F, 0x17E, 8),
-            (0x8053594E, 0x186, 8), (0x8053567E, 0x18E, 4))
-    header = struct.pack(">II16xH", 0x00051607, 0x00020000, len(rows)) + b"".join(struct.pack(">III", *row) for row in rows)
-    return (header + bytes(8) + struct.pack(">H", flags)).ljust(402, b"\5")
+    rows = ((4, 0x9A, 0), (8, 0x162, 16), (9, 0x7A, 32), (14, 0x172, 4), (0x80444556, 0x176, 8),
+            (0x80494E4F, 0x17E, 8), (0x8053594E, 0x186, 8), (0x8053567E, 0x18E, 4))
+    header = struct.pack(">II16xH", 0x00051607, 0x00020000, len(rows))
+    table = b"".join(struct.pack(">III", *row) for row in rows)
+    return (header + table + bytes(8) + struct.pack(">H", flags)).ljust(402, b"\5")
 
 
 def prepared(kind, *commands, count=1):

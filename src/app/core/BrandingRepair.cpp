@@ -24,18 +24,20 @@ Result<void> completeIconFile(Folder& folder, const ForkStore& forks) {
   return {};
 }
 
-/// The icon's family where it can be read and is one.
-std::optional<IconFamily> soundFamily(const Folder& folder, const ForkStore& forks) {
+/// The icon's family where it is one. Fails when the system does not let it be read: it may be sound all the same.
+Result<std::optional<IconFamily>> soundFamily(const Folder& folder, const ForkStore& forks) {
   auto family = readFolderIconResource(folder, forks);
-  if (!family.ok() || !*family || !(*family)->check().ok()) return std::nullopt;
-  return **std::move(family);
+  if (!family.ok() && family.error().kind() == ErrorKind::System) return family.error();
+  if (!family.ok() || !*family || !(*family)->check().ok()) return std::optional<IconFamily>();
+  return family;
 }
 
-/// The family made anew from the picture beside the record.
+/// The family made anew from the picture beside the record; fails as soundFamily() does.
 Result<std::optional<IconFamily>> familyFromPicture(const Folder& folder) {
   const auto pictures = TRY(BrandPicture::allIn(folder));
   if (pictures.size() != 1) return std::optional<IconFamily>();
   const auto bytes = BrandPicture::read(folder, pictures.front());
+  if (!bytes.ok() && bytes.error().kind() == ErrorKind::System) return bytes.error();
   auto bitmap = bytes.ok() ? decodePng(*bytes, limits::elementPixels) : bytes.error();
   if (!bitmap.ok()) return std::optional<IconFamily>();
   auto family = IconFamily::iconFamilyWithThumbnailsOfImage(Image::imageWithBitmapImageRep(*bitmap));
@@ -85,7 +87,7 @@ Result<FolderBranding::Notes> FolderBranding::repairBranded(Folder& folder, cons
 
   const bool isSetAside = TRY(setDamagedAside(folder, _services.forks));
   TRY_VOID(completeIconFile(folder, _services.forks));
-  auto family = soundFamily(folder, _services.forks);
+  auto family = TRY(soundFamily(folder, _services.forks));
   if (!family && (isBranded || state.unfinished == Apply)) {
     family = TRY(familyFromPicture(folder));
     if (family) notes.emplace_back("the icon was missing or damaged; it is made anew from its picture");
