@@ -2,6 +2,7 @@
 // GIO before Qt: its headers use names that Qt's macros take.
 #include <gio/gio.h>
 
+#include "system/BoundedMetadata.h"
 #include "system/FolderMarks.h"
 
 namespace quorvane {
@@ -9,6 +10,9 @@ namespace quorvane {
 namespace {
 
 constexpr const char* iconAttribute = "metadata::custom-icon";
+// Answers come within milliseconds; the daemons' first start takes longer. The bus itself would be waited for without
+// end, and each call for 25 seconds.
+constexpr std::chrono::seconds patience{5};
 
 struct Unreference {
   void operator()(gpointer object) const { g_object_unref(object); }
@@ -45,6 +49,9 @@ class GioMetadata : public FolderMetadata {
   }
 
   Result<void> setCustomIcon(const std::filesystem::path& folder, const std::optional<std::string>& picture) override {
+    // The daemon's messages hold text only.
+    if (picture && g_utf8_validate(picture->data(), static_cast<gssize>(picture->size()), nullptr) == FALSE)
+      return Error::invalidInput("the icon's name is no text").at(folder);
     const Owned<GFile> file(g_file_new_for_path(folder.c_str()));
     GError* error = nullptr;
     const gboolean isSet = picture ? g_file_set_attribute_string(file.get(), iconAttribute, picture->c_str(),
@@ -60,7 +67,7 @@ class GioMetadata : public FolderMetadata {
 }  // namespace
 
 std::unique_ptr<FolderMetadata> makeDesktopMetadata() {
-  return std::make_unique<GioMetadata>();
+  return makeBoundedMetadata(std::make_shared<GioMetadata>(), patience);
 }
 
 }  // namespace quorvane
