@@ -39,6 +39,13 @@ Result<bool> hasHolder(const Folder& folder) {
   return info && S_ISDIR(info->st_mode);
 }
 
+/// Whatever stands under a picture's name in our own folder: a folder or a link never is a picture.
+Result<void> clear(Folder& holder, const std::string& name) {
+  const auto info = TRY(holder.statusOf(name));
+  if (info && S_ISDIR(info->st_mode)) return holder.removeChild(name);
+  return holder.removeFile(name, true);
+}
+
 }  // namespace
 
 Result<BrandPicture> BrandPicture::of(const IconFamily& family) {
@@ -50,11 +57,15 @@ Result<BrandPicture> BrandPicture::of(const IconFamily& family) {
 Result<bool> BrandPicture::isAlone(const Folder& folder) const {
   const auto all = TRY(allIn(folder));
   if (all.size() != 1 || all.front() != _path) return false;
-  return TRY(read(folder, _path)) == _bytes;
+  // Whatever keeps it from being read, file managers cannot read it either.
+  const auto bytes = read(folder, _path);
+  return bytes.ok() && *bytes == _bytes;
 }
 
 Result<void> BrandPicture::write(Folder& folder) const {
   Folder holder = TRY(folder.openChild(holderName, Folder::Access::Write));
+  const auto present = holder.readFile(nameIn(_path), limits::iconFileBytes);
+  if (!present.ok()) TRY_VOID(clear(holder, nameIn(_path)));
   TRY(holder.writeFile(nameIn(_path), _bytes));
   return {};
 }
@@ -62,8 +73,15 @@ Result<void> BrandPicture::write(Folder& folder) const {
 Result<std::vector<std::string>> BrandPicture::allIn(const Folder& folder) {
   std::vector<std::string> found;
   if (!TRY(hasHolder(folder))) return found;
-  for (const std::string& name : TRY(TRY(folder.openChild(holderName, Folder::Access::Read)).names()))
-    if (std::string path = holderName + "/" + name; isMarkPicture(path)) found.push_back(std::move(path));
+  const Folder holder = TRY(folder.openChild(holderName, Folder::Access::Read));
+  for (const std::string& name : TRY(holder.names())) {
+    std::string path = holderName + "/" + name;
+    if (!isMarkPicture(path)) continue;
+    // Pipes and devices no one takes for pictures, and we remove none.
+    const auto info = TRY(holder.statusOf(name));
+    if (info && (S_ISREG(info->st_mode) || S_ISLNK(info->st_mode) || S_ISDIR(info->st_mode)))
+      found.push_back(std::move(path));
+  }
   return found;
 }
 
@@ -72,7 +90,7 @@ Result<void> BrandPicture::removeAll(Folder& folder, const std::optional<std::st
   if (std::ranges::all_of(all, [&](const std::string& path) { return path == except; })) return {};
   Folder holder = TRY(folder.openChild(holderName, Folder::Access::Write));
   for (const std::string& path : all)
-    if (path != except) TRY_VOID(holder.removeFile(nameIn(path)));
+    if (path != except) TRY_VOID(clear(holder, nameIn(path)));
   return {};
 }
 
