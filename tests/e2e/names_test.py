@@ -115,6 +115,8 @@ class NamesTest(EndToEndTest):
                 self.assertGreater(len(read(BACKUP)), 8)
                 self.expect(0, "reset", path + "/" + last)
                 self.assertEqual(os.listdir("."), [])
+        # A search says so where it cannot go on.
+        self.assert_says(self.expect(1, "list", self.work), "too long")
 
 
 if __name__ == "__main__":

@@ -47,7 +47,8 @@ Seen lookInto(const fs::path& folder, std::error_code& error) {
     seen.hasBrand = seen.hasBrand || isOfBrand(name);
     std::error_code ignored;
     // What lies in our own folder belongs to the brand of this one.
-    if (name != BrandingRecord::folderName && fs::is_directory(entry->symlink_status(ignored)))
+    // What the listing said of the kind will do: a look at each entry costs more, and fails where paths get too long.
+    if (name != BrandingRecord::folderName && !entry->is_symlink(ignored) && entry->is_directory(ignored))
       seen.folders.push_back(entry->path());
   }
   return seen;
@@ -65,7 +66,12 @@ void BrandedFolderSearch::run(const fs::path& tree) const {
     waiting.pop_back();
     struct stat info {};
     const bool isRoot = folder == tree;
-    if (!isRoot && (::lstat(folder.c_str(), &info) != 0 || !S_ISDIR(info.st_mode))) continue;  // gone meanwhile
+    if (!isRoot && ::lstat(folder.c_str(), &info) != 0) {
+      // Gone meanwhile; or its path is too long for the system.
+      if (errno != ENOENT && errno != ENOTDIR) unreadable(folder, Error::system(errno, "cannot search").at(folder));
+      continue;
+    }
+    if (!isRoot && !S_ISDIR(info.st_mode)) continue;
     if (!isRoot && !crossesFileSystems && info.st_dev != root.st_dev) continue;
     std::error_code error;
     Seen seen = lookInto(folder, error);

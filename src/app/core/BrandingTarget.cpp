@@ -3,7 +3,9 @@
 
 #include <QDir>
 #include <QFile>
+#include <algorithm>
 
+#include "app/core/BrandingRecord.h"
 #include "iconfamily/IconFile.h"
 
 namespace quorvane {
@@ -15,6 +17,9 @@ Result<void> checkTarget(const std::filesystem::path& resolvedPath) {
   for (const std::string system : {"/proc", "/sys", "/dev"})
     if ((path == system || path.starts_with(system + "/")) && !path.starts_with("/dev/shm/"))
       return refused("the system's own folders are not branded");
+  // A search by name for all folders finds ours too.
+  if (std::ranges::any_of(resolvedPath, [](const auto& part) { return part == BrandingRecord::folderName; }))
+    return refused("what is kept of an icon's folder is not branded");
   const std::filesystem::path home(QFile::encodeName(QDir::homePath()).toStdString());
   if (path == "/home" || (home.has_relative_path() && resolvedPath == home.parent_path()))
     return refused("the folder of all homes is not branded");
