@@ -37,10 +37,11 @@ class FolderMarks {
   /// Keeps in the empty folder `into` what is needed to give the user's own marks back to the letter.
   [[nodiscard]] virtual Result<void> saveOriginal(const Folder& folder, Folder& into) const = 0;
   /// Makes the marks what is wanted. What is no longer wanted is given back from `original`, the folder that
-  /// saveOriginal() filled; without one, only what is recognisably ours is taken out. What the user set in its place
+  /// saveOriginal() filled; without one, only what is recognisably ours is taken out. What could not be seen then, and
+  /// would be replaced now, is kept there first. What the user set in its place
   /// since stays. Changes nothing that is right already. Notes are sentences for people. Where nothing at all is wanted
   /// any more, what the system does not let be given back from `original` is a failure in any case.
-  virtual Result<Notes> set(Folder& folder, const WantedMarks& wanted, const Folder* original) = 0;
+  virtual Result<Notes> set(Folder& folder, const WantedMarks& wanted, Folder* original) = 0;
   /// What set() would change, in words; empty when all is as wanted, as far as it can be told here.
   [[nodiscard]] virtual Result<std::vector<std::string>> faults(const Folder& folder,
                                                                 const WantedMarks& wanted) const = 0;
@@ -66,7 +67,7 @@ class FolderMetadata {
                                      const std::optional<std::string>& picture) = 0;
 };
 
-/// The session's own; nothing is connected before the first use.
+/// The session's own; nothing is connected before the first use, and no answer is waited for without end.
 std::unique_ptr<FolderMetadata> makeDesktopMetadata();
 /// Marks by ".directory", ".hidden" and `metadata`, which must outlive them.
 std::unique_ptr<FolderMarks> makeDesktopMarks(FolderMetadata& metadata);

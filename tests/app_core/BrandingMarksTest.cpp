@@ -2,8 +2,10 @@
 // What makes a brand visible to file managers that read no icon families, and how a brand is mended.
 #include <sys/stat.h>
 #include <sys/xattr.h>
+#include <unistd.h>
 
 #include "app/core/FolderBranding.h"
+#include "foundation/base/Limits.h"
 #include "support/BrandingFixture.h"
 
 namespace quorvane {
@@ -134,6 +136,20 @@ TEST_P(BrandingMarksTest, WhateverIsMissingIsNamedAndMendedByRepairAndByApply) {
        }},
       {"no picture", [&] { fs::remove(folder / picture); }},
       {"damaged picture", [&] { write(picture, "nonsense"); }},
+      {"link instead of the picture",
+       [&] {
+         fs::remove(folder / picture);
+         fs::create_symlink(folder / ".BackupIcon.icns", folder / picture);
+       }},
+      {"folder instead of the picture",
+       [&] {
+         fs::remove(folder / picture);
+         fs::create_directories(folder / picture / "inside");
+       }},
+      {"picture too large", [&] { fs::resize_file(folder / picture, limits::iconFileBytes + 1); }},
+      {"second picture, a link",
+       [&] { fs::create_symlink(folder / ".BackupIcon.icns", folder / ".quorvane/icon-0.png"); }},
+      {"second picture, a folder", [&] { fs::create_directory(folder / ".quorvane/icon-0.png"); }},
       {"second picture", [&] { write(".quorvane/icon-0.png", "nonsense"); }},
       {"no .directory", [&] { fs::remove(folder / ".directory"); }},
       {"another icon in .directory", [&] { write(".directory", "[Desktop Entry]\nIcon=./.quorvane/icon-9.png\n"); }},
@@ -192,6 +208,99 @@ TEST_P(BrandingMarksTest, AnInterruptedWayBackIsFinishedAndALostBrandGivenUp) {
   EXPECT_FALSE(fs::exists(folder / ".BackupIcon.icns"));
   EXPECT_TRUE(pictures().empty());
   EXPECT_TRUE(branding.status(folder)->isSound());
+}
+
+TEST_P(BrandingMarksTest, ASettingFirstSeenLaterComesBackToItsOwnUser) {
+  metadata.icons[folder] = "file:///mine.png";
+  metadata.isReachable = false;
+  apply(Qt::red);
+  metadata.isReachable = true;
+  ASSERT_EQ(*branding.repair(folder), BrandingOutcome::Changed);
+  ASSERT_EQ(*branding.reset(folder), BrandingOutcome::Changed);
+  EXPECT_EQ(metadata.icons.at(folder), "file:///mine.png");
+
+  apply(Qt::red);
+  const std::string own = "custom-icon-" + std::to_string(::geteuid());
+  fs::rename(folder / ".quorvane/marks" / own, folder / ".quorvane/marks/custom-icon-1234567");
+  ASSERT_EQ(*branding.reset(folder), BrandingOutcome::Changed);
+  EXPECT_FALSE(metadata.icons.contains(folder));
+}
+
+TEST_P(BrandingMarksTest, AnInterruptionIsNotForgottenByARunThatFails) {
+  const std::string plain = test::describeTree(folder);
+  for (const std::string operation : {"apply", "reset"}) {
+    SCOPED_TRACE(operation);
+    apply(Qt::red);
+    markUnfinished(operation, false);
+    fs::rename(folder / ".quorvane/marks", folder / ".quorvane/away");
+    write(".quorvane/marks", "no folder");
+    EXPECT_FALSE(branding.writeIconWithImage(test::plainImage(Qt::blue), folder).ok());
+    EXPECT_FALSE(branding.revert(folder).ok());
+    fs::remove(folder / ".quorvane/marks");
+    fs::rename(folder / ".quorvane/away", folder / ".quorvane/marks");
+    const auto status = branding.status(folder);
+    ASSERT_TRUE(status->unfinished.has_value());
+    EXPECT_EQ(operationName(*status->unfinished), operation);
+    ASSERT_EQ(*branding.reset(folder), BrandingOutcome::Changed);
+    EXPECT_EQ(test::describeTree(folder), plain);
+  }
+}
+
+TEST_P(BrandingMarksTest, AWayBackCutOffAfterItsBackupWentIsFinishedByTheNextRevert) {
+  for (const std::string operation : {"revert", "reset", "apply"}) {
+    SCOPED_TRACE(operation);
+    apply(Qt::red);
+    markUnfinished(operation, false);
+    fs::remove(folder / ".BackupIcon.icns");
+    ASSERT_EQ(*branding.revert(folder), BrandingOutcome::Changed);
+    EXPECT_TRUE(branding.status(folder)->isSound());
+    EXPECT_TRUE(pictures().empty());
+    EXPECT_EQ(*branding.revert(folder), BrandingOutcome::NothingToRevert);
+  }
+}
+
+TEST_P(BrandingMarksTest, ARecordThatCannotBeGivenBackIsNamedAndNothingBegun) {
+  apply(Qt::red);
+  const fs::path kept = folder / ".quorvane";
+  const std::vector<std::pair<fs::path, std::function<void(const fs::path&)>>> rows{
+      {kept / "marks", [](const fs::path& path) { test::writeFile(path, std::string("no folder")); }},
+      {kept / "marks/.directory", [&](const fs::path& path) { fs::create_symlink(tree / "victim", path); }},
+      {kept / "backup.icns", [](const fs::path& path) { fs::create_directory(path); }},
+  };
+  for (const auto& [path, plant] : rows) {
+    SCOPED_TRACE(path);
+    const std::string record = text(".quorvane/record.json");
+    if (path.filename() == "backup.icns") {
+      std::string changed = record;
+      const std::string had = "\"had_backup\": false";
+      changed.replace(changed.find(had), had.size(), "\"had_backup\": true");
+      write(".quorvane/record.json", changed);
+    }
+    const fs::path away = tree / "away";
+    if (fs::exists(path)) fs::rename(path, away);
+    plant(path);
+    const std::string before = test::describeTree(tree.path());
+    EXPECT_FALSE(branding.status(folder)->isSound());
+    EXPECT_FALSE(branding.reset(folder, WriteMode::DryRun).ok());
+    EXPECT_FALSE(branding.reset(folder).ok());
+    EXPECT_EQ(test::describeTree(tree.path()), before);
+    fs::remove(path);
+    if (fs::exists(away)) fs::rename(away, path);
+    write(".quorvane/record.json", record);
+  }
+  EXPECT_FALSE(branding.writeIconWithImage(test::plainImage(Qt::red), kept).ok());
+}
+
+TEST_P(BrandingMarksTest, ARepairThatWouldFailFailsInADryRunToo) {
+  apply(Qt::red);
+  fs::remove(folder / ".hidden");
+  write(".BackupIcon.icns", "nonsense");
+  for (const auto mode : {WriteMode::DryRun, WriteMode::Write}) {
+    const auto repaired = branding.repair(folder, mode);
+    ASSERT_FALSE(repaired.ok());
+    EXPECT_NE(repaired.error().message().find(".BackupIcon.icns"), std::string::npos);
+    EXPECT_EQ(fs::exists(folder / ".hidden"), mode == WriteMode::Write);
+  }
 }
 
 TEST_P(BrandingMarksTest, WithoutABackupTheFormerIconComesFromTheRecord) {

@@ -53,6 +53,23 @@ class HostileFolderTest(EndToEndTest):
                     self.assert_says(outcome, path, "ermission denied")
         self.assertEqual(tree(self.work), before)
 
+    def test_a_record_of_somebody_elses_fails_the_dry_run_as_it_does_the_run(self):
+        nobody = self.need_nobody()
+        shared = self.folder("shared")
+        self.expect(0, "apply", *LABEL, shared)
+        os.chmod(shared, 0o777)
+        os.chmod(os.path.join(shared, ".quorvane"), 0o555 if nobody is None else 0o755)
+        before = tree(self.work)
+        for command in (("apply", "--label", "other"), ("revert",), ("reset",)):
+            for mode in ((), ("--dry-run",)):
+                with self.subTest(command=command, mode=mode):
+                    outcome = self.expect(1, *command, *mode, shared, user=nobody)
+                    self.assert_says(outcome, ".quorvane", "ermission denied")
+        self.assertEqual(tree(self.work), before)
+        # Nor is an icon put on what is kept of one.
+        self.expect(1, "apply", *LABEL, os.path.join(shared, ".quorvane"))
+        self.assertEqual(tree(self.work), before)
+
     def plant(self, kind, place, victims):
         """Puts something in the way at `place`, aimed at the folder `victims`."""
         if kind == "link":

@@ -35,7 +35,7 @@ def declared():
         row = re.match(r"\| `([^`]+)`(?: \+ (CR|U\+F00D))?( and all below)? \| ([^|]+) \|", line)
         if not row or place is None:
             continue
-        name = re.sub(r"HASH|XXXXXXXX|SIZE", "*", row[1]).replace("._NAME", "._Invoices")
+        name = re.sub(r"HASH|XXXXXXXX|SIZE|UID", "*", row[1]).replace("._NAME", "._Invoices")
         name = name.replace("$XDG_CACHE_HOME", "cache") + {"CR": "\r", "U+F00D": "\uf00d", None: ""}[row[2]]
         rows.append((place + name, row[4].split("; "), bool(row[3])))
     return rows

@@ -130,9 +130,19 @@ Result<std::uint64_t> BrandingRecord::size(const Folder& folder) {
 Result<void> BrandingRecord::check(const Folder& folder, const ForkStore& forks) {
   const Folder record = TRY(folder.openChild(folderName, Folder::Access::Read));
   const QJsonObject values = TRY(readRecord(record));
-  if (values[backupKey].toBool() && !TRY(record.statusOf(keptBackupName)))
+  const auto backup = TRY(record.statusOf(keptBackupName));
+  if (values[backupKey].toBool() && !(backup && S_ISREG(backup->st_mode)))
     return Error::invalidInput("the kept backup is missing").at(record.pathOf(keptBackupName));
+  if (const auto marks = TRY(originalMarks(folder, Folder::Access::Read)))
+    for (const std::string& name : TRY(marks->names()))
+      if (const auto kept = TRY(marks->statusOf(name)); kept && !S_ISREG(kept->st_mode))
+        return Error::invalidInput("what is kept is no plain file").at(marks->pathOf(name));
   return forks.checkOriginal(TRY(record.openChild(originalName, Folder::Access::Read)));
+}
+
+Result<void> BrandingRecord::checkWritable(const Folder& folder) {
+  if (!TRY(folder.statusOf(folderName))) return {};
+  return TRY(folder.openChild(folderName, Folder::Access::Read)).checkWritable();
 }
 
 Result<std::optional<IconFamily>> BrandingRecord::originalIcon(const Folder& folder, const ForkStore& forks) {
@@ -140,10 +150,10 @@ Result<std::optional<IconFamily>> BrandingRecord::originalIcon(const Folder& fol
   return readOriginalIcon(TRY(record.openChild(originalName, Folder::Access::Read)), forks);
 }
 
-Result<std::optional<Folder>> BrandingRecord::originalMarks(const Folder& folder) {
+Result<std::optional<Folder>> BrandingRecord::originalMarks(const Folder& folder, Folder::Access access) {
   const Folder record = TRY(folder.openChild(folderName, Folder::Access::Read));
   if (!TRY(record.statusOf(marksName))) return std::optional<Folder>();
-  return std::optional<Folder>(TRY(record.openChild(marksName, Folder::Access::Read)));
+  return std::optional<Folder>(TRY(record.openChild(marksName, access)));
 }
 
 Result<void> BrandingRecord::make(Folder& folder, const IconServices& services, const std::string& backupName) {
@@ -174,6 +184,10 @@ Result<void> BrandingRecord::begin(Folder& folder, BrandingOperation operation) 
       folder, [&](QJsonObject& values) { values[unfinishedKey] = QString::fromStdString(operationName(operation)); });
 }
 
+Result<void> BrandingRecord::abandon(Folder& folder, const BrandingState& before) {
+  return before.unfinished ? begin(folder, *before.unfinished) : finish(folder, before.isBranded);
+}
+
 Result<void> BrandingRecord::finish(Folder& folder, bool isBranded) {
   const struct stat now = TRY(folder.status());
   return changeRecord(folder, [&](QJsonObject& values) {
@@ -202,7 +216,7 @@ Result<FolderMarks::Notes> BrandingRecord::restore(Folder& folder, const IconSer
     TRY_VOID(services.forks.restoreOriginal(folder, TRY(record.openChild(originalName, Folder::Access::Read))));
     // Whatever names the picture goes before the picture does: a file manager would show a broken one.
     if (services.marks != nullptr) {
-      const auto original = TRY(originalMarks(folder));
+      auto original = TRY(originalMarks(folder, Folder::Access::Write));
       notes = TRY(services.marks->set(folder, noMarks(), original ? &*original : nullptr));
     }
     if (values[backupKey].toBool()) {

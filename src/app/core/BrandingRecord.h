@@ -43,15 +43,20 @@ class BrandingRecord {
   static Result<std::uint64_t> size(const Folder& folder);
   /// Fails when something that a reset needs is missing or damaged.
   static Result<void> check(const Folder& folder, const ForkStore& forks);
+  /// Fails when the record itself cannot be written, as far as it can be told untried. Success without one.
+  static Result<void> checkWritable(const Folder& folder);
   /// The folder's custom icon from before the first apply; nullopt when it had none.
   static Result<std::optional<IconFamily>> originalIcon(const Folder& folder, const ForkStore& forks);
   /// What file managers were told before, for FolderMarks; nullopt when nothing was kept.
-  static Result<std::optional<Folder>> originalMarks(const Folder& folder);
+  static Result<std::optional<Folder>> originalMarks(const Folder& folder, Folder::Access access);
 
   /// Keeps what is there now, and notes that an apply has begun. `backupName` is the backup icon's file.
   static Result<void> make(Folder& folder, const IconServices& services, const std::string& backupName);
   /// Notes that an operation has begun. With a record only.
   static Result<void> begin(Folder& folder, BrandingOperation operation);
+  /// Notes what an operation that failed leaves behind: where the folder stood before it began, with an earlier
+  /// interruption still to be made good. With a record only.
+  static Result<void> abandon(Folder& folder, const BrandingState& before);
   /// Notes that it has ended, and that our last change of the folder is done: a later change of its date is somebody
   /// else's. With a record only.
   static Result<void> finish(Folder& folder, bool isBranded);

@@ -56,6 +56,27 @@ Result<bool> setDamagedAside(Folder& folder, const ForkStore& forks) {
   return true;
 }
 
+Error cannotBeMended(const Folder& folder, const std::string& what) {
+  return Error::invalidInput("cannot be mended: " + what).at(folder.path());
+}
+
+/// Fails for what a repair would leave behind, and therefore fail for in the end.
+Result<void> lastingFault(const Folder& folder, const ForkStore& forks, const std::optional<BrandingState>& state) {
+  if (state) {
+    if (const auto checked = BrandingRecord::check(folder, forks); !checked)
+      return cannotBeMended(folder, checked.error().message());
+    if (state->unfinished == BrandingOperation::Reset) return {};  // the backup goes
+  } else {
+    const auto family = TRY(readFolderIconResource(folder, forks));
+    if (family && !family->check().ok()) return cannotBeMended(folder, "the icon resource is no icon family");
+  }
+  const auto backup = TRY(folder.readFile(FolderBranding::backupName, limits::iconFileBytes));
+  const auto checked = backup ? IconFamily::initWithData(*backup).check() : Result<void>();
+  if (!checked.ok())
+    return cannotBeMended(folder, checked.error().at(folder.pathOf(FolderBranding::backupName)).message());
+  return {};
+}
+
 }  // namespace
 
 Result<FolderBranding::Notes> FolderBranding::giveUp(Folder& folder, const std::string& why) const {
@@ -138,16 +159,18 @@ Result<BrandingResult> FolderBranding::repair(const std::filesystem::path& path,
   Folder folder = TRY(openForWriting(path, mode));
   if (TRY(statusOf(folder)).isSound()) return BrandingResult{BrandingOutcome::Unchanged, {}};
   TRY_VOID(checkPlaces(folder, _services.forks));
+  TRY_VOID(BrandingRecord::checkWritable(folder));
   const auto state = TRY(BrandingRecord::state(folder));
-  if (mode == WriteMode::DryRun) return BrandingResult{};
+  if (mode == WriteMode::DryRun) {
+    if (const auto lasting = lastingFault(folder, _services.forks, state); !lasting) return lasting.error();
+    return BrandingResult{};
+  }
   Notes notes = state ? TRY(repairBranded(folder, *state)) : TRY(repairForeign(folder));
   noteAgain(folder.path());
   // What is still wrong needs the user: another program's backup, a damaged resource of somebody else's.
   const auto after = TRY(statusOf(folder));
-  if (after.isIncomplete()) {
-    const std::string what = after.faults.empty() ? "the icon is incomplete" : after.faults.front();
-    return Error::invalidInput("cannot be mended: " + what).at(folder.path());
-  }
+  if (after.isIncomplete())
+    return cannotBeMended(folder, after.faults.empty() ? "the icon is incomplete" : after.faults.front());
   return BrandingResult{BrandingOutcome::Changed, std::move(notes)};
 }
 

@@ -107,7 +107,8 @@ Result<WantedMarks> FolderBranding::marksFor(const Folder& folder, const std::op
 Result<FolderBranding::Notes> FolderBranding::setMarks(Folder& folder, const WantedMarks& wanted) const {
   if (_services.marks == nullptr) return Notes();
   const auto state = BrandingRecord::state(folder);
-  const auto original = state.ok() && *state ? TRY(BrandingRecord::originalMarks(folder)) : std::optional<Folder>();
+  std::optional<Folder> original;
+  if (state.ok() && *state) original = TRY(BrandingRecord::originalMarks(folder, Folder::Access::Write));
   return _services.marks->set(folder, wanted, original ? &*original : nullptr);
 }
 
@@ -162,6 +163,7 @@ Result<BrandingResult> FolderBranding::writeIconWithImage(const std::optional<Im
   if (state && state->isBranded && !state->unfinished && hasBackup && TRY(isBrandedWith(folder, family, picture)))
     return BrandingResult{BrandingOutcome::Unchanged, {}};
   TRY_VOID(checkPlaces(folder, _services.forks));
+  TRY_VOID(BrandingRecord::checkWritable(folder));
   if (mode == WriteMode::DryRun) return BrandingResult{};
 
   if (state) {
@@ -173,7 +175,7 @@ Result<BrandingResult> FolderBranding::writeIconWithImage(const std::optional<Im
   logFailure(backupIcon(folder));
   auto written = writeBrand(folder, family, picture);
   if (!written) {
-    logFailure(BrandingRecord::finish(folder, state && state->isBranded));
+    logFailure(BrandingRecord::abandon(folder, state.value_or(BrandingState())));
     // Nothing of a first apply that failed stays.
     if (!state) logFailure(BrandingRecord::restore(folder, _services, backupName));
     return written.error();
@@ -213,15 +215,21 @@ Result<FolderBranding::Notes> FolderBranding::putBackup(Folder& folder, const Ic
 Result<BrandingResult> FolderBranding::revert(const std::filesystem::path& path, WriteMode mode) const {
   Folder folder = TRY(openForWriting(path, mode));
   const auto family = TRY(readBackup(folder));
-  if (!family) return BrandingResult{BrandingOutcome::NothingToRevert, {}};
-  TRY_VOID(checkPlaces(folder, _services.forks));
-  if (mode == WriteMode::DryRun) return BrandingResult{};
   // Without a record that can be read there is still the backup.
-  const auto state = BrandingRecord::state(folder);
-  const bool hasRecord = state.ok() && state->has_value();
-  if (hasRecord) TRY_VOID(BrandingRecord::begin(folder, BrandingOperation::Revert));
+  const auto state = BrandingRecord::state(folder).ok() ? TRY(BrandingRecord::state(folder)) : std::nullopt;
+  // The backup is the last to go: without it a way back was cut off just before its end, or an apply at its beginning.
+  const bool isToFinish =
+      !family && state && state->unfinished && (state->unfinished != BrandingOperation::Apply || !state->isBranded);
+  if (!family && !isToFinish) return BrandingResult{BrandingOutcome::NothingToRevert, {}};
+  TRY_VOID(checkPlaces(folder, _services.forks));
+  TRY_VOID(BrandingRecord::checkWritable(folder));
+  if (mode == WriteMode::DryRun) return BrandingResult{};
+  if (isToFinish && state->unfinished == BrandingOperation::Apply)
+    return BrandingResult{BrandingOutcome::Changed, TRY(giveUp(folder, interruptedWords(*state->unfinished)))};
+  if (isToFinish) return BrandingResult{BrandingOutcome::Changed, TRY(repairBranded(folder, *state))};
+  if (state) TRY_VOID(BrandingRecord::begin(folder, BrandingOperation::Revert));
   auto notes = putBackup(folder, *family);
-  if (hasRecord) logFailure(BrandingRecord::finish(folder, !notes.ok() && (*state)->isBranded));
+  if (state) logFailure(notes.ok() ? BrandingRecord::finish(folder, false) : BrandingRecord::abandon(folder, *state));
   return BrandingResult{BrandingOutcome::Changed, TRY(std::move(notes))};
 }
 
@@ -232,6 +240,8 @@ Result<BrandingResult> FolderBranding::reset(const std::filesystem::path& path, 
   if (!hasRecord && TRY(markFaults(folder, noMarks())).empty())
     return BrandingResult{BrandingOutcome::NothingToRevert, {}};
   TRY_VOID(folder.checkWritable());
+  if (hasRecord) TRY_VOID(BrandingRecord::check(folder, _services.forks));
+  TRY_VOID(BrandingRecord::checkWritable(folder));
   if (mode == WriteMode::DryRun) return BrandingResult{};
   Notes notes =
       hasRecord ? TRY(BrandingRecord::restore(folder, _services, backupName)) : TRY(setMarks(folder, noMarks()));

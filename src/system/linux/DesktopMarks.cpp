@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "system/linux/DesktopMarks.h"
 
+#include <unistd.h>
+
 #include <QStringDecoder>
 #include <algorithm>
 #include <cerrno>
@@ -19,8 +21,10 @@ namespace {
 
 using Text = std::optional<std::string>;
 
-// The name under which the folder's setting in the session is kept.
-constexpr const char* keptSetting = "custom-icon";
+/// The name under which the folder's setting in the session is kept. Every user has his own settings.
+std::string keptSetting() {
+  return "custom-icon-" + std::to_string(::geteuid());
+}
 
 const std::string noSession =
     "no desktop session within reach: GNOME's, Cinnamon's and MATE's file managers show the icon once 'quorvane "
@@ -110,8 +114,13 @@ Result<void> DesktopMarks::saveOriginal(const Folder& folder, Folder& into) cons
   TRY_VOID(keepText(folder, directoryfile::fileName, into,
                     [](const std::string& text) { return directoryfile::restored(text, {}, isMarkPicture); }));
   TRY_VOID(keepText(folder, hiddenfile::fileName, into, [](const std::string& text) { return Text(text); }));
+  return _keepSetting(folder, into);
+}
+
+Result<void> DesktopMarks::_keepSetting(const Folder& folder, Folder& original) const {
   const auto setting = _metadata.customIcon(folder.path());
-  if (setting.ok() && *setting && !isMarkPicture(**setting)) TRY_VOID(into.writeFile(keptSetting, bytesOf(**setting)));
+  if (!setting.ok() || !*setting || isMarkPicture(**setting)) return {};
+  if (!TRY(original.statusOf(keptSetting()))) TRY_VOID(original.writeFile(keptSetting(), bytesOf(**setting)));
   return {};
 }
 
@@ -148,12 +157,15 @@ Result<void> DesktopMarks::_setMetadata(Folder& folder, const WantedMarks& wante
   if (wanted.picture)
     return present == wanted.picture ? Result<void>() : _metadata.setCustomIcon(folder.path(), wanted.picture);
   if (!present || !isMarkPicture(*present)) return {};
-  const Text kept = original != nullptr ? TRY(readText(*original, keptSetting)) : Text();
-  return _metadata.setCustomIcon(folder.path(), kept);
+  const Text kept = original != nullptr ? TRY(readText(*original, keptSetting())) : Text();
+  if (kept && _metadata.setCustomIcon(folder.path(), kept).ok()) return {};
+  // What is kept may be damaged, or too long for this session: then no icon is named rather than one that is not there.
+  return _metadata.setCustomIcon(folder.path(), {});
 }
 
-Result<FolderMarks::Notes> DesktopMarks::set(Folder& folder, const WantedMarks& wanted, const Folder* original) {
+Result<FolderMarks::Notes> DesktopMarks::set(Folder& folder, const WantedMarks& wanted, Folder* original) {
   Notes notes;
+  if (wanted.picture && original != nullptr) TRY_VOID(_keepSetting(folder, *original));
   const auto metadata = _setMetadata(folder, wanted, original);
   if (!metadata.ok()) notes.push_back(wanted.picture ? noSession : noSessionToClear);
   // What is kept goes when all has been given back: then a note would be all that is left of it.

@@ -15,13 +15,15 @@ class DesktopMarks : public FolderMarks {
   explicit DesktopMarks(FolderMetadata& metadata) : _metadata(metadata) {}
 
   [[nodiscard]] Result<void> saveOriginal(const Folder& folder, Folder& into) const override;
-  Result<Notes> set(Folder& folder, const WantedMarks& wanted, const Folder* original) override;
+  Result<Notes> set(Folder& folder, const WantedMarks& wanted, Folder* original) override;
   [[nodiscard]] Result<std::vector<std::string>> faults(const Folder& folder, const WantedMarks& wanted) const override;
   void forgetThumbnails(const std::filesystem::path& folder) const override;
 
  private:
   static Result<void> _setDirectoryFile(Folder& folder, const WantedMarks& wanted, const Folder* original);
   static Result<void> _setHiddenFile(Folder& folder, const WantedMarks& wanted, const Folder* original);
+  /// Another setting than ours, before it is replaced.
+  Result<void> _keepSetting(const Folder& folder, Folder& original) const;
   Result<void> _setMetadata(Folder& folder, const WantedMarks& wanted, const Folder* original) const;
 
   FolderMetadata& _metadata;
