@@ -55,7 +55,7 @@ Result<bool> BrandPicture::isAlone(const Folder& folder) const {
 
 Result<void> BrandPicture::write(Folder& folder) const {
   Folder holder = TRY(folder.openChild(holderName, Folder::Access::Write));
-  TRY(holder.writeFile(nameIn(_path), _bytes));
+  TRY_VOID(holder.writeFile(nameIn(_path), _bytes));
   return {};
 }
 

@@ -18,7 +18,7 @@ Result<void> completeIconFile(Folder& folder, const ForkStore& forks) {
   if (TRY(findIconFile(folder))) return {};
   for (const std::string& beside : forks.filesBeside(iconFileName)) {
     if (!TRY(folder.statusOf(beside))) continue;
-    TRY(folder.writeFile(iconFileName, {}));
+    TRY_VOID(folder.writeFile(iconFileName, {}));
     break;
   }
   return {};
