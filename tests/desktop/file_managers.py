@@ -77,6 +77,9 @@ class Case:
                 24 <= self.region[high] - self.region[high - 2] <= 200 for high in (2, 3)):
             self.plain.save(self._file("trouble"), self.region)
             raise Trouble(f"{self.manager} shows no new folder ({self.region})")
+        if not pictures.is_blank(without, self.region):
+            self.plain.save(self._file("trouble"), self.region)
+            raise Trouble(f"{self.manager} went on drawing something else")
         with open(os.path.join(self.folder, "letter.txt"), "w", encoding="utf-8") as file:
             file.write("Dear reader\n")
 

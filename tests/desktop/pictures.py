@@ -97,6 +97,13 @@ def share_of_colour(picture, region, colour):
     return hits / ((right - left) * (bottom - top))
 
 
+def is_blank(picture, region):
+    """Whether there is nothing but background."""
+    left, top, right, bottom = region
+    background = picture.pixel(left, top)
+    return all(not _far(picture.pixel(x, y), background, CHANGED) for y in range(top, bottom) for x in range(left, right))
+
+
 def share_of_change(one, other, region):
     left, top, right, bottom = region
     hits = sum(_far(one.pixel(x, y), other.pixel(x, y), CHANGED) for y in range(top, bottom) for x in range(left, right))

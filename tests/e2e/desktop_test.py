@@ -92,10 +92,10 @@ class DesktopTest(EndToEndTest):
 
     def test_no_other_identifier_is_about(self):
         wrong = re.compile(rb"\b(?:org|com|net|io|test|example)\.(?:\w+\.)?[Qq]uorvane\b")
-        for name in subprocess.run(["git", "ls-files", "-z", "src", "resources", "cmake", "packaging", "docs"],
-                                   cwd=ROOT, capture_output=True, check=False).stdout.decode().split("\0"):
-            if name and os.path.isfile(os.path.join(ROOT, name)):
-                self.assertLessEqual(set(wrong.findall(read(os.path.join(ROOT, name)))), {APP_ID.encode()}, name)
+        for top in ("src", "resources", "cmake", "packaging", "docs"):
+            for folder, _folders, names in os.walk(os.path.join(ROOT, top)):
+                for name in (os.path.join(folder, name) for name in names):
+                    self.assertLessEqual(set(wrong.findall(read(name))), {APP_ID.encode()}, name)
 
 
 if __name__ == "__main__":

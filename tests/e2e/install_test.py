@@ -22,7 +22,8 @@ class InstallTest(EndToEndTest):
                  f"share/metainfo/{APP_ID}.metainfo.xml", f"share/icons/hicolor/scalable/apps/{APP_ID}.svg",
                  f"share/icons/hicolor/symbolic/apps/{APP_ID}-symbolic.svg"}
         files |= {f"share/icons/hicolor/{size}x{size}/apps/{APP_ID}.png" for size in SIZES}
-        files |= {"share/doc/quorvane/" + text for text in ("LICENSE", "copyright", "changelog.gz", "what-it-writes.md")}
+        files |= {"share/doc/quorvane/" + text for text in ("LICENSE", "copyright", "changelog.gz", "what-it-writes.md",
+                                                            "thunar.md", "examples/quorvane-folder.thumbnailer")}
         if os.path.exists(os.path.join(BUILD, "src/app/quorvane-window")):
             files |= {"bin/quorvane-window", f"share/applications/{APP_ID}.desktop"}
         return files

@@ -5,7 +5,7 @@ import subprocess
 import sys
 import unittest
 
-from support import LABEL, PATIENCE, PROGRAM, EndToEndTest, read
+from support import LABEL, PATIENCE, PROGRAM, EndToEndTest
 
 PR_SET_NAME = 15  # <linux/prctl.h>
 # A process of another name that starts the program.
@@ -26,10 +26,16 @@ class ThumbnailTest(EndToEndTest):
         for size in ("0", "-1", "99999999999", "1e3", "", "2000"):
             self.assertEqual(self.thumbnail(folder, out, size), 1, size)
         self.assertFalse(os.path.exists(out))
-        for size in (128, 256):
-            self.assertEqual(self.thumbnail(folder, out, str(size)), 0)
-            picture = read(out)
-            self.assertEqual((picture[:8], picture[16:24]), (b"\x89PNG\r\n\x1a\n", size.to_bytes(4, "big") * 2))
+        with open(out, "w+b") as held:  # as tumblerd holds it
+            for size in (256, 128):
+                self.assertEqual(self.thumbnail(folder, out, str(size)), 0)
+                held.seek(0)
+                picture = held.read()
+                self.assertEqual((picture[:8], picture[16:24]), (b"\x89PNG\r\n\x1a\n", size.to_bytes(4, "big") * 2))
+                self.assertEqual(picture[-8:-4], b"IEND", "what was longer is cut")
+        link = os.path.join(self.work, "link.png")
+        os.symlink(out, link)
+        self.assertEqual(self.thumbnail(folder, link), 1)
         self.expect(0, "reset", folder)
         self.assertEqual(self.thumbnail(folder, out), 1)
 

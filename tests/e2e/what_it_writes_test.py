@@ -19,8 +19,10 @@ from support import (BACKUP, FINDER_INFO, FOREIGN, ICON, ICON_COMPANION, LABEL, 
 
 PLACES = {"Inside the folder": "folder/", "On the folder": "attribute ", "Beside the folder": "beside/",
           "Elsewhere": "home/"}
-# Needs a session with its daemons, a disk of its own, or a machine whose list of fonts is stale.
+# Needs a session with its daemons, a disk of its own, or a machine whose list of fonts is stale. names_test.py plays
+# the names.
 NOT_PLAYED = {"in a desktop session", "fonts were installed since the last run", "there was none, and no session",
+              "names take no carriage return",
               "a file system without attributes whose topmost folder this is"}
 
 
@@ -61,7 +63,7 @@ class WhatItWritesTest(EndToEndTest):
         self.path = self.folder()
         if not can_store_finder_info(self.path):
             self.skipTest("no extended attributes here")
-        self.prefix = ()
+        self.prefix, self.options = (), ()
 
     def seen(self):
         """name -> content, of all that could be written to."""
@@ -132,6 +134,12 @@ class WhatItWritesTest(EndToEndTest):
         write(f"{thumbnails}/{hashlib.md5(address.encode()).hexdigest()}.png", b"a picture")
         write(f"{thumbnails}/{hashlib.md5(b'another').hexdigest()}.png", b"another's")
 
+    def git_tree(self):
+        if shutil.which("git") is None:
+            self.skipTest("there is no git")
+        subprocess.run(["git", "init", "-q", self.work], env=self.environment(), check=True)
+        self.options = ("--git-exclude",)
+
     def inject(self, fault):
         if shutil.which("strace") is None:
             self.skipTest("there is no strace")
@@ -147,28 +155,27 @@ class WhatItWritesTest(EndToEndTest):
                  "a `.BackupIcon.icns` of yours": backup, "companions of yours": companions,
                  "a custom icon that a file server renamed": renamed_custom_icon, "a file server's record": server_record,
                  "a file system without attributes": no_attributes, "while it writes": killed,
-                 "a cached picture of the folder": cached_picture}
+                 "a cached picture of the folder": cached_picture,
+                 "`apply --git-exclude` in a git work tree": git_tree}
 
     def test_the_tables_tell_all_that_is_written_and_nothing_else(self):
         rows = declared()
         self.assertEqual({condition for row in rows for condition in row[1]}, set(self.SCENARIOS) | NOT_PLAYED)
         for condition, arrange in self.SCENARIOS.items():
             with self.subTest(condition):
-                shutil.rmtree(self.path)
+                shutil.rmtree(self.work)
                 shutil.rmtree(self.home)
                 os.makedirs(self.temporary)
                 os.mkdir(self.home + "/cache")
-                for name in os.listdir(self.work):
-                    os.remove(os.path.join(self.work, name))
                 self.folder()
-                self.prefix = ()
+                self.prefix, self.options = (), ()
                 arrange(self)
                 before = self.seen()
                 if condition == "while it writes":
                     self.run_to_the_end("apply", *LABEL, self.path, code=-signal.SIGKILL)
                     self.prefix = ()
                 else:
-                    self.run_to_the_end("apply", *LABEL, self.path)
+                    self.run_to_the_end("apply", *self.options, *LABEL, self.path)
                 written = self.changed(before)
                 allowed = [row for row in rows if {"always", condition, *NOT_PLAYED} & set(row[1])]
                 for name in written:
@@ -178,7 +185,8 @@ class WhatItWritesTest(EndToEndTest):
                         self.assertTrue(any(covers(row, name) for name in written), f"{row[0]!r} never appears")
                 self.run_to_the_end("apply", *LABEL, self.path)
                 self.run_to_the_end("reset", self.path)
-                left = {name for name in self.changed(before) if not name.startswith("home/cache/thumbnails/")}
+                stays = ("home/cache/thumbnails/", "beside/.git/info/exclude")
+                left = {name for name in self.changed(before) if not name.startswith(stays)}
                 self.assertEqual(left, set(), "reset leaves something")
 
     def test_what_is_said_to_write_nothing_writes_nothing(self):

@@ -68,7 +68,8 @@ Result<std::vector<std::string>> BrandPicture::allIn(const Folder& folder) {
   for (const std::string& name : TRY(holder.names())) {
     const std::string path = holderName + "/" + name;
     if (!isMarkPicture(path)) continue;
-    if (const auto info = TRY(holder.statusOf(name))) dated.emplace_back(info->st_mtim.tv_sec, info->st_mtim.tv_nsec, path);
+    if (const auto info = TRY(holder.statusOf(name)))
+      dated.emplace_back(info->st_mtim.tv_sec, info->st_mtim.tv_nsec, path);
   }
   std::ranges::sort(dated, std::greater());
   std::vector<std::string> found;
