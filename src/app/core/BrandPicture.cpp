@@ -3,6 +3,8 @@
 
 #include <QCryptographicHash>
 #include <algorithm>
+#include <functional>
+#include <tuple>
 
 #include "foundation/base/Limits.h"
 #include "imaging/PngCodec.h"
@@ -60,10 +62,18 @@ Result<void> BrandPicture::write(Folder& folder) const {
 }
 
 Result<std::vector<std::string>> BrandPicture::allIn(const Folder& folder) {
+  if (!TRY(hasHolder(folder))) return std::vector<std::string>();
+  const Folder holder = TRY(folder.openChild(holderName, Folder::Access::Read));
+  std::vector<std::tuple<time_t, long, std::string>> dated;
+  for (const std::string& name : TRY(holder.names())) {
+    const std::string path = holderName + "/" + name;
+    if (!isMarkPicture(path)) continue;
+    if (const auto info = TRY(holder.statusOf(name)))
+      dated.emplace_back(info->st_mtim.tv_sec, info->st_mtim.tv_nsec, path);
+  }
+  std::ranges::sort(dated, std::greater());
   std::vector<std::string> found;
-  if (!TRY(hasHolder(folder))) return found;
-  for (const std::string& name : TRY(TRY(folder.openChild(holderName, Folder::Access::Read)).names()))
-    if (std::string path = holderName + "/" + name; isMarkPicture(path)) found.push_back(std::move(path));
+  for (const auto& each : dated) found.push_back(std::get<std::string>(each));
   return found;
 }
 
