@@ -87,7 +87,8 @@ def main():
     kind = subprocess.run(["stat", "-f", "-c", "%T", chosen.place], capture_output=True, text=True, check=True)
     print(f"in {os.path.abspath(chosen.place)} ({kind.stdout.strip()}), {len(os.sched_getaffinity(0))} processors, "
           f"load {os.getloadavg()[0]:.1f}")
-    speed(chosen.place, chosen.rounds, chosen.folders)
+    if chosen.rounds > 0:
+        speed(chosen.place, chosen.rounds, chosen.folders)
     if chosen.many > 0:
         memory(chosen.place, 2, 100, chosen.many)
 

@@ -11,6 +11,9 @@ constexpr std::size_t pieceBytes = std::size_t{16} << 10;
 
 }  // namespace
 
+ListReader::ListReader(ByteSource source, char separator)
+    : _source(std::move(source)), _separator(separator), _piece(pieceBytes) {}
+
 Result<std::optional<std::filesystem::path>> ListReader::next() {
   std::size_t looked = _start;
   for (;;) {
@@ -34,9 +37,8 @@ Result<std::optional<std::filesystem::path>> ListReader::next() {
     _held.erase(0, _start);
     looked -= _start;
     _start = 0;
-    _held.resize(looked + pieceBytes);
-    const auto got = _source(std::span(_held).subspan(looked));
-    _held.resize(looked + (got ? *got : 0));
+    const auto got = _source(_piece);
+    if (got) _held.append(_piece.data(), *got);
     if (!got) {
       _isAtEnd = true;
       _held.clear();

@@ -6,6 +6,7 @@
 #include <optional>
 #include <span>
 #include <string>
+#include <vector>
 
 #include "foundation/base/Result.h"
 
@@ -18,7 +19,7 @@ using ByteSource = std::function<Result<std::size_t>(std::span<char>)>;
 /// piece of the list at a time.
 class ListReader {
  public:
-  ListReader(ByteSource source, char separator) : _source(std::move(source)), _separator(separator) {}
+  ListReader(ByteSource source, char separator);
 
   /// The next path; empty lines are passed over. nullopt at the end. A failure is the end, too: the source failed, or a
   /// path is far longer than any can be (Limits.h), so that this is no list of paths.
@@ -29,6 +30,7 @@ class ListReader {
  private:
   ByteSource _source;
   char _separator;
+  std::vector<char> _piece;  ///< what the source fills
   std::string _held;
   std::size_t _start = 0;  ///< of what is not given yet, in _held
   std::size_t _line = 0;

@@ -96,6 +96,7 @@ TEST(LookFile, OfAnotherKindIsRefusedWithTheReason) {
            {withKeys("\"label\": \"" + std::string(limits::labelBytes + 1, 'x') + "\""), "the label is longer"},
            {withKeys("\"label\": \"\xFF\""), "is no JSON"},
            {withKeys("\"x\": \"" + std::string(limits::lookFileBytes, 'x') + "\""), "no look file"},
+           {withKeys("\"font\": \"" + std::string(limits::fontNameBytes + 1, 'x') + "\""), "the font's name is longer"},
            {withKeys(R"("base": "../box.png")"), "leads out of the folder"},
            {withKeys(R"("base": "a/../../box.png")"), "leads out of the folder"},
            {withKeys(R"("base": "/etc/passwd")"), "absolute path"},

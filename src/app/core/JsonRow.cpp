@@ -46,7 +46,7 @@ Error unknownColumn(const std::string& name, const std::vector<std::string>& col
   std::vector<std::string> known = columns;
   known.emplace_back("folder");
   const std::string nearest = nearestWord(name, known);
-  return Error::invalidInput("there is no column '" + printable(name) + "'" +
+  return Error::invalidInput("there is no column '" + excerpt(name) + "'" +
                              (nearest.empty() ? "" : ", did you mean '" + nearest + "'?"));
 }
 

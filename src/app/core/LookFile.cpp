@@ -116,7 +116,8 @@ Result<SavedLook> lookFromJson(ByteView json) {
   SavedLook saved;
   saved.labelPattern = TRY(keys.takeText(labelKey)).value_or(QString());
   TRY_VOID(labelOf(saved.labelPattern, []() -> Result<QString> { return QString(); }));
-  saved.look.fontName = TRY(keys.takeText(fontKey)).value_or(QString()).toStdString();
+  if (const auto font = TRY(keys.takeText(fontKey)))
+    TRY_VOID(setLookValue(saved.look, "font", font->toStdString(), ""));
   if (const auto color = TRY(keys.takeText(colorKey))) saved.look.color = TRY(parseColor(color->toStdString()));
   if (const auto base = TRY(keys.takeText(baseKey))) {
     saved.base = std::filesystem::path(base->toStdString());

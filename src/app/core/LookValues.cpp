@@ -43,13 +43,13 @@ std::span<const std::string_view> lookValueNames() {
 Result<void> checkLookNumber(const LookNumber& number, double value, std::string_view text, std::string_view prefix) {
   if (value >= number.least && value <= number.most) return {};
   return Error::invalidInput(std::string(prefix) + std::string(number.name) + " takes a number from " +
-                             shortNumber(number.least) + " to " + shortNumber(number.most) + ", not '" +
-                             printable(text) + "'");
+                             shortNumber(number.least) + " to " + shortNumber(number.most) + ", not '" + excerpt(text) +
+                             "'");
 }
 
 Result<void> setLookValue(Look& look, std::string_view name, std::string_view text, std::string_view prefix) {
   if (std::ranges::find(names, name) == names.end())
-    return Error(ErrorKind::NotFound, "there is no value '" + printable(name) + "' of a look");
+    return Error(ErrorKind::NotFound, "there is no value '" + excerpt(name) + "' of a look");
   if (text.empty()) return {};
   if (const auto* number = std::ranges::find(numbers, name, &LookNumber::name); number != numbers.end()) {
     const double value = parseNumber(text).value_or(std::nan(""));
@@ -58,6 +58,8 @@ Result<void> setLookValue(Look& look, std::string_view name, std::string_view te
   } else if (name == "label") {
     look.label = TRY(parseLabel(text));
   } else if (name == "font") {
+    if (text.size() > limits::fontNameBytes)
+      return Error::tooLarge("the font's name is longer than " + std::to_string(limits::fontNameBytes) + " bytes");
     look.fontName = text;
   } else if (name == "color") {
     look.color = TRY(parseColor(text));
@@ -65,7 +67,7 @@ Result<void> setLookValue(Look& look, std::string_view name, std::string_view te
     look.labelCenter = TRY(parsePoint(text, prefix));
   } else {
     const auto tag = effectTagNamed(text);
-    if (!tag) return Error::invalidInput("there is no effect '" + printable(text) + "'");
+    if (!tag) return Error::invalidInput("there is no effect '" + excerpt(text) + "'");
     look.effectTag = *tag;
   }
   return {};
@@ -87,7 +89,7 @@ std::string shortNumber(double value) {
 
 Result<QColor> parseColor(std::string_view text) {
   const Error wrong =
-      Error::invalidInput("'" + printable(text) + "' is no colour; use #rgb, #rrggbb, #rrggbbaa or a name");
+      Error::invalidInput("'" + excerpt(text) + "' is no colour; use #rgb, #rrggbb, #rrggbbaa or a name");
   if (!text.starts_with('#')) {
     const QString name = QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
     if (!QColor::isValidColor(name) || name.startsWith(u'#')) return wrong;
@@ -115,7 +117,7 @@ Result<Point> parsePoint(std::string_view text, std::string_view prefix) {
   const auto y = comma == std::string_view::npos ? std::nullopt : parseNumber(text.substr(comma + 1));
   if (!x || !y || std::abs(*x) > 1e6 || std::abs(*y) > 1e6)
     return Error::invalidInput(std::string(prefix) + "center takes X,Y, numbers within a million, not '" +
-                               printable(text) + "'");
+                               excerpt(text) + "'");
   return Point{static_cast<float>(*x), static_cast<float>(*y)};
 }
 

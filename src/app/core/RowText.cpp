@@ -13,13 +13,13 @@ constexpr std::size_t pieceBytes = std::size_t{16} << 10;
 
 }  // namespace
 
+RowText::RowText(ByteSource source) : _source(std::move(source)), _piece(pieceBytes) {}
+
 bool RowText::fill() {
   if (_isAtEnd) return false;
   _held.erase(0, std::exchange(_start, 0));
-  const std::size_t before = _held.size();
-  _held.resize(before + pieceBytes);
-  const auto got = _source(std::span(_held).subspan(before));
-  _held.resize(before + (got ? *got : 0));
+  const auto got = _source(_piece);
+  if (got) _held.append(_piece.data(), *got);
   if (!got) _failure = got.error();
   _isAtEnd = !got || *got == 0;
   return !_isAtEnd;

@@ -4,6 +4,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "foundation/ListReader.h"
 #include "foundation/base/Result.h"
@@ -13,7 +14,7 @@ namespace quorvane {
 /// A text that comes in pieces, of which a row's worth is looked at a time.
 class RowText {
  public:
-  explicit RowText(ByteSource source) : _source(std::move(source)) {}
+  explicit RowText(ByteSource source);
 
   /// The character at a distance from the place reached, at most limits::rowBytes; nullopt behind the end, and when
   /// reading failed.
@@ -36,6 +37,7 @@ class RowText {
   bool fill();
 
   ByteSource _source;
+  std::vector<char> _piece;  ///< what the source fills
   std::string _held;
   std::size_t _start = 0;
   std::size_t _line = 1;

@@ -58,6 +58,8 @@ inline constexpr std::size_t pictureFileBytes = std::size_t{512} << 20;
 /// Longest label in bytes and lines; each costs layout time.
 inline constexpr std::size_t labelBytes = 64 * 1024;
 inline constexpr std::size_t labelLines = 1000;
+/// Longest name of a font, which is looked for piece by piece; real ones stay below 100 bytes.
+inline constexpr std::size_t fontNameBytes = 1024;
 
 /// Longest path of a list of folders: the system takes 4095 bytes, so a longer one is no path but a mistaken file.
 inline constexpr std::size_t listedPathBytes = std::size_t{64} << 10;

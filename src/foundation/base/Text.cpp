@@ -72,6 +72,11 @@ std::string printable(const std::filesystem::path& path) {
   return printable(std::string_view(path.native()));
 }
 
+std::string excerpt(std::string_view text) {
+  constexpr std::size_t most = 80;
+  return printable(text.substr(0, most)) + (text.size() > most ? "..." : "");
+}
+
 bool isUtf8(std::string_view bytes) {
   while (!bytes.empty()) {
     const auto decoded = decode(bytes);
@@ -85,6 +90,8 @@ std::string nearestWord(std::string_view given, const std::vector<std::string>& 
   std::string best;
   std::size_t bestSteps = std::max<std::size_t>(given.size() / 2, 1) + 1;
   for (const std::string& word : known) {
+    // So many steps it takes at least.
+    if (std::max(word.size(), given.size()) - std::min(word.size(), given.size()) >= bestSteps) continue;
     std::vector<std::size_t> row(word.size() + 1);
     std::iota(row.begin(), row.end(), std::size_t{0});
     for (std::size_t i = 0; i < given.size(); ++i) {

@@ -16,6 +16,9 @@ inline std::string printable(const std::string& text) {
 }
 std::string printable(const std::filesystem::path& path);
 
+/// The beginning of a text that may be of any length, printable, to name it in a complaint.
+std::string excerpt(std::string_view text);
+
 /// True when the bytes are well-formed UTF-8 (surrogates and overlong forms are not).
 bool isUtf8(std::string_view bytes);
 
