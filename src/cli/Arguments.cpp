@@ -1,178 +1,20 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "cli/Arguments.h"
 
-#include <CLI/App.hpp>
-#include <CLI/Config.hpp>
-#include <CLI/Formatter.hpp>
+#include <algorithm>
 #include <cstdint>
 #include <cstdio>
 
-#include "app/core/EffectPresets.h"
+#include "app/core/LookValues.h"
 #include "cli/ExitCode.h"
 #include "cli/Help.h"
+#include "cli/Parser.h"
 #include "cli/Terminal.h"
-#include "cli/Values.h"
-#include "foundation/base/Version.h"
+#include "foundation/OrderedJobs.h"
 
 namespace quorvane::cli {
 
 namespace {
-
-/// The words given for options whose values are read afterwards, so that no locale has a say in numbers.
-struct RawLook {
-  std::string label, base, font, size, color, effect, lineSpacing, shear, rotate, opacity, center;
-};
-
-struct Parser {
-  CLI::App app{"Gives a folder an icon of its own: a folder picture with a label drawn on it."};
-  std::vector<std::string> paths;
-  RawLook raw;
-  std::string pixels;
-  bool labelFromName = false;
-  bool gitExclude = false;
-  bool json = false;
-  bool jsonLines = false;
-  bool quiet = false;
-  bool dryRun = false;
-  bool crossFileSystems = false;
-  std::vector<std::pair<Command, CLI::App*>> commands;
-
-  Parser();
-  CLI::App* add(CLI::App& parent, Command command, const std::string& name, const std::string& what,
-                const std::string& use, const std::vector<std::string>& examples);
-  void addLook(CLI::App& command);
-  void addCommon(CLI::App& command);
-  void addDryRun(CLI::App& command) {
-    command.add_flag("-n,--dry-run", dryRun, "Do everything but write; says what would happen");
-  }
-};
-
-CLI::App* Parser::add(CLI::App& parent, Command command, const std::string& name, const std::string& what,
-                      const std::string& use, const std::vector<std::string>& examples) {
-  CLI::App* added = parent.add_subcommand(name, what)->group("Commands");
-  added->set_help_flag("-h,--help", "Print this help");
-  describeUse(*added, use, examples);
-  commands.emplace_back(command, added);
-  return added;
-}
-
-void Parser::addLook(CLI::App& command) {
-  const auto option = [&](const char* name, std::string& value, const char* type, const std::string& what) {
-    command.add_option(name, value, what)->type_name(type);
-  };
-  std::string effects;
-  for (const EffectPreset& preset : effectPresets())
-    effects += (effects.empty() ? "" : ", ") + std::string(preset.name);
-  option("-l,--label", raw.label, "TEXT", "Label; \\n breaks the line, \\\\ is a backslash");
-  option("-b,--base", raw.base, "PICTURE",
-         "Picture to draw on (icns, PNG, JPEG, TIFF ...) instead of the folder's icon");
-  option("--font", raw.font, "NAME", "Family, or family and style, e.g. \"DejaVu Sans Bold\" [system font, bold]");
-  option("--size", raw.size, "POINTS", "Font size on a 128 point icon; shrinks to fit [what fits the folder's front]");
-  option("--color", raw.color, "COLOR", "#rgb, #rrggbb, #rrggbbaa or a name [black]");
-  option("--effect", raw.effect, "NAME", "Shadow: " + effects + " [none]");
-  option("--line-spacing", raw.lineSpacing, "FACTOR", "Largest line height by the font's own; 0 sets no limit [1]");
-  option("--shear", raw.shear, "FACTOR", "Upward slant to the right [0]");
-  option("--rotate", raw.rotate, "DEGREES", "Rotation, counter-clockwise [0]");
-  option("--opacity", raw.opacity, "FRACTION", "0 is invisible, 1 solid [1]");
-  option("--center", raw.center, "X,Y", "Middle of the label on a 128 x 128 icon, from the bottom left [64,64]");
-}
-
-void Parser::addCommon(CLI::App& command) {
-  command.add_flag("--json", json, "Print one JSON object");
-  command.add_flag("--json-lines", jsonLines, "Print one JSON object a line for each item");
-  command.add_flag("-q,--quiet", quiet, "Print failures only");
-}
-
-Parser::Parser() {
-  app.name("quorvane");
-  app.set_help_flag("-h,--help", "Print this help");
-  app.set_version_flag("--version", "quorvane " QUORVANE_VERSION);
-  describeUse(app, "COMMAND ...",
-              {"quorvane apply --label \"Invoices\\n2026\" --color \"#b00020\" --effect soft ~/Invoices",
-               "quorvane reset ~/Invoices", "quorvane apply --help"});
-  app.require_subcommand(1);
-
-  const auto folders = [this](CLI::App* command) {
-    command->add_option("FOLDER", paths, "One or more folders")->type_name("");
-  };
-
-  CLI::App* apply = add(app, Command::Apply, "apply", "Give folders an icon with a label", "apply [OPTIONS] FOLDER...",
-                        {"quorvane apply --label \"Invoices\\n2026\" --color \"#b00020\" --effect soft ~/Invoices",
-                         "quorvane apply --label-from-name --base box.icns -- */"});
-  folders(apply);
-  addLook(*apply);
-  apply->add_flag("--label-from-name", labelFromName, "The label is each folder's own name");
-  apply->add_flag("--git-exclude", gitExclude, "In a git work tree: put the icon's files on its private exclude list");
-  addDryRun(*apply);
-  addCommon(*apply);
-
-  CLI::App* revert =
-      add(app, Command::Revert, "revert", "Put the backed-up icon back as a custom icon", "revert [OPTIONS] FOLDER...",
-          {"quorvane revert ~/Invoices", "quorvane revert --json ~/Invoices ~/Taxes"});
-  folders(revert);
-  addDryRun(*revert);
-  addCommon(*revert);
-
-  CLI::App* reset =
-      add(app, Command::Reset, "reset", "Give back exactly what was there before the first apply",
-          "reset [OPTIONS] FOLDER...", {"quorvane reset ~/Invoices", "quorvane reset --dry-run ~/Invoices ~/Taxes"});
-  folders(reset);
-  addDryRun(*reset);
-  addCommon(*reset);
-
-  CLI::App* repair =
-      add(app, Command::Repair, "repair", "Mend brands: after a move, a copy or an interruption",
-          "repair [OPTIONS] FOLDER...", {"quorvane repair ~/Invoices", "quorvane repair --dry-run ~/*/"});
-  folders(repair);
-  addDryRun(*repair);
-  addCommon(*repair);
-
-  CLI::App* status =
-      add(app, Command::Status, "status", "Say what icon, backup and record folders have", "status [OPTIONS] FOLDER...",
-          {"quorvane status ~/Invoices", "quorvane status --json ~/Invoices ~/Taxes"});
-  folders(status);
-  addCommon(*status);
-
-  CLI::App* verify = add(app, Command::Verify, "verify", "Check that brands are whole and shown everywhere",
-                         "verify [OPTIONS] FOLDER...", {"quorvane verify ~/Invoices", "quorvane verify --json ~/*/"});
-  folders(verify);
-  addCommon(*verify);
-
-  CLI::App* list = add(app, Command::List, "list", "Find the branded folders in trees", "list [OPTIONS] TREE...",
-                       {"quorvane list ~/Documents", "quorvane list --json-lines /srv/share"});
-  list->add_option("TREE", paths, "One or more folders to search, with all below")->type_name("");
-  list->add_flag("--cross-file-systems", crossFileSystems, "Go on where another file system is mounted");
-  addCommon(*list);
-
-  CLI::App* render = add(app, Command::Render, "render", "Compose an icon into a PNG or icns file, touching no folder",
-                         "render [OPTIONS] OUT",
-                         {"quorvane render --label Taxes --effect soft taxes.png",
-                          "quorvane render --label Taxes --base box.png --pixels 1024 taxes.png"});
-  render->add_option("OUT", paths, "File to write; .icns makes an icon family, anything else a PNG")->type_name("");
-  addLook(*render);
-  render->add_option("--pixels", pixels, "Side of the PNG, 16 to 4096 [512]")->type_name("N");
-  addDryRun(*render);
-  addCommon(*render);
-
-  CLI::App* icns = app.add_subcommand("icns", "Make and read icon family files")->group("Commands");
-  icns->set_help_flag("-h,--help", "Print this help");
-  describeUse(*icns, "icns make|list|extract ...",
-              {"quorvane icns make picture.png picture.icns", "quorvane icns extract picture.icns pictures/"});
-  icns->require_subcommand(1);
-  CLI::App* make =
-      add(*icns, Command::IcnsMake, "make", "Encode a picture as an icon family", "icns make PICTURE OUT.icns",
-          {"quorvane icns make picture.png picture.icns", "quorvane icns make photo.jpg photo.icns"});
-  CLI::App* listElements =
-      add(*icns, Command::IcnsList, "list", "List the elements of icon family files", "icns list FILE...",
-          {"quorvane icns list picture.icns", "quorvane icns list --json picture.icns"});
-  CLI::App* extract = add(*icns, Command::IcnsExtract, "extract",
-                          "Write each picture of an icon family as DIR/TYPE.png", "icns extract FILE DIR",
-                          {"quorvane icns extract picture.icns pictures/", "quorvane icns extract --json a.icns out"});
-  make->add_option("FILES", paths, "PICTURE and OUT.icns")->type_name("");
-  listElements->add_option("FILE", paths, "One or more icns files")->type_name("");
-  extract->add_option("FILES", paths, "FILE and DIR")->type_name("");
-  for (CLI::App* command : {make, listElements, extract}) addCommon(*command);
-}
 
 /// The words of the command line up to a "--", and those after it, which are never options. "--option=" becomes two
 /// words: the parser would take the word after it as its value.
@@ -247,60 +89,75 @@ std::string unexpected(const CLI::App& app, const CLI::App& command) {
          (nearest.empty() ? "" : ", did you mean " + nearest + "?");
 }
 
-/// Reads the values of the look's options; the failure names the option.
-Result<Look> readLook(const RawLook& raw) {
-  Look look;
-  const auto number = [](const std::string& text, const char* option, double least, double most,
-                         auto& to) -> Result<void> {
-    if (text.empty()) return {};
-    const auto value = parseNumber(text);
-    if (!value || *value < least || *value > most)
-      return Error::invalidInput(std::string(option) + " takes a number from " + shortNumber(least) + " to " +
-                                 shortNumber(most) + ", not '" + printable(text) + "'");
-    to = static_cast<std::remove_reference_t<decltype(to)>>(*value);
-    return {};
-  };
-  if (!raw.size.empty()) TRY_VOID(number(raw.size, "--size", 1, 2000, look.fontSize.emplace()));
-  TRY_VOID(number(raw.lineSpacing, "--line-spacing", 0, 100, look.lineSpacingFactor));
-  TRY_VOID(number(raw.shear, "--shear", -100, 100, look.shearFactor));
-  TRY_VOID(number(raw.rotate, "--rotate", -36000, 36000, look.rotation));
-  TRY_VOID(number(raw.opacity, "--opacity", 0, 1, look.opacity));
-  look.fontName = raw.font;
-  if (!raw.label.empty()) look.label = TRY(parseLabel(raw.label));
-  if (!raw.color.empty()) look.color = TRY(parseColor(raw.color));
-  if (!raw.center.empty()) look.labelCenter = TRY(parsePoint(raw.center));
-  if (!raw.effect.empty()) {
-    const auto tag = effectTagNamed(raw.effect);
-    if (!tag) return Error::invalidInput("there is no effect '" + printable(raw.effect) + "'");
-    look.effectTag = *tag;
-  }
-  return look;
+std::optional<std::filesystem::path> optionalPath(const std::string& text) {
+  return text.empty() ? std::nullopt : std::optional(std::filesystem::path(text));
 }
 
-Result<Arguments> readArguments(const Parser& parser, Command command) {
-  Arguments arguments;
-  arguments.command = command;
-  arguments.look = TRY(readLook(parser.raw));
-  if (!parser.raw.base.empty()) arguments.base = parser.raw.base;
+/// Reads the values of the look's options; the failure names the option.
+Result<void> readLook(const Parser& parser, const CLI::App& app, Arguments& arguments) {
+  for (const auto& [name, text] : parser.look) {
+    if (app.get_option_no_throw("--" + name) == nullptr || app.count("--" + name) == 0) continue;
+    arguments.lookOptions.emplace_back(name, text);
+    if (name != "base") TRY_VOID(setLookValue(arguments.look, name, text, "--"));
+  }
+  arguments.base = optionalPath(parser.look.at("base"));
+  arguments.lookFile = optionalPath(parser.lookFile);
+  arguments.savedLook = optionalPath(parser.savedLook);
   arguments.labelFromName = parser.labelFromName;
   arguments.gitExclude = parser.gitExclude;
   if (parser.labelFromName && !arguments.look.label.isNull())
     return Error::invalidInput("--label and --label-from-name exclude each other");
-  if (!parser.pixels.empty()) {
-    const auto pixels = parseNumber(parser.pixels);
-    if (!pixels || *pixels != static_cast<int>(*pixels) || *pixels < 16 || *pixels > 4096)
-      return Error::invalidInput("--pixels takes a whole number from 16 to 4096");
-    arguments.pixels = static_cast<int>(*pixels);
-  }
+  return {};
+}
+
+Result<int> readWhole(const std::string& text, const char* option, int least, int most) {
+  const auto number = parseNumber(text);
+  if (!number || *number < least || *number > most || *number != static_cast<int>(*number))
+    return Error::invalidInput(std::string(option) + " takes a whole number from " + std::to_string(least) + " to " +
+                               std::to_string(most));
+  return static_cast<int>(*number);
+}
+
+/// Reads where folders come from and how they are worked through.
+Result<void> readMany(const Parser& parser, Arguments& arguments) {
+  arguments.rowsFrom = optionalPath(parser.rowsFrom);
+  arguments.filesFrom = optionalPath(parser.filesFrom);
+  arguments.isNull = parser.isNull;
+  arguments.failsFast = parser.failsFast;
+  arguments.isVerbose = parser.isVerbose;
+  arguments.wantsColor = !parser.hasNoColor;
+  // A folder waits for the disk longer than it computes; beyond a few nothing is gained.
+  const int usualJobs = std::min(2 * usableProcessors(), 8);
+  arguments.jobs = parser.jobs.empty() ? usualJobs : TRY(readWhole(parser.jobs, "--jobs", 1, 64));
+  if (arguments.rowsFrom && arguments.filesFrom)
+    return Error::invalidInput("--from and --files-from exclude each other");
+  if (arguments.rowsFrom && !parser.paths.empty())
+    return Error::invalidInput("with --from the folders stand in the table, not among the arguments");
+  // What finds folders prints their names; for the others a list is the only place where it matters.
+  if (arguments.isNull && !arguments.filesFrom && arguments.command != Command::List)
+    return Error::invalidInput("--null says how the list of --files-from is written; there is none");
+  if (parser.isVerbose && parser.quiet) return Error::invalidInput("--verbose and --quiet exclude each other");
+  return {};
+}
+
+Result<Arguments> readArguments(const Parser& parser, Command command, const CLI::App& app) {
+  Arguments arguments;
+  arguments.command = command;
+  TRY_VOID(readLook(parser, app, arguments));
+  TRY_VOID(readMany(parser, arguments));
+  if (!parser.pixels.empty()) arguments.pixels = TRY(readWhole(parser.pixels, "--pixels", 16, 4096));
   for (const std::string& path : parser.paths) {
     if (path.empty()) return Error::invalidInput("an empty path names nothing");
     arguments.paths.emplace_back(path);
   }
   const PathCount count = pathCount(command);
-  if (parser.paths.size() < count.least) return Error::invalidInput(std::string(count.names) + " missing");
+  const bool hasList = arguments.rowsFrom || arguments.filesFrom;
+  if (parser.paths.size() < count.least && !hasList) return Error::invalidInput(std::string(count.names) + " missing");
   if (parser.paths.size() > count.most)
     return Error::invalidInput(std::string("takes ") + count.names + " and no more, not '" +
                                printable(parser.paths[count.most]) + "'");
+  if (command == Command::List && parser.isNull && (parser.json || parser.jsonLines))
+    return Error::invalidInput("--null prints bare names; it goes with neither --json nor --json-lines");
   if (parser.json && parser.jsonLines) return Error::invalidInput("--json and --json-lines exclude each other");
   arguments.form = parser.json ? OutputForm::Json : parser.jsonLines ? OutputForm::JsonLines : OutputForm::Words;
   arguments.isQuiet = parser.quiet;
@@ -372,7 +229,7 @@ std::variant<Arguments, Finished> parseArguments(int argc, const char* const* ar
   parser.paths.insert(parser.paths.end(), words.verbatim.begin(), words.verbatim.end());
   for (const auto& [command, app] : parser.commands) {
     if (!app->parsed()) continue;
-    auto arguments = readArguments(parser, command);
+    auto arguments = readArguments(parser, command, *app);
     if (!arguments) return complain(arguments.error().why(), *app);
     return *std::move(arguments);
   }

@@ -5,6 +5,7 @@
 #include <functional>
 #include <optional>
 #include <string>
+#include <utility>
 #include <variant>
 #include <vector>
 
@@ -39,13 +40,25 @@ struct Arguments {
   Command command = Command::Apply;
   /// Folders, or for the icns commands and render the files, in the order given. Raw bytes.
   std::vector<std::filesystem::path> paths;
+  /// What the look's options alone say.
   Look look;
+  /// The options of the look that were given, by name without dashes, and their values as typed; they are right.
+  std::vector<std::pair<std::string, std::string>> lookOptions;
   std::optional<std::filesystem::path> base;
   bool labelFromName = false;
-  bool gitExclude = false;  ///< keep git from showing what the icon consists of
-  int pixels = 512;         ///< side of a rendered PNG
+  std::optional<std::filesystem::path> lookFile;
+  std::optional<std::filesystem::path> savedLook;  ///< where `render` keeps the look
+  std::optional<std::filesystem::path> rowsFrom;   ///< a table of folders; "-" is standard input
+  std::optional<std::filesystem::path> filesFrom;  ///< a list of folders; "-" is standard input
+  bool isNull = false;                             ///< names in lists end with a zero byte, not with a line
+  int jobs = 1;                                    ///< folders worked on at a time
+  bool failsFast = false;                          ///< no further folder after one that failed
+  bool gitExclude = false;                         ///< keep git from showing what the icon consists of
+  int pixels = 512;                                ///< side of a rendered PNG
   OutputForm form = OutputForm::Words;
   bool isQuiet = false;
+  bool isVerbose = false;
+  bool wantsColor = true;
   bool isDryRun = false;
   bool crossesFileSystems = false;  ///< `list` goes on where another file system is mounted
 };

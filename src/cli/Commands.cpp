@@ -1,17 +1,23 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "cli/Commands.h"
 
+#include <atomic>
 #include <csignal>
 #include <cstdlib>
 
 #include "cli/ExitCode.h"
 #include "cli/SecondNotices.h"
+#include "cli/Terminal.h"
+#include "foundation/base/Interruption.h"
+#include "foundation/base/Log.h"
 
 namespace quorvane::cli {
 
 namespace {
 
-volatile std::sig_atomic_t receivedSignal = 0;
+// Set by the handler, and looked at by all threads.
+std::atomic<int> receivedSignal = 0;
+static_assert(std::atomic<int>::is_always_lock_free);
 
 void onSignal(int signal) {
   // The second one ends the program at once; files are never half-written, whatever moment that is.
@@ -20,7 +26,29 @@ void onSignal(int signal) {
     std::raise(signal);
   }
   receivedSignal = signal;
+  requestInterruption();
 }
+
+/// While it lives the log goes to the terminal as well, if the caller wants that.
+class VerboseLog {
+ public:
+  VerboseLog(bool isWanted, Reporter& reporter) : _isWanted(isWanted) {
+    if (!isWanted) return;
+    _before = setLogSink([this, &reporter](std::string_view category, std::string_view message) {
+      reporter.note(printable(std::string(category) + ": " + std::string(message)));
+      if (_before) _before(category, message);
+    });
+  }
+  ~VerboseLog() {
+    if (_isWanted) setLogSink(std::move(_before));
+  }
+  VerboseLog(const VerboseLog&) = delete;
+  VerboseLog& operator=(const VerboseLog&) = delete;
+
+ private:
+  bool _isWanted;
+  LogSink _before;
+};
 
 /// File managers run in a desktop session only; elsewhere nobody needs to be told twice.
 bool isInSession() {
@@ -44,28 +72,30 @@ void watchSignals() {
 
 int run(const Arguments& arguments, const IconServices& services) {
   Reporter reporter(commandName(arguments.command), arguments.form, arguments.isQuiet, arguments.isDryRun);
-  bool hasNothing = false;
+  const VerboseLog log(arguments.isVerbose, reporter);
+  bool isRightUse = true;
+  bool hasAny = true;
   SecondNotices secondNotices;
   const FolderBranding branding(services, isInSession() ? secondNotices.later() : FolderBranding::Later());
   switch (arguments.command) {
     case Command::Apply:
-      runApply(arguments, branding, reporter);
+      isRightUse = runApply(arguments, branding, reporter);
       break;
     case Command::Revert:
     case Command::Reset:
-      runWaysBack(arguments, branding, reporter);
+      isRightUse = runWaysBack(arguments, branding, reporter);
       break;
     case Command::Repair:
-      runRepair(arguments, branding, reporter);
+      isRightUse = runRepair(arguments, branding, reporter);
       break;
     case Command::Verify:
-      runVerify(arguments, branding, reporter);
-      break;
-    case Command::List:
-      hasNothing = !runList(arguments, branding, reporter);
+      isRightUse = runVerify(arguments, branding, reporter);
       break;
     case Command::Status:
-      hasNothing = !runStatus(arguments, branding, reporter);
+      isRightUse = runStatus(arguments, branding, reporter, hasAny);
+      break;
+    case Command::List:
+      hasAny = runList(arguments, branding, reporter);
       break;
     case Command::Render:
       runRender(arguments, services, reporter);
@@ -77,13 +107,11 @@ int run(const Arguments& arguments, const IconServices& services) {
       break;
   }
   secondNotices.finish();
-  if (pendingSignal() != 0) {
-    reporter.note("interrupted; " + std::to_string(reporter.successes()) + " done, " +
-                  std::to_string(reporter.failures()) + " failed");
-    return pendingSignal() == SIGTERM ? exitTerminated : exitInterrupted;
-  }
+  reporter.finish(pendingSignal() != 0);
+  if (pendingSignal() != 0) return pendingSignal() == SIGTERM ? exitTerminated : exitInterrupted;
+  if (!isRightUse) return exitWrongUse;
   if (reporter.failures() > 0) return exitFailed;
-  return hasNothing ? exitNothing : exitDone;
+  return hasAny ? exitDone : exitNothing;
 }
 
 }  // namespace quorvane::cli

@@ -2,14 +2,14 @@
 #include <QJsonArray>
 #include <cstdio>
 
-#include "app/core/Look.h"
+#include "app/core/BasePicture.h"
 #include "cli/Commands.h"
 #include "cli/Terminal.h"
+#include "cli/Wish.h"
 #include "foundation/FileReading.h"
 #include "foundation/base/Limits.h"
 #include "iconfamily/ElementStore.h"
 #include "iconfamily/ElementTypes.h"
-#include "iconfamily/IconFamilyInternals.h"
 #include "iconfamily/format/IcnsContainer.h"
 #include "imaging/PngCodec.h"
 
@@ -22,40 +22,48 @@ bool isIcnsName(const std::filesystem::path& path) {
   return extension.compare(QLatin1String(".icns"), Qt::CaseInsensitive) == 0;
 }
 
-/// The picture of any file that holds one: an icon family's largest, or a picture file's first.
-Result<Image> readPicture(const std::filesystem::path& path) {
-  const Bytes bytes = TRY(readPlainFile(path, limits::pictureFileBytes));
-  const auto read = [&]() -> Result<Image> {
-    if (!IconFamily::looksLikeFamily(bytes)) return Image::imageWithData(bytes);
-    const IconFamily family = IconFamily::initWithData(bytes);
-    TRY_VOID(family.check());
-    auto image = family.imageWithAllReps();
-    if (!image || !image->bitmapRepresentation()) return Error::invalidInput("the icon family holds no whole picture");
-    return *std::move(image);
-  };
-  auto image = read();
-  if (!image) return std::move(image).error().at(path);
-  return image;
+/// The name that a rendered icon has in the place of a folder's.
+Result<QString> outputName(const std::filesystem::path& out) {
+  const std::string name = out.stem().string();
+  if (out == "-" || !isUtf8(name)) return Error::invalidInput("there is no name for the label; give a --label");
+  return QString::fromStdString(name);
 }
 
-Result<Bytes> composedFile(const Arguments& arguments, const IconServices& services) {
+Result<Bytes> composedFile(const Arguments& arguments, const Wish& wish, const IconServices& services) {
+  const std::filesystem::path& out = arguments.paths.front();
   std::optional<Image> base;
-  if (arguments.base) {
-    base = TRY(readBasePicture(*arguments.base));
+  if (wish.base) {
+    base = TRY(readBasePicture(*wish.base));
   } else {
     base = services.kinds.systemIcon("fldr");
   }
   if (!base) return Error(ErrorKind::NotFound, "there is no folder picture to draw on; give one with --base");
-  const Image icon = TRY(composeIcon(arguments.look, *base));
-  if (isIcnsName(arguments.paths.front())) return TRY(IconFamily::iconFamilyWithThumbnailsOfImage(icon)).data();
+  const Image icon = TRY(composeIcon(TRY(wish.lookFor([&] { return outputName(out); })), *base));
+  if (isIcnsName(out)) return TRY(IconFamily::iconFamilyWithThumbnailsOfImage(icon)).data();
   return encodePng(icon.rendered(arguments.pixels, arguments.pixels));
+}
+
+/// The wish as the look file at a path may hold it.
+Result<SavedLook> lookToSave(const Wish& wish, const std::filesystem::path& path) {
+  SavedLook saved = wish.saved;
+  saved.base.reset();
+  if (wish.base) saved.base = TRY(innerReference(*wish.base, path));
+  return saved;
+}
+
+Result<IconFamily> familyOfFile(const std::filesystem::path& path) {
+  const auto encode = [&]() -> Result<IconFamily> {
+    return IconFamily::iconFamilyWithThumbnailsOfImage(
+        TRY(pictureFromBytes(TRY(readPlainFile(path, limits::pictureFileBytes)))));
+  };
+  auto family = encode();
+  if (!family) return std::move(family).error().at(path);
+  return family;
 }
 
 void makeIcns(const Arguments& arguments, Reporter& reporter) {
   const auto& [from, to] = std::tie(arguments.paths[0], arguments.paths[1]);
-  const auto picture = readPicture(from);
-  if (!picture) return reporter.failed(from, picture.error());
-  const auto family = IconFamily::iconFamilyWithThumbnailsOfImage(*picture);
+  const auto family = familyOfFile(from);
   if (!family) return reporter.failed(from, family.error());
   if (const auto written = writeOutputFile(to, family->bytes()); !written) return reporter.failed(to, written.error());
   reporter.done(to, "made", printable(to) + ": " + std::to_string(family->bytes().size()) + " bytes",
@@ -118,19 +126,6 @@ void extractIcns(const Arguments& arguments, Reporter& reporter) {
 
 }  // namespace
 
-Result<Image> readBasePicture(const std::filesystem::path& path) {
-  Image picture = TRY(readPicture(path));
-  // What the library does with a picture that is dropped on it: fitted into a square, as large as the canvas.
-  if (picture.representations().size() == 1) {
-    auto fitted = internals::resampleImage(picture, 512, ImageInterpolation::High);
-    if (!fitted) return Error::invalidInput("the file holds no picture").at(path);
-    picture = *std::move(fitted);
-  }
-  picture.setScalesWhenResized(true);
-  picture.setSize({128, 128});
-  return picture;
-}
-
 Result<void> writeOutputFile(const std::filesystem::path& path, ByteView bytes) {
   if (path == "-") {
     const bool isWritten =
@@ -144,10 +139,22 @@ Result<void> writeOutputFile(const std::filesystem::path& path, ByteView bytes) 
 
 void runRender(const Arguments& arguments, const IconServices& services, Reporter& reporter) {
   const std::filesystem::path& out = arguments.paths.front();
-  const auto file = composedFile(arguments, services);
+  const auto wish = readWish(arguments);
+  if (!wish) return reporter.failed(out, wish.error());
+  // Known before anything is written.
+  std::optional<SavedLook> saved;
+  if (arguments.savedLook) {
+    auto look = lookToSave(*wish, *arguments.savedLook);
+    if (!look) return reporter.failed(*arguments.savedLook, look.error());
+    saved = *std::move(look);
+  }
+  const auto file = composedFile(arguments, *wish, services);
   if (!file) return reporter.failed(out, file.error());
   if (!arguments.isDryRun)
     if (const auto written = writeOutputFile(out, *file); !written) return reporter.failed(out, written.error());
+  if (saved && !arguments.isDryRun)
+    if (const auto written = writeLookFile(*arguments.savedLook, *saved); !written)
+      return reporter.failed(*arguments.savedLook, written.error());
   if (out != "-") reporter.done(out, "rendered", printable(out) + ": " + std::to_string(file->size()) + " bytes");
 }
 

@@ -10,12 +10,6 @@ namespace quorvane::cli {
 
 namespace {
 
-void writeLine(std::FILE* stream, const std::string& text) {
-  std::fwrite(text.data(), 1, text.size(), stream);
-  std::fputc('\n', stream);
-  std::fflush(stream);
-}
-
 QString text(const std::string& words) {
   return QString::fromStdString(words);
 }
@@ -43,7 +37,21 @@ Reporter::~Reporter() {
   std::fflush(stdout);
 }
 
+void Reporter::writeLine(std::FILE* stream, const std::string& text) {
+  const std::lock_guard lock(_mutex);
+  if (_progress) _progress->clear();
+  std::fwrite(text.data(), 1, text.size(), stream);
+  std::fputc('\n', stream);
+  std::fflush(stream);
+}
+
+double Reporter::secondsSoFar() const {
+  return std::chrono::duration<double>(Clock::now() - _begun).count();
+}
+
 void Reporter::writeItem(QJsonObject item) {
+  const std::lock_guard lock(_mutex);
+  if (_progress) _progress->clear();
   if (_form == OutputForm::JsonLines) {
     item[QLatin1String("schema")] = schema;
     item[QLatin1String("command")] = text(_command);
@@ -61,6 +69,7 @@ void Reporter::writeItem(QJsonObject item) {
 void Reporter::done(const std::filesystem::path& path, const std::string& outcome, const std::string& words,
                     QJsonObject details) {
   ++_successes;
+  ++_outcomes[outcome];
   if (isJson()) {
     setPath(details, QStringLiteral("path"), path);
     details[QLatin1String("outcome")] = text(outcome);
@@ -70,15 +79,18 @@ void Reporter::done(const std::filesystem::path& path, const std::string& outcom
   }
 }
 
-void Reporter::failed(const std::filesystem::path& path, const Error& error) {
+void Reporter::failed(const std::filesystem::path& path, const Error& error, const std::optional<AskedIn>& in) {
   ++_failures;
   // The path that the caller gave is named, and the resolved one of the item at fault where that tells more.
   const std::string given = path.string();
   const bool isNamed = error.where().string().starts_with(given);
-  writeLine(stderr, "quorvane: " + printable(isNamed ? error.at(path).message() : given + ": " + error.message()));
+  const std::string list = in ? in->list.string() + ", line " + std::to_string(in->line) + ": " : "";
+  writeLine(stderr,
+            "quorvane: " + printable(list + (isNamed ? error.at(path).message() : given + ": " + error.message())));
   if (!isJson()) return;
   QJsonObject item;
-  setPath(item, QStringLiteral("path"), path);
+  if (in) item[QLatin1String("line")] = static_cast<qint64>(in->line);
+  setPath(item, QStringLiteral("path"), path.empty() && in ? in->list : path);
   item[QLatin1String("outcome")] = QLatin1String("failed");
   item[QLatin1String("reason")] = text(printable(error.why()));
   if (!error.where().empty()) setPath(item, QStringLiteral("where"), error.where());
@@ -90,8 +102,54 @@ void Reporter::note(const std::string& words) {
 }
 
 void Reporter::noteOnce(const std::string& words) {
+  const std::lock_guard lock(_mutex);
   constexpr std::size_t most = 64;
   if (_saidOnce.size() < most && _saidOnce.insert(words).second) note(words);
+}
+
+void Reporter::rawName(const std::filesystem::path& path) {
+  const std::lock_guard lock(_mutex);
+  ++_successes;
+  const std::string& name = path.native();
+  std::fwrite(name.data(), 1, name.size() + 1, stdout);
+  std::fflush(stdout);
+}
+
+void Reporter::showProgress(std::optional<std::size_t> total, bool hasColor) {
+  _total = total;
+  _progress.emplace(hasColor);
+}
+
+void Reporter::drawProgress() {
+  if (!_progress) return;
+  const std::lock_guard lock(_mutex);
+  _progress->draw({.done = static_cast<std::size_t>(_successes) + static_cast<std::size_t>(_failures),
+                   .failed = static_cast<std::size_t>(_failures),
+                   .total = _total,
+                   .seconds = secondsSoFar()});
+}
+
+void Reporter::finish(bool isInterrupted) {
+  if (_progress) _progress->clear();
+  _progress.reset();
+  const bool hasSum = !_outcomeWords.empty() && _successes + _failures > 1;
+  const std::string words = hasSum ? sum()
+                            : isInterrupted
+                                ? std::to_string(_successes) + " done, " + std::to_string(_failures) + " failed"
+                                : "";
+  if (!words.empty()) note((isInterrupted ? "interrupted; " : "") + words);
+}
+
+std::string Reporter::sum() const {
+  std::vector<std::string> parts;
+  for (const auto& [outcome, word] : _outcomeWords) {
+    const auto found = _outcomes.find(outcome);
+    parts.push_back(std::to_string(found == _outcomes.end() ? 0 : found->second) + " " + word);
+  }
+  parts.insert(parts.begin() + 1, std::to_string(_failures) + " failed");
+  std::string words = _isDryRun ? "[dry run] " : "";
+  for (std::size_t i = 0; i < parts.size(); ++i) words += (i == 0 ? "" : ", ") + parts[i];
+  return words + " in " + durationInWords(secondsSoFar());
 }
 
 }  // namespace quorvane::cli

@@ -1,25 +1,23 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <filesystem>
 #include <string>
-#include <string_view>
-#include <vector>
+
+#include "foundation/base/Text.h"
 
 namespace quorvane::cli {
 
-/// Text that cannot drive a terminal: control characters, bytes that are no UTF-8, and the characters that turn or hide
-/// text are shown as \xHH or \u{HHHH}; a backslash as it is.
-std::string printable(std::string_view text);
-inline std::string printable(const std::string& text) {
-  return printable(std::string_view(text));
-}
-std::string printable(const std::filesystem::path& path);
+/// Whether the file (0 standard input, 1 output, 2 errors) is a terminal.
+bool isTerminal(int file);
 
-/// True when the bytes are well-formed UTF-8 (surrogates and overlong forms are not).
-bool isUtf8(std::string_view bytes);
+/// Whether lines on the terminal behind standard error can be redrawn; false for files and for TERM=dumb or none.
+bool canRedraw();
 
-/// The word of `known` that is nearest to `given` by editing steps, when it is near enough to suggest; else empty.
-std::string nearestWord(std::string_view given, const std::vector<std::string>& known);
+/// Colours only on a terminal that can redraw, and only where nobody objects: neither the caller (`isWanted`) nor the
+/// environment, by a NO_COLOR that is not empty.
+bool canColor(bool isWanted);
+
+/// Characters in a line of the terminal behind standard error; 80 when it does not say.
+int terminalWidth();
 
 }  // namespace quorvane::cli

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include <malloc.h>
 #include <unistd.h>
 
 #include <QGuiApplication>
@@ -57,6 +58,13 @@ int codeAfterOutput(int code) {
   return code == exitDone ? exitFailed : code;
 }
 
+/// Pictures come and go by megabytes. By default each is mapped and unmapped again: thousands of page faults a folder,
+/// for which threads wait for each other.
+void keepFreedMemory() {
+  ::mallopt(M_MMAP_THRESHOLD, 16 << 20);
+  ::mallopt(M_TRIM_THRESHOLD, 64 << 20);
+}
+
 /// Text needs fonts, fonts need this; other commands start faster without.
 bool drawsText(Command command) {
   return command == Command::Apply || command == Command::Render;
@@ -82,6 +90,7 @@ int main(int argc, char** argv) {
   if (const auto* finished = std::get_if<Finished>(&parsed)) return codeAfterOutput(finished->exitCode);
   const auto& arguments = std::get<Arguments>(parsed);
 
+  keepFreedMemory();
   // Never a display, whatever the session has; and no word of Qt's among ours.
   qputenv("QT_QPA_PLATFORM", "offscreen");
   qInstallMessageHandler([](QtMsgType type, const QMessageLogContext&, const QString& words) {
@@ -103,5 +112,7 @@ int main(int argc, char** argv) {
   StampingNotices notices;
   const auto metadata = makeDesktopMetadata();
   const auto marks = makeDesktopMarks(*metadata);
-  return codeAfterOutput(run(arguments, {.forks = forks, .kinds = *kinds, .notices = notices, .marks = marks.get()}));
+  FamilyCache families;
+  return codeAfterOutput(run(
+      arguments, {.forks = forks, .kinds = *kinds, .notices = notices, .families = &families, .marks = marks.get()}));
 }

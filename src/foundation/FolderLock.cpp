@@ -10,6 +10,7 @@
 #include "foundation/Folder.h"
 #include "foundation/FolderNames.h"
 #include "foundation/FolderRemoval.h"
+#include "foundation/base/Interruption.h"
 #include "foundation/base/Log.h"
 
 namespace quorvane {
@@ -39,6 +40,7 @@ Result<bool> lock(int handle, std::chrono::milliseconds wait) {
         return Error::system(errno, "cannot lock folder");
     }
     if (std::chrono::steady_clock::now() >= end) return Error::refused("another program is changing this folder");
+    if (isInterruptionRequested()) return Error::refused("interrupted while another program is changing this folder");
     std::this_thread::sleep_for(lockPause);
   }
   return true;

@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <array>
+#include <atomic>
 #include <cstdint>
 #include <ctime>
 
@@ -35,7 +36,7 @@ std::string makeTemporary() {
   std::array<std::uint8_t, randomLetters> random{};
   if (::getrandom(random.data(), random.size(), GRND_NONBLOCK) != static_cast<ssize_t>(random.size())) {
     // Early after the start of the machine. Names need only differ: whoever meets an existing one tries another.
-    static std::uint64_t count = 0;
+    static std::atomic<std::uint64_t> count = 0;
     std::uint64_t mixed = (static_cast<std::uint64_t>(::getpid()) << 32) ^ static_cast<std::uint64_t>(::clock());
     mixed = (mixed + ++count) * 0x9E3779B97F4A7C15U;
     for (auto& byte : random) byte = static_cast<std::uint8_t>((mixed >>= 7) & 0xFF);

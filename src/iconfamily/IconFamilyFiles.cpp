@@ -11,9 +11,9 @@ namespace quorvane {
 
 namespace {
 
-Result<IconFamily> familyOfImage(const std::optional<Image>& image) {
+Result<IconFamily> familyOfImage(const std::optional<Image>& image, const IconServices& services) {
   if (!image) return Error(ErrorKind::NotFound, "there is no icon of its kind");
-  return IconFamily::iconFamilyWithThumbnailsOfImage(*image);
+  return services.familyOfImage(*image);
 }
 
 }  // namespace
@@ -28,13 +28,13 @@ Result<IconFamily> IconFamily::iconFamilyWithIconOfFile(const std::filesystem::p
                                                         const IconServices& services) {
   // Of a custom icon without a whole element nothing can be shown; nor could it be put back.
   if (auto custom = TRY(readCustomIcon(path, services.forks)); custom && custom->check()) return *std::move(custom);
-  auto family = familyOfImage(services.kinds.iconForKindOfFile(path));
+  auto family = familyOfImage(services.kinds.iconForKindOfFile(path), services);
   if (!family) return std::move(family).error().at(path);
   return family;
 }
 
 Result<IconFamily> IconFamily::iconFamilyWithSystemIcon(FourCharCode type, const IconServices& services) {
-  return familyOfImage(services.kinds.systemIcon(type));
+  return familyOfImage(services.kinds.systemIcon(type), services);
 }
 
 Result<void> IconFamily::writeToFile(const std::filesystem::path& path) const {

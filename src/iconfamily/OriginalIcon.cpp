@@ -228,11 +228,11 @@ Result<void> AppleDoubleForkStore::saveOriginal(const Folder& folder, Folder& in
 Result<void> AppleDoubleForkStore::checkOriginal(const Folder& from) const {
   const OriginalState state = TRY(readState(from));
   for (const auto& each : iconFileKeys) {
-    TRY(isKept(from, state, each.key));
-    TRY(isKept(from, state, each.companionKey));
+    TRY_VOID(isKept(from, state, each.key));
+    TRY_VOID(isKept(from, state, each.companionKey));
   }
   for (const char* key : {insideKey, besideKey})
-    if (state.tellsOf(key)) TRY(isKept(from, state, key));
+    if (state.tellsOf(key)) TRY_VOID(isKept(from, state, key));
   return {};
 }
 

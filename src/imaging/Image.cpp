@@ -72,6 +72,12 @@ std::optional<BitmapImageRep> Image::bitmapRepresentation() const {
   return std::nullopt;
 }
 
+bool Image::isSameAs(const Image& other) const {
+  return _size == other._size && _scalesWhenResized == other._scalesWhenResized &&
+         std::ranges::equal(_representations, other._representations,
+                            [](const ImageRep& a, const ImageRep& b) { return a.isSameAs(b); });
+}
+
 std::optional<ImageRep> Image::bestRepresentation() const {
   if (_representations.empty()) return std::nullopt;
   return _representations.front();

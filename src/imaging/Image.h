@@ -29,13 +29,16 @@ class ImageRep {
   [[nodiscard]] bool isPending() const;
   /// The pixels; decodes a pending one. nullopt when decoding failed (and then ever after).
   [[nodiscard]] std::optional<BitmapImageRep> bitmap() const;
+  /// True for copies of each other.
+  [[nodiscard]] bool isSameAs(const ImageRep& other) const { return _state == other._state; }
 
  private:
   struct State;
   std::shared_ptr<State> _state;
 };
 
-/// A size in points and an ordered list of representations. A value; copies are cheap.
+/// A size in points and an ordered list of representations. A value; copies are cheap, and may be used by several
+/// threads.
 class Image {
  public:
   Image() = default;
@@ -60,6 +63,9 @@ class Image {
 
   /// The first representation that is a bitmap (a pending one is decoded; one that fails is passed over).
   [[nodiscard]] std::optional<BitmapImageRep> bitmapRepresentation() const;
+  /// True for copies of each other that have one size still: their pictures cannot differ.
+  [[nodiscard]] bool isSameAs(const Image& other) const;
+
   /// The first representation, if any.
   [[nodiscard]] std::optional<ImageRep> bestRepresentation() const;
   /// The smallest representation with at least that many pixels both ways, else the largest; failing ones are passed

@@ -39,9 +39,7 @@ std::optional<BitmapImageRep> readPicture(const QString& name) {
   return decodePng(view, pictureSizes.front()).toOptional();
 }
 
-}  // namespace
-
-std::optional<Image> OwnKindIcons::systemIcon(FourCharCode type) const {
+std::optional<Image> ownPicture(FourCharCode type) {
   const char* name = pictureName(type);
   if (name == nullptr) return std::nullopt;
   registerPictures();
@@ -54,6 +52,12 @@ std::optional<Image> OwnKindIcons::systemIcon(FourCharCode type) const {
   }
   if (image.representations().empty()) return std::nullopt;
   return image;
+}
+
+}  // namespace
+
+std::optional<Image> OwnKindIcons::systemIcon(FourCharCode type) const {
+  return _icons.get(type, [&] { return ownPicture(type); });
 }
 
 std::optional<Image> OwnKindIcons::iconForKindOfFile(const std::filesystem::path& path) const {

@@ -6,12 +6,14 @@
 #include <optional>
 #include <vector>
 
+#include "foundation/base/BoundedCache.h"
 #include "foundation/base/FourCharCode.h"
 #include "imaging/Image.h"
 
 namespace quorvane {
 
-/// Where the icon of a kind of thing (a folder, a text file, a disk) comes from. Custom icons play no part here.
+/// Where the icon of a kind of thing (a folder, a text file, a disk) comes from. Custom icons play no part here. Safe
+/// to share between threads, as all realisations are.
 class KindIcons {
  public:
   virtual ~KindIcons() = default;
@@ -26,6 +28,10 @@ class OwnKindIcons : public KindIcons {
  public:
   [[nodiscard]] std::optional<Image> iconForKindOfFile(const std::filesystem::path& path) const override;
   [[nodiscard]] std::optional<Image> systemIcon(FourCharCode type) const override;
+
+ private:
+  /// So that each picture is decoded once.
+  mutable BoundedCache<FourCharCode, std::optional<Image>> _icons{8};
 };
 
 /// Asks one source after the other; the first answer counts.

@@ -3,9 +3,9 @@
 
 #include <gtest/gtest.h>
 
+#include "app/core/LookValues.h"
 #include "cli/ExitCode.h"
 #include "cli/Terminal.h"
-#include "cli/Values.h"
 
 namespace quorvane::cli {
 namespace {
@@ -58,6 +58,21 @@ TEST(Arguments, AnEmptyValueTakesNoFolderForItsOwn) {
   EXPECT_EQ(parse({"apply", "--label=a=", "A"}).arguments.look.label, QStringLiteral("a="));
 }
 
+TEST(Arguments, NameWhereManyFoldersAndTheirLookComeFrom) {
+  const auto outcome = parse({"apply", "--look", "a.look", "--label=", "--size", "12", "--files-from", "-", "-0", "-j",
+                              "3", "--fail-fast", "--no-color", "A"});
+  ASSERT_EQ(outcome.exitCode, -1) << outcome.complaint;
+  const Arguments& arguments = outcome.arguments;
+  EXPECT_EQ(arguments.lookFile, "a.look");
+  EXPECT_EQ(arguments.lookOptions, (std::vector<std::pair<std::string, std::string>>{{"label", ""}, {"size", "12"}}));
+  EXPECT_EQ(arguments.filesFrom, "-");
+  EXPECT_TRUE(arguments.isNull && arguments.failsFast && !arguments.wantsColor && !arguments.rowsFrom);
+  EXPECT_EQ(arguments.jobs, 3);
+  EXPECT_GE(parse({"reset", "A"}).arguments.jobs, 1);
+  EXPECT_EQ(parse({"apply", "--from", "t.csv"}).arguments.rowsFrom, "t.csv");
+  EXPECT_EQ(parse({"render", "--save-look", "x", "o.png"}).arguments.savedLook, "x");
+}
+
 TEST(Arguments, WrongUseSaysWhatAndEndsWithTwo) {
   struct Row {
     std::vector<std::string> words;
@@ -80,6 +95,12 @@ TEST(Arguments, WrongUseSaysWhatAndEndsWithTwo) {
            Row{{"render", "a.png", "b.png"}, "not 'b.png'"},
            Row{{"icns"}, ""},
            Row{{"render", "--pixels", "10.5", "out.png"}, "whole number"},
+           Row{{"apply", "--jobs", "0", "x"}, "--jobs takes a whole number from 1 to 64"},
+           Row{{"apply", "--from", "a.csv", "--files-from", "b"}, "exclude each other"},
+           Row{{"apply", "--from", "a.csv", "x"}, "with --from the folders stand in the table"},
+           Row{{"reset", "--null", "x"}, "--null says how the list of --files-from is written"},
+           Row{{"list", "--null", "--json", "x"}, "--null prints bare names"},
+           Row{{"apply", "--verbose", "--quiet", "x"}, "exclude each other"},
        }) {
     const auto outcome = parse(row.words);
     EXPECT_EQ(outcome.exitCode, exitWrongUse) << row.complaint;

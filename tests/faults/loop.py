@@ -98,8 +98,11 @@ class Bench:
         broken = []
         if number % 3 == 0:
             code, out, err = self.run(self.command, self.root)
+            again = self.picture()
             for path in self.folders:
-                broken += check_finished(path, code, self.picture(), self.new, out + err)
+                # What is made anew from a picture twice differs in the last bit of some pixels.
+                wished = again if self.command[0] == "repair" and again.shown[path][1] else self.new
+                broken += check_finished(path, code, again, wished, out + err) + check_sound(path, again)
         elif number % 3 == 1:
             code, out, err = self.run(["repair", *self.paths], self.root)
             broken += [] if code == 0 else [f"cannot be mended ({code}): {out + err}"]

@@ -3,6 +3,8 @@
 
 #include <QCryptographicHash>
 #include <algorithm>
+#include <functional>
+#include <tuple>
 
 #include "foundation/base/Limits.h"
 #include "imaging/PngCodec.h"
@@ -66,22 +68,25 @@ Result<void> BrandPicture::write(Folder& folder) const {
   Folder holder = TRY(folder.openChild(holderName, Folder::Access::Write));
   const auto present = holder.readFile(nameIn(_path), limits::iconFileBytes);
   if (!present.ok()) TRY_VOID(clear(holder, nameIn(_path)));
-  TRY(holder.writeFile(nameIn(_path), _bytes));
+  TRY_VOID(holder.writeFile(nameIn(_path), _bytes));
   return {};
 }
 
 Result<std::vector<std::string>> BrandPicture::allIn(const Folder& folder) {
-  std::vector<std::string> found;
-  if (!TRY(hasHolder(folder))) return found;
+  if (!TRY(hasHolder(folder))) return std::vector<std::string>();
   const Folder holder = TRY(folder.openChild(holderName, Folder::Access::Read));
+  std::vector<std::tuple<time_t, long, std::string>> dated;
   for (const std::string& name : TRY(holder.names())) {
-    std::string path = holderName + "/" + name;
+    const std::string path = holderName + "/" + name;
     if (!isMarkPicture(path)) continue;
     // Pipes and devices no one takes for pictures, and we remove none.
     const auto info = TRY(holder.statusOf(name));
     if (info && (S_ISREG(info->st_mode) || S_ISLNK(info->st_mode) || S_ISDIR(info->st_mode)))
-      found.push_back(std::move(path));
+      dated.emplace_back(info->st_mtim.tv_sec, info->st_mtim.tv_nsec, path);
   }
+  std::ranges::sort(dated, std::greater());
+  std::vector<std::string> found;
+  for (const auto& each : dated) found.push_back(std::get<std::string>(each));
   return found;
 }
 

@@ -28,8 +28,8 @@ class BrandPicture {
   /// Writes it beside those that are there. The folder that holds them must be there.
   Result<void> write(Folder& folder) const;
 
-  /// The pictures in a folder, and what passes itself off as one, as paths relative to it; none without the folder that
-  /// holds them.
+  /// The pictures in a folder, and what passes itself off as one, as paths relative to it, the newest first; none
+  /// without the folder that holds them.
   static Result<std::vector<std::string>> allIn(const Folder& folder);
   /// Removes them save the one of that path.
   static Result<void> removeAll(Folder& folder, const std::optional<std::string>& except = {});

@@ -18,7 +18,7 @@ Result<void> completeIconFile(Folder& folder, const ForkStore& forks) {
   if (TRY(findIconFile(folder))) return {};
   for (const std::string& beside : forks.filesBeside(iconFileName)) {
     if (!TRY(folder.statusOf(beside))) continue;
-    TRY(folder.writeFile(iconFileName, {}));
+    TRY_VOID(folder.writeFile(iconFileName, {}));
     break;
   }
   return {};
@@ -32,17 +32,18 @@ Result<std::optional<IconFamily>> soundFamily(const Folder& folder, const ForkSt
   return family;
 }
 
-/// The family made anew from the picture beside the record; fails as soundFamily() does.
+/// The family made anew from the picture beside the record; fails as soundFamily() does. An interruption may have left
+/// two pictures: then from the one that was written last.
 Result<std::optional<IconFamily>> familyFromPicture(const Folder& folder) {
-  const auto pictures = TRY(BrandPicture::allIn(folder));
-  if (pictures.size() != 1) return std::optional<IconFamily>();
-  const auto bytes = BrandPicture::read(folder, pictures.front());
-  if (!bytes.ok() && bytes.error().kind() == ErrorKind::System) return bytes.error();
-  auto bitmap = bytes.ok() ? decodePng(*bytes, limits::elementPixels) : bytes.error();
-  if (!bitmap.ok()) return std::optional<IconFamily>();
-  auto family = IconFamily::iconFamilyWithThumbnailsOfImage(Image::imageWithBitmapImageRep(*bitmap));
-  if (!family.ok()) return std::optional<IconFamily>();
-  return std::optional(*std::move(family));
+  for (const std::string& path : TRY(BrandPicture::allIn(folder))) {
+    const auto bytes = BrandPicture::read(folder, path);
+    if (!bytes.ok() && bytes.error().kind() == ErrorKind::System) return bytes.error();
+    const auto bitmap = bytes.ok() ? decodePng(*bytes, limits::elementPixels) : bytes.error();
+    if (!bitmap.ok()) continue;
+    auto family = IconFamily::iconFamilyWithThumbnailsOfImage(Image::imageWithBitmapImageRep(*bitmap));
+    if (family.ok()) return std::optional(*std::move(family));
+  }
+  return std::optional<IconFamily>();
 }
 
 /// Companions that cannot be read are never overwritten; out of the way they can be looked at.

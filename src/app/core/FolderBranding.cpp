@@ -65,17 +65,21 @@ Result<IconFamily> FolderBranding::familyFromBefore(const Folder& folder) const 
   if (original && original->check()) return *original;
   const auto image = _services.kinds.iconForKindOfFile(folder.path());
   if (!image) return Error::invalidInput("there is no picture of its kind").at(folder.path());
-  return IconFamily::iconFamilyWithThumbnailsOfImage(*image);
+  return _services.familyOfImage(*image);
 }
 
 Result<Image> FolderBranding::_iconImageForPath(const std::filesystem::path& path) const {
   return imageOf(TRY(IconFamily::iconFamilyWithIconOfFile(path, _services)), path, shownSize, _services.kinds);
 }
 
+Result<IconFamily> FolderBranding::originalFamily(const Folder& folder) const {
+  auto backup = TRY(readBackup(folder));
+  return backup ? *std::move(backup) : familyFromBefore(folder);
+}
+
 Result<Image> FolderBranding::originalIconImage(const std::filesystem::path& path) const {
   const Folder folder = TRY(Folder::open(path, Folder::Access::Read));
-  const auto backup = TRY(readBackup(folder));
-  return imageOf(backup ? *backup : TRY(familyFromBefore(folder)), path, canvasSize, _services.kinds);
+  return imageOf(TRY(originalFamily(folder)), path, canvasSize, _services.kinds);
 }
 
 Result<Folder> FolderBranding::openForWriting(const std::filesystem::path& path, WriteMode mode) const {
@@ -95,7 +99,7 @@ Result<bool> FolderBranding::backupIconForFolderAtPath(const std::filesystem::pa
 Result<bool> FolderBranding::backupIcon(Folder& folder) const {
   // Whatever stands there, an existing backup is never replaced.
   if (TRY(folder.statusOf(backupName))) return false;
-  TRY(folder.writeFile(backupName, TRY(familyFromBefore(folder)).bytes()));
+  TRY_VOID(folder.writeFile(backupName, TRY(familyFromBefore(folder)).bytes()));
   return true;
 }
 
@@ -156,7 +160,25 @@ Result<BrandingResult> FolderBranding::writeIconWithImage(const std::optional<Im
                                                           const std::filesystem::path& toPath, WriteMode mode) const {
   if (!image) return Error::invalidInput("there is no picture to make an icon of").at(toPath);
   Folder folder = TRY(openForWriting(toPath, mode));
-  const IconFamily family = TRY(IconFamily::iconFamilyWithThumbnailsOfImage(*image));
+  return writeFamily(TRY(IconFamily::iconFamilyWithThumbnailsOfImage(*image)), folder, mode);
+}
+
+Result<BrandingResult> FolderBranding::applyLook(const Look& look, const std::optional<BaseReference>& base,
+                                                 IconMaker& maker, const std::filesystem::path& path,
+                                                 WriteMode mode) const {
+  // Held from here on: somebody else's apply in between would make its icon the one that is drawn on.
+  Folder folder = TRY(openForWriting(path, mode));
+  const auto original = [&]() -> Result<IconMaker::Base> {
+    const auto kindIcon = [&] { return _services.kinds.iconForKindOfFile(folder.path()); };
+    auto picture = maker.base(TRY(originalFamily(folder)), kindIcon);
+    if (!picture) return std::move(picture).error().at(path);
+    return picture;
+  };
+  const IconMaker::Base picture = TRY(base ? maker.base(*base) : original());
+  return writeFamily(TRY(maker.icon(look, picture)), folder, mode);
+}
+
+Result<BrandingResult> FolderBranding::writeFamily(const IconFamily& family, Folder& folder, WriteMode mode) const {
   const BrandPicture picture = TRY(BrandPicture::of(family));
   const auto state = TRY(BrandingRecord::state(folder));
   const bool hasBackup = TRY(folder.statusOf(backupName)).has_value();
@@ -193,7 +215,9 @@ void FolderBranding::noteAgain(const std::filesystem::path& path) const {
   if (!_later) return;
   // Some file managers look too early the first time and keep what they saw.
   _later(secondNotice, [&notices = _services.notices, path] {
-    if (auto folder = Folder::open(path, Folder::Access::Write)) (void)notices.noteDirectoryModified(*folder);
+    // Whoever holds it now, this run perhaps, tells of it anew.
+    constexpr std::chrono::milliseconds noWait{0};
+    if (auto folder = Folder::open(path, Folder::Access::Write, noWait)) (void)notices.noteDirectoryModified(*folder);
   });
 }
 

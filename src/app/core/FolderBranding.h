@@ -11,6 +11,7 @@
 
 #include "app/core/BrandPicture.h"
 #include "app/core/BrandingRecord.h"
+#include "app/core/IconMaker.h"
 #include "foundation/Folder.h"
 #include "foundation/base/Result.h"
 #include "iconfamily/IconFamily.h"
@@ -63,7 +64,8 @@ enum class WriteMode {
 /// the old one back. One operation works on one folder at a time and excludes other writers of ours on it.
 ///
 /// Two ways back: `revert` puts the backed-up picture back as a custom icon, as the window's button does; `reset` gives
-/// back exactly what stood there before the first apply, a former custom icon or none, bit for bit.
+/// back exactly what stood there before the first apply, a former custom icon or none, bit for bit. Safe to share
+/// between threads.
 class FolderBranding {
  public:
   /// Runs something after a delay, as an event loop can. File managers are told of a new icon a second time then.
@@ -82,8 +84,8 @@ class FolderBranding {
 
   /// The folder's present icon as it is shown, 512 x 512 points, scalable.
   [[nodiscard]] Result<Image> _iconImageForPath(const std::filesystem::path& path) const;
-  /// The icon from before the first apply: the backup's picture when there is one, else the present icon. What the
-  /// command line draws on, so that a second run does not draw a label over a label.
+  /// The icon from before the first apply: the backup's picture when there is one, else the present icon. What looks
+  /// are drawn on, so that a second run does not draw a label over a label.
   [[nodiscard]] Result<Image> originalIconImage(const std::filesystem::path& path) const;
 
   /// Writes the folder's present icon as the backup. False, and nothing done, when something stands there already.
@@ -93,6 +95,11 @@ class FolderBranding {
   /// managers. A backup that exists or cannot be written does not stop it. On failure the old icon stays.
   Result<BrandingResult> writeIconWithImage(const std::optional<Image>& image, const std::filesystem::path& toPath,
                                             WriteMode mode = WriteMode::Write) const;
+
+  /// The same with an icon that is made while the folder is held: the look drawn on the base, or, without one, on the
+  /// icon from before the first apply.
+  Result<BrandingResult> applyLook(const Look& look, const std::optional<BaseReference>& base, IconMaker& maker,
+                                   const std::filesystem::path& path, WriteMode mode = WriteMode::Write) const;
 
   /// Puts the backed-up icon back as the custom icon and, only if that succeeds, removes the backup.
   Result<BrandingResult> revert(const std::filesystem::path& path, WriteMode mode = WriteMode::Write) const;
@@ -112,6 +119,9 @@ class FolderBranding {
 
   [[nodiscard]] Result<Folder> openForWriting(const std::filesystem::path& path, WriteMode mode) const;
   Result<bool> backupIcon(Folder& folder) const;
+  /// The icon from before the first apply.
+  [[nodiscard]] Result<IconFamily> originalFamily(const Folder& folder) const;
+  Result<BrandingResult> writeFamily(const IconFamily& family, Folder& folder, WriteMode mode) const;
   /// The backup's family; nullopt without a backup. Fails on one that is no plain file or no icon.
   static Result<std::optional<IconFamily>> readBackup(const Folder& folder);
   /// The icon from before the first apply, where there is no backup of it.

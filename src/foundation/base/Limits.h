@@ -58,6 +58,16 @@ inline constexpr std::size_t pictureFileBytes = std::size_t{512} << 20;
 /// Longest label in bytes and lines; each costs layout time.
 inline constexpr std::size_t labelBytes = 64 * 1024;
 inline constexpr std::size_t labelLines = 1000;
+/// Longest name of a font, which is looked for piece by piece; real ones stay below 100 bytes.
+inline constexpr std::size_t fontNameBytes = 1024;
+
+/// Longest path of a list of folders: the system takes 4095 bytes, so a longer one is no path but a mistaken file.
+inline constexpr std::size_t listedPathBytes = std::size_t{64} << 10;
+/// Longest row of a table of folders, and its columns. A label is the longest field, six times as long as escaped JSON.
+inline constexpr std::size_t rowBytes = std::size_t{1} << 20;
+inline constexpr std::size_t rowColumns = 64;
+/// Longest look file: a label that is escaped throughout, and room for what other programs keep in it.
+inline constexpr std::size_t lookFileBytes = std::size_t{1} << 20;
 
 /// Width and height of a composed icon and of a label's picture: four times the largest slot of a family. A larger base
 /// is composed at this size.

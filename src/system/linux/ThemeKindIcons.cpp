@@ -57,6 +57,22 @@ QString specialFolderIcon(const QString& path) {
   return {};
 }
 
+/// The first of these icons that the theme has large enough.
+std::optional<Image> themeIcon(const QStringList& names) {
+  for (const QString& name : names) {
+    if (name.isEmpty() || !QIcon::hasThemeIcon(name)) continue;
+    const QImage picture = QIcon::fromTheme(name).pixmap(QSize(wantedPixels, wantedPixels), 1.0).toImage();
+    if (picture.width() < leastPixels && picture.height() < leastPixels) continue;
+    if (auto bitmap = BitmapImageRep::bitmapImageRepWithCGImageRef(picture)) {
+      Image image(iconPoints);
+      image.setScalesWhenResized(true);
+      image.addRepresentation(*std::move(bitmap));
+      return image;
+    }
+  }
+  return std::nullopt;
+}
+
 }  // namespace
 
 QString sessionIconTheme() {
@@ -98,18 +114,8 @@ ThemeKindIcons::ThemeKindIcons() {
 
 std::optional<Image> ThemeKindIcons::iconNamed(const QStringList& names) const {
   if (!_hasTheme) return std::nullopt;
-  for (const QString& name : names) {
-    if (name.isEmpty() || !QIcon::hasThemeIcon(name)) continue;
-    const QImage picture = QIcon::fromTheme(name).pixmap(QSize(wantedPixels, wantedPixels), 1.0).toImage();
-    if (picture.width() < leastPixels && picture.height() < leastPixels) continue;
-    if (auto bitmap = BitmapImageRep::bitmapImageRepWithCGImageRef(picture)) {
-      Image image(iconPoints);
-      image.setScalesWhenResized(true);
-      image.addRepresentation(*std::move(bitmap));
-      return image;
-    }
-  }
-  return std::nullopt;
+  const std::lock_guard lock(_mutex);
+  return _icons.get(QStringList(QIcon::themeName()) + names, [&] { return themeIcon(names); });
 }
 
 std::optional<Image> ThemeKindIcons::iconForKindOfFile(const std::filesystem::path& path) const {

@@ -2,7 +2,9 @@
 #pragma once
 
 #include <QStringList>
+#include <mutex>
 
+#include "foundation/base/BoundedCache.h"
 #include "system/KindIcons.h"
 
 namespace quorvane {
@@ -18,6 +20,9 @@ class ThemeKindIcons : public KindIcons {
  private:
   [[nodiscard]] std::optional<Image> iconNamed(const QStringList& names) const;
   bool _hasTheme = false;
+  mutable std::mutex _mutex;  ///< Qt's icon themes are for one thread at a time
+  /// By the theme's name and the wanted ones.
+  mutable BoundedCache<QStringList, std::optional<Image>> _icons{8};
 };
 
 /// The name of the icon theme that the session's settings give, by the desktop that runs; empty without one.

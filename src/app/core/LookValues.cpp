@@ -1,0 +1,148 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/core/LookValues.h"
+
+#include <algorithm>
+#include <array>
+#include <charconv>
+#include <cmath>
+
+#include "app/core/EffectPresets.h"
+#include "foundation/base/Limits.h"
+#include "foundation/base/Text.h"
+
+namespace quorvane {
+
+namespace {
+
+constexpr auto numbers = std::to_array<LookNumber>({
+    {"size", 1, 2000, [](Look& look, double value) { look.fontSize = value; },
+     [](const Look& look) { return look.fontSize; }},
+    {"line-spacing", 0, 100, [](Look& look, double value) { look.lineSpacingFactor = static_cast<float>(value); },
+     [](const Look& look) -> std::optional<double> { return look.lineSpacingFactor; }},
+    {"shear", -100, 100, [](Look& look, double value) { look.shearFactor = static_cast<float>(value); },
+     [](const Look& look) -> std::optional<double> { return look.shearFactor; }},
+    {"rotate", -36000, 36000, [](Look& look, double value) { look.rotation = static_cast<float>(value); },
+     [](const Look& look) -> std::optional<double> { return look.rotation; }},
+    {"opacity", 0, 1, [](Look& look, double value) { look.opacity = static_cast<float>(value); },
+     [](const Look& look) -> std::optional<double> { return look.opacity; }},
+});
+
+constexpr auto names = std::to_array<std::string_view>(
+    {"label", "font", "size", "color", "effect", "line-spacing", "shear", "rotate", "opacity", "center"});
+
+}  // namespace
+
+std::span<const LookNumber> lookNumbers() {
+  return numbers;
+}
+
+std::span<const std::string_view> lookValueNames() {
+  return names;
+}
+
+Result<void> checkLookNumber(const LookNumber& number, double value, std::string_view text, std::string_view prefix) {
+  if (value >= number.least && value <= number.most) return {};
+  return Error::invalidInput(std::string(prefix) + std::string(number.name) + " takes a number from " +
+                             shortNumber(number.least) + " to " + shortNumber(number.most) + ", not '" + excerpt(text) +
+                             "'");
+}
+
+Result<void> setLookValue(Look& look, std::string_view name, std::string_view text, std::string_view prefix) {
+  if (std::ranges::find(names, name) == names.end())
+    return Error(ErrorKind::NotFound, "there is no value '" + excerpt(name) + "' of a look");
+  if (text.empty()) return {};
+  if (const auto* number = std::ranges::find(numbers, name, &LookNumber::name); number != numbers.end()) {
+    const double value = parseNumber(text).value_or(std::nan(""));
+    TRY_VOID(checkLookNumber(*number, value, text, prefix));
+    number->set(look, value);
+  } else if (name == "label") {
+    look.label = TRY(parseLabel(text));
+  } else if (name == "font") {
+    if (text.size() > limits::fontNameBytes)
+      return Error::tooLarge("the font's name is longer than " + std::to_string(limits::fontNameBytes) + " bytes");
+    look.fontName = text;
+  } else if (name == "color") {
+    look.color = TRY(parseColor(text));
+  } else if (name == "center") {
+    look.labelCenter = TRY(parsePoint(text, prefix));
+  } else {
+    const auto tag = effectTagNamed(text);
+    if (!tag) return Error::invalidInput("there is no effect '" + excerpt(text) + "'");
+    look.effectTag = *tag;
+  }
+  return {};
+}
+
+std::optional<double> parseNumber(std::string_view text) {
+  if (text.starts_with('+')) text.remove_prefix(1);
+  double value = 0;
+  const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value);
+  if (error != std::errc() || end != text.data() + text.size() || !std::isfinite(value)) return std::nullopt;
+  return value;
+}
+
+std::string shortNumber(double value) {
+  char text[32];
+  const auto [end, error] = std::to_chars(text, text + sizeof text, value);
+  return error == std::errc() ? std::string(text, end) : std::string();
+}
+
+Result<QColor> parseColor(std::string_view text) {
+  const Error wrong =
+      Error::invalidInput("'" + excerpt(text) + "' is no colour; use #rgb, #rrggbb, #rrggbbaa or a name");
+  if (!text.starts_with('#')) {
+    const QString name = QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+    if (!QColor::isValidColor(name) || name.startsWith(u'#')) return wrong;
+    return QColor(name);
+  }
+  std::string digits(text.substr(1));
+  if (digits.size() == 3) digits = {digits[0], digits[0], digits[1], digits[1], digits[2], digits[2]};
+  if (digits.size() == 6) digits += "ff";
+  std::uint32_t value = 0;
+  const auto [end, error] = std::from_chars(digits.data(), digits.data() + digits.size(), value, 16);
+  if (digits.size() != 8 || error != std::errc() || end != digits.data() + digits.size()) return wrong;
+  const auto part = [value](int shift) { return static_cast<int>(value >> shift & 0xFFU); };
+  return QColor(part(24), part(16), part(8), part(0));
+}
+
+std::string colorText(const QColor& color) {
+  const QColor rgb = color.toRgb();
+  const QString alpha = rgb.alpha() == 255 ? QString() : QStringLiteral("%1").arg(rgb.alpha(), 2, 16, QLatin1Char('0'));
+  return (rgb.name(QColor::HexRgb) + alpha).toStdString();
+}
+
+Result<Point> parsePoint(std::string_view text, std::string_view prefix) {
+  const std::size_t comma = text.find(',');
+  const auto x = parseNumber(text.substr(0, comma));
+  const auto y = comma == std::string_view::npos ? std::nullopt : parseNumber(text.substr(comma + 1));
+  if (!x || !y || std::abs(*x) > 1e6 || std::abs(*y) > 1e6)
+    return Error::invalidInput(std::string(prefix) + "center takes X,Y, numbers within a million, not '" +
+                               excerpt(text) + "'");
+  return Point{static_cast<float>(*x), static_cast<float>(*y)};
+}
+
+Result<void> checkLabel(const QString& label) {
+  if (static_cast<std::size_t>(label.toUtf8().size()) > limits::labelBytes)
+    return Error::tooLarge("the label is longer than " + std::to_string(limits::labelBytes) + " bytes");
+  if (label.contains(QChar(u'\0'))) return Error::invalidInput("the label holds a zero byte");
+  return {};
+}
+
+Result<QString> parseLabel(std::string_view text) {
+  if (!isUtf8(text)) return Error::invalidInput("the label is not UTF-8 text");
+  std::string label;
+  for (std::size_t i = 0; i < text.size(); ++i) {
+    const char next = i + 1 < text.size() ? text[i + 1] : '\0';
+    if (text[i] == '\\' && (next == 'n' || next == '\\')) {
+      label.push_back(next == 'n' ? '\n' : '\\');
+      ++i;
+    } else {
+      label.push_back(text[i]);
+    }
+  }
+  QString parsed = QString::fromStdString(label);
+  TRY_VOID(checkLabel(parsed));
+  return parsed;
+}
+
+}  // namespace quorvane

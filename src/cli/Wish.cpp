@@ -1,0 +1,55 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "cli/Wish.h"
+
+#include "app/core/LabelPattern.h"
+#include "app/core/LookValues.h"
+
+namespace quorvane::cli {
+
+namespace {
+
+constexpr const char* baseName = "base";
+constexpr const char* labelName = "label";
+
+Result<void> setValue(Wish& wish, const std::string& name, const std::string& text, std::string_view prefix) {
+  if (name == baseName) {
+    if (!text.empty()) wish.base = BaseReference{.path = text, .within = {}};
+    return {};
+  }
+  TRY_VOID(setLookValue(wish.saved.look, name, text, prefix));
+  if (name == labelName) wish.saved.labelPattern = text.empty() ? QString() : patternOf(wish.saved.look.label);
+  return {};
+}
+
+}  // namespace
+
+Result<Look> Wish::lookFor(const std::function<Result<QString>()>& name) const {
+  Look look = saved.look;
+  look.label = TRY(labelOf(saved.labelPattern, name));
+  return look;
+}
+
+std::vector<std::string> rowColumns() {
+  std::vector<std::string> columns{baseName};
+  for (const std::string_view name : lookValueNames()) columns.emplace_back(name);
+  return columns;
+}
+
+Result<Wish> readWish(const Arguments& arguments) {
+  Wish wish;
+  if (arguments.lookFile) {
+    ReadLook read = TRY(readLookFile(*arguments.lookFile));
+    wish.saved = std::move(read.saved);
+    wish.base = std::move(read.base);
+  }
+  for (const auto& [name, text] : arguments.lookOptions) TRY_VOID(setValue(wish, name, text, "--"));
+  if (arguments.labelFromName) wish.saved.labelPattern = QStringLiteral("{name}");
+  return wish;
+}
+
+Result<void> applyRow(Wish& wish, const std::vector<std::pair<std::string, std::string>>& values) {
+  for (const auto& [name, text] : values) TRY_VOID(setValue(wish, name, text, ""));
+  return {};
+}
+
+}  // namespace quorvane::cli
