@@ -53,7 +53,7 @@ class GitTest(EndToEndTest):
                                                            b"mine/.directory", b"backup.BackupIcon.icns")})
 
         before = read(self.exclude(path))
-        self.assertEqual(self.expect(0, "apply", "--git-exclude", *LABEL, "--", *folders).err, "")
+        self.assertEqual(self.expect(0, "apply", "--quiet", "--git-exclude", *LABEL, "--", *folders).err, "")
         self.assertEqual(read(self.exclude(path)), before)
         self.expect(0, "reset", "--", *folders)
         self.assertNotIn(b".git", self.git(path, "diff", "--stat"))

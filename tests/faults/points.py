@@ -33,7 +33,7 @@ for others, known in (("open creat", "openat"), ("pwrite64 writev pwritev copy_f
                       ("truncate fallocate", "ftruncate")):
     ERRORS.update(dict.fromkeys(others.split(), ERRORS[known]))
 
-CALL = re.compile(r"^(?:\[pid +\d+\] )?(\w+)\((.*)")
+CALL = re.compile(r"^(\d+) +(\w+)\((.*)")
 
 
 class Point:
@@ -72,17 +72,17 @@ class Tracer:
 
     def calls(self, arguments, cwd, place):
         """What a run ended with, and each (call, number) of it that concerns something below the folder `place`, be it
-        by a path or by an open file."""
-        done = self.run(["--decode-fds=path", "-e", "trace=" + ",".join("?" + call for call in ERRORS)], arguments, cwd)
+        by a path or by an open file. Calls are counted by thread, as strace counts them when it injects."""
+        done = self.run(["-o", "/dev/stderr", "--decode-fds=path", "-e", "trace=" + ",".join("?" + call for call in ERRORS)], arguments, cwd)
         counts, found = {}, []
         for line in done.stderr.decode("utf-8", "replace").splitlines():
             match = CALL.match(line)
-            if not match or match[1] not in ERRORS:
+            if not match or match[2] not in ERRORS:
                 continue
-            call = match[1]
-            counts[call] = counts.get(call, 0) + 1
-            if place in match[2]:
-                found.append((call, counts[call]))
+            thread, call = match[1], match[2]
+            counts[thread, call] = counts.get((thread, call), 0) + 1
+            if place in match[3]:
+                found.append((call, counts[thread, call]))
         return done, found
 
 
