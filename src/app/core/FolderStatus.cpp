@@ -87,7 +87,13 @@ Result<FolderStatus> FolderBranding::statusOf(const Folder& folder) const {
 }
 
 Result<FolderStatus> FolderBranding::status(const std::filesystem::path& path) const {
-  return statusOf(TRY(Folder::open(path, Folder::Access::Read)));
+  // Looking takes no lock: what another run removes at that moment is looked for once more.
+  constexpr int attempts = 3;
+  const Folder folder = TRY(Folder::open(path, Folder::Access::Read));
+  auto status = statusOf(folder);
+  for (int i = 1; i < attempts && !status.ok() && status.error().kind() == ErrorKind::NotFound; ++i)
+    status = statusOf(folder);
+  return status;
 }
 
 }  // namespace quorvane
