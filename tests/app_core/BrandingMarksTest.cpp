@@ -224,6 +224,12 @@ TEST_P(BrandingMarksTest, ASettingFirstSeenLaterComesBackToItsOwnUser) {
   fs::rename(folder / ".quorvane/marks" / own, folder / ".quorvane/marks/custom-icon-1234567");
   ASSERT_EQ(*branding.reset(folder), BrandingOutcome::Changed);
   EXPECT_FALSE(metadata.icons.contains(folder));
+
+  // What a stranger's record says leads nowhere else.
+  apply(Qt::red);
+  write(".quorvane/marks/" + own, "smb://elsewhere/mine.png");
+  ASSERT_EQ(*branding.reset(folder), BrandingOutcome::Changed);
+  EXPECT_FALSE(metadata.icons.contains(folder));
 }
 
 TEST_P(BrandingMarksTest, AnInterruptionIsNotForgottenByARunThatFails) {

@@ -82,6 +82,11 @@ Result<void> attempt(const Result<void>& done, const std::string& file, bool isL
   return {};
 }
 
+/// A record may come from a stranger together with its folder: no file manager is sent to an address on the network.
+bool isLocal(const std::string& setting) {
+  return setting.starts_with("file:///") || setting.find(':') == std::string::npos;
+}
+
 directoryfile::IconPaths pathsOf(const Folder& folder, const std::string& picture) {
   directoryfile::IconPaths paths{.absolute = folder.path().string() + "/" + picture, .relative = "./" + picture};
   if (!isUtf8(*paths.absolute)) paths.absolute.reset();
@@ -158,7 +163,7 @@ Result<void> DesktopMarks::_setMetadata(Folder& folder, const WantedMarks& wante
     return present == wanted.picture ? Result<void>() : _metadata.setCustomIcon(folder.path(), wanted.picture);
   if (!present || !isMarkPicture(*present)) return {};
   const Text kept = original != nullptr ? TRY(readText(*original, keptSetting())) : Text();
-  if (kept && _metadata.setCustomIcon(folder.path(), kept).ok()) return {};
+  if (kept && isLocal(*kept) && _metadata.setCustomIcon(folder.path(), kept).ok()) return {};
   // What is kept may be damaged, or too long for this session: then no icon is named rather than one that is not there.
   return _metadata.setCustomIcon(folder.path(), {});
 }
