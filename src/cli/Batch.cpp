@@ -35,8 +35,8 @@ bool forEachFolder(const Arguments& arguments, Reporter& reporter, const FolderW
     reporter.failed(source.error().where(), source.error());
     return true;
   }
-  if (canRedraw() && !arguments.isQuiet && !arguments.isVerbose)
-    reporter.showProgress(source->total(), canColor(arguments.wantsColor));
+  reporter.setColor(canColor(arguments.wantsColor));
+  if (canRedraw() && !arguments.isQuiet && !arguments.isVerbose) reporter.showProgress(source->total());
 
   std::atomic<bool> hasEnded = false;
   std::optional<Error> listFailure;

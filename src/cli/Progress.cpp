@@ -32,6 +32,11 @@ std::string bar(double fraction) {
 
 }  // namespace
 
+std::string failureCount(std::size_t failed, bool hasColor) {
+  const std::string words = std::to_string(failed) + " failed";
+  return hasColor && failed > 0 ? red + words + plain : words;
+}
+
 std::string durationInWords(double seconds) {
   if (seconds < 60) return withDecimals(std::max(seconds, 0.0), 1) + " s";
   const auto whole = static_cast<long long>(std::min(seconds, 1e9));
@@ -46,7 +51,7 @@ std::string progressLine(const ProgressState& state, int width, bool hasColor) {
   if (state.total && *state.total > 0)
     parts.push_back(bar(static_cast<double>(state.done) / static_cast<double>(*state.total)));
   parts.push_back(std::to_string(state.done) + (state.total ? "/" + std::to_string(*state.total) : " done"));
-  if (state.failed > 0) parts.push_back(std::to_string(state.failed) + " failed");
+  if (state.failed > 0) parts.push_back(failureCount(state.failed, false));
   if (rate > 0) parts.push_back(withDecimals(rate, rate < 10 ? 1 : 0) + "/s");
   if (rate > 0 && state.total && *state.total > state.done)
     parts.push_back(durationInWords(static_cast<double>(*state.total - state.done) / rate) + " left");
@@ -58,8 +63,9 @@ std::string progressLine(const ProgressState& state, int width, bool hasColor) {
     // The last column stays empty: some terminals go to the next line there.
     if (shown + gap + parts[i].size() >= static_cast<std::size_t>(std::max(width, 1))) continue;
     shown += gap + parts[i].size();
-    const bool isAlarm = hasColor && parts[i].ends_with(" failed");
-    line += std::string(gap, ' ') + (isAlarm ? red + parts[i] + plain : parts[i]);
+    // Measured without the colour, which takes no room.
+    const bool tellsFailures = state.failed > 0 && parts[i] == failureCount(state.failed, false);
+    line += std::string(gap, ' ') + (tellsFailures ? failureCount(state.failed, hasColor) : parts[i]);
   }
   return line;
 }

@@ -16,6 +16,9 @@ struct ProgressState {
   double seconds = 0;  ///< since the beginning
 };
 
+/// "3 failed", in red where that is wanted and some did.
+std::string failureCount(std::size_t failed, bool hasColor);
+
 /// The words of the progress line, of at most `width` characters: a bar, how many are done of how many, the rate, the
 /// time left and the failures; what is not known is left out.
 std::string progressLine(const ProgressState& state, int width, bool hasColor);

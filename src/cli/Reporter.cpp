@@ -115,9 +115,9 @@ void Reporter::rawName(const std::filesystem::path& path) {
   std::fflush(stdout);
 }
 
-void Reporter::showProgress(std::optional<std::size_t> total, bool hasColor) {
+void Reporter::showProgress(std::optional<std::size_t> total) {
   _total = total;
-  _progress.emplace(hasColor);
+  _progress.emplace(_hasColor);
 }
 
 void Reporter::drawProgress() {
@@ -146,7 +146,7 @@ std::string Reporter::sum() const {
     const auto found = _outcomes.find(outcome);
     parts.push_back(std::to_string(found == _outcomes.end() ? 0 : found->second) + " " + word);
   }
-  parts.insert(parts.begin() + 1, std::to_string(_failures) + " failed");
+  parts.insert(parts.begin() + 1, failureCount(static_cast<std::size_t>(_failures), _hasColor));
   std::string words = _isDryRun ? "[dry run] " : "";
   for (std::size_t i = 0; i < parts.size(); ++i) words += (i == 0 ? "" : ", ") + parts[i];
   return words + " in " + durationInWords(secondsSoFar());

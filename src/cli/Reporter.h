@@ -52,8 +52,10 @@ class Reporter {
   /// One name that was found and asked for by --null: raw, ended by a zero byte.
   void rawName(const std::filesystem::path& path);
 
+  /// Whether failures are counted in red, on the terminal behind standard error; at first they are not.
+  void setColor(bool hasColor) { _hasColor = hasColor; }
   /// Shows the progress of a run over many folders from now on, until something else is written and again after it.
-  void showProgress(std::optional<std::size_t> total, bool hasColor);
+  void showProgress(std::optional<std::size_t> total);
   void drawProgress();
   /// What done() says of folders, with the words for people: the usual outcome first. Only with these there is a sum.
   void setOutcomes(std::vector<std::pair<std::string, std::string>> words) { _outcomeWords = std::move(words); }
@@ -80,6 +82,7 @@ class Reporter {
   int _failures = 0;
   int _successes = 0;
   bool _hasItems = false;
+  bool _hasColor = false;
   std::recursive_mutex _mutex;  ///< one output at a time
   std::set<std::string> _saidOnce;
   std::vector<std::pair<std::string, std::string>> _outcomeWords;
