@@ -217,7 +217,8 @@ class BatchTest(EndToEndTest):
                 self.assertEqual("25 branded" in screen, not options)
                 self.assertNotIn("\x1b", out)
                 if shown:
-                    self.assertTrue(screen.split("\x1b[K")[-1].startswith("quorvane: 25 branded"), repr(screen))
+                    # Nothing of the bar is left below the notices and the summary.
+                    self.assertRegex(screen.split("\x1b[K")[-1], r"^(quorvane: [^\r]*\r\n)*quorvane: 25 branded[^\r]*\r\n$")
         # A failure is coloured where nobody objects.
         for options, environment, coloured in (((), {}, True), (("--no-color",), {}, False), ((), {"NO_COLOR": "1"}, False)):
             _out, screen = self.on_terminal("apply", *options, "--label", f"x{options}{environment}", "missing", *names,
