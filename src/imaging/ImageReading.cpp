@@ -10,6 +10,7 @@
 #include "imaging/Image.h"
 #include "imaging/Jpeg2000.h"
 #include "imaging/PngCodec.h"
+#include "imaging/Psd.h"
 #include "imaging/SvgCheck.h"
 
 namespace quorvane {
@@ -58,8 +59,6 @@ Result<BitmapImageRep> readWithInstalledReaders(ByteView bytes) {
   reader.setDevice(&buffer);
 
   const QByteArray format = reader.format();
-  if (format.isEmpty() && buffer.data().startsWith("8BPS"))
-    return Error::invalidInput("layered pictures (PSD) are not read; save it as PNG or TIFF");
   if (format.isEmpty()) return Error::invalidInput("not a picture that can be read");
   // Icon families are read by a decoder of ours, elsewhere: this one takes wrong colours for right ones.
   if (format == "icns") return Error::invalidInput("an icon family, not a picture");
@@ -88,6 +87,7 @@ Result<BitmapImageRep> readBitmap(ByteView bytes) {
   if (bytes.empty()) return Error::invalidInput("file is empty");
   if (isPng(bytes) && !hasForeignColors(bytes)) return TRY(decodePng(bytes, limits::picturePixels)).toStandard();
   if (isJpeg2000(bytes)) return TRY(decodeJpeg2000(bytes, limits::picturePixels)).toStandard();
+  if (isPsd(bytes)) return TRY(decodePsd(bytes)).toStandard();
   return readWithInstalledReaders(bytes);
 }
 
