@@ -9,6 +9,9 @@
 #include "foundation/base/Limits.h"
 #include "imaging/Image.h"
 #include "imaging/Jpeg2000.h"
+#include "imaging/JpegHeader.h"
+#include "imaging/JpegInks.h"
+#include "imaging/Orientation.h"
 #include "imaging/PngCodec.h"
 #include "imaging/Psd.h"
 #include "imaging/SvgCheck.h"
@@ -83,12 +86,22 @@ Result<BitmapImageRep> readWithInstalledReaders(ByteView bytes) {
   return std::move(*bitmap);
 }
 
+Result<BitmapImageRep> readJpeg(ByteView bytes) {
+  const JpegHeader header = TRY(readJpegHeader(bytes));
+  if (header.components != 4) return readWithInstalledReaders(bytes);
+  return uprightBitmap(TRY(decodeInkJpeg(bytes)).toStandard(), exifOrientation(bytes));
+}
+
 Result<BitmapImageRep> readBitmap(ByteView bytes) {
   if (bytes.empty()) return Error::invalidInput("file is empty");
-  if (isPng(bytes) && !hasForeignColors(bytes)) return TRY(decodePng(bytes, limits::picturePixels)).toStandard();
   if (isJpeg2000(bytes)) return TRY(decodeJpeg2000(bytes, limits::picturePixels)).toStandard();
   if (isPsd(bytes)) return TRY(decodePsd(bytes)).toStandard();
-  return readWithInstalledReaders(bytes);
+  if (isJpeg(bytes)) return readJpeg(bytes);
+  const bool isOurs = isPng(bytes) && !hasForeignColors(bytes);
+  const BitmapImageRep bitmap =
+      isOurs ? TRY(decodePng(bytes, limits::picturePixels)).toStandard() : TRY(readWithInstalledReaders(bytes));
+  // The installed readers turn all but these upright.
+  return uprightBitmap(bitmap, exifOrientation(bytes));
 }
 
 }  // namespace
