@@ -9,7 +9,11 @@
 #include "foundation/base/Limits.h"
 #include "imaging/Image.h"
 #include "imaging/Jpeg2000.h"
+#include "imaging/JpegHeader.h"
+#include "imaging/JpegInks.h"
+#include "imaging/Orientation.h"
 #include "imaging/PngCodec.h"
+#include "imaging/Psd.h"
 #include "imaging/SvgCheck.h"
 
 namespace quorvane {
@@ -58,8 +62,6 @@ Result<BitmapImageRep> readWithInstalledReaders(ByteView bytes) {
   reader.setDevice(&buffer);
 
   const QByteArray format = reader.format();
-  if (format.isEmpty() && buffer.data().startsWith("8BPS"))
-    return Error::invalidInput("layered pictures (PSD) are not read; save it as PNG or TIFF");
   if (format.isEmpty()) return Error::invalidInput("not a picture that can be read");
   // Icon families are read by a decoder of ours, elsewhere: this one takes wrong colours for right ones.
   if (format == "icns") return Error::invalidInput("an icon family, not a picture");
@@ -84,11 +86,22 @@ Result<BitmapImageRep> readWithInstalledReaders(ByteView bytes) {
   return std::move(*bitmap);
 }
 
+Result<BitmapImageRep> readJpeg(ByteView bytes) {
+  const JpegHeader header = TRY(readJpegHeader(bytes));
+  if (header.components != 4) return readWithInstalledReaders(bytes);
+  return uprightBitmap(TRY(decodeInkJpeg(bytes)).toStandard(), exifOrientation(bytes));
+}
+
 Result<BitmapImageRep> readBitmap(ByteView bytes) {
   if (bytes.empty()) return Error::invalidInput("file is empty");
-  if (isPng(bytes) && !hasForeignColors(bytes)) return TRY(decodePng(bytes, limits::picturePixels)).toStandard();
   if (isJpeg2000(bytes)) return TRY(decodeJpeg2000(bytes, limits::picturePixels)).toStandard();
-  return readWithInstalledReaders(bytes);
+  if (isPsd(bytes)) return TRY(decodePsd(bytes)).toStandard();
+  if (isJpeg(bytes)) return readJpeg(bytes);
+  const bool isOurs = isPng(bytes) && !hasForeignColors(bytes);
+  const BitmapImageRep bitmap =
+      isOurs ? TRY(decodePng(bytes, limits::picturePixels)).toStandard() : TRY(readWithInstalledReaders(bytes));
+  // The installed readers turn all but these upright.
+  return uprightBitmap(bitmap, exifOrientation(bytes));
 }
 
 }  // namespace

@@ -52,6 +52,14 @@ inline constexpr std::int64_t jpeg2000Packets = 1 << 22;
 /// Elements of a vector picture, with everything that is drawn again by reference; and how deep they may nest.
 inline constexpr std::int64_t svgElements = 200'000;
 inline constexpr int svgDepth = 256;
+/// Scans of one JPEG picture: progressive ones have about a dozen.
+inline constexpr int jpegScans = 200;
+/// Longest colour profile that is honoured; those of printing presses have up to about 4 MiB.
+inline constexpr std::size_t profileBytes = std::size_t{16} << 20;
+/// Channels of a layered picture (PSD), and blocks of its resources and of what goes with its layers that are looked
+/// at.
+inline constexpr int psdChannels = 56;
+inline constexpr std::size_t psdBlocks = 4096;
 /// Longest picture file.
 inline constexpr std::size_t pictureFileBytes = std::size_t{512} << 20;
 
