@@ -15,6 +15,7 @@
 #include "imaging/PngCodec.h"
 #include "imaging/Psd.h"
 #include "imaging/SvgCheck.h"
+#include "imaging/TiffInks.h"
 
 namespace quorvane {
 
@@ -56,6 +57,7 @@ Result<BitmapImageRep> readWithInstalledReaders(ByteView bytes) {
   buffer.open(QIODevice::ReadOnly);
   // The readers' own ceiling, in MiB: our largest picture with 16 bits a sample.
   QImageReader::setAllocationLimit(static_cast<int>((limits::pictureArea * 8) >> 20) + 1);
+  silenceTiffMessages();
   QImageReader reader;
   reader.setDecideFormatFromContent(true);
   reader.setAutoTransform(true);
@@ -97,6 +99,7 @@ Result<BitmapImageRep> readBitmap(ByteView bytes) {
   if (isJpeg2000(bytes)) return TRY(decodeJpeg2000(bytes, limits::picturePixels)).toStandard();
   if (isPsd(bytes)) return TRY(decodePsd(bytes)).toStandard();
   if (isJpeg(bytes)) return readJpeg(bytes);
+  if (isInkTiff(bytes)) return TRY(decodeInkTiff(bytes)).toStandard();
   const bool isOurs = isPng(bytes) && !hasForeignColors(bytes);
   const BitmapImageRep bitmap =
       isOurs ? TRY(decodePng(bytes, limits::picturePixels)).toStandard() : TRY(readWithInstalledReaders(bytes));
