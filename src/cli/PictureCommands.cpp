@@ -7,6 +7,8 @@
 #include "cli/Terminal.h"
 #include "cli/Wish.h"
 #include "foundation/FileReading.h"
+#include "foundation/FileWriting.h"
+#include "foundation/Folder.h"
 #include "foundation/base/Limits.h"
 #include "iconfamily/ElementStore.h"
 #include "iconfamily/ElementTypes.h"
@@ -132,9 +134,7 @@ Result<void> writeOutputFile(const std::filesystem::path& path, ByteView bytes) 
         std::fwrite(bytes.data(), 1, bytes.size(), stdout) == bytes.size() && std::fflush(stdout) == 0;
     return isWritten ? Result<void>() : Error::system(errno, "cannot write to standard output");
   }
-  Folder folder = TRY(Folder::open(path.has_parent_path() ? path.parent_path() : ".", Folder::Access::Write));
-  TRY_VOID(folder.writeFile(path.filename().string(), bytes));
-  return {};
+  return writePlainFile(path, bytes);
 }
 
 void runRender(const Arguments& arguments, const IconServices& services, Reporter& reporter) {

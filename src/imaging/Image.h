@@ -10,6 +10,8 @@
 #include "foundation/base/Bytes.h"
 #include "foundation/base/Result.h"
 #include "imaging/BitmapImageRep.h"
+#include "imaging/ByteCount.h"
+#include "imaging/ImageMetadata.h"
 
 namespace quorvane {
 
@@ -77,6 +79,39 @@ class Image {
   /// The image drawn whole into a new standard bitmap of that many pixels (the best representation, resampled).
   [[nodiscard]] BitmapImageRep rendered(int pixelsWide, int pixelsHigh,
                                         ImageInterpolation interpolation = ImageInterpolation::High) const;
+
+  /// bitmapRepresentation(), or for an image without any representation a bitmap of its drawing. JPEG, PNG and GIF
+  /// encode this one. Fails when representations are there but cannot be decoded, or there is no size.
+  [[nodiscard]] Result<BitmapImageRep> bitmapForEncoding() const;
+
+  /// Encoded pictures. JPEG: `compression` is the quality, 0 to 100; what is transparent is painted on white. TIFF: all
+  /// bitmap representations as pages, the one for encoding first, LZW, alpha kept. PNG: alpha kept. GIF: see
+  /// encodeGif(). Metadata are put in as ImageMetadata::forRenderedPixels(), as far as they fit; a picture is not lost
+  /// for them.
+  [[nodiscard]] Result<Bytes> JPEGRepresentation(int compression, const ImageMetadata& metadata = {}) const;
+  [[nodiscard]] Result<Bytes> TIFFRepresentation(const ImageMetadata& metadata = {}) const;
+  [[nodiscard]] Result<Bytes> PNGRepresentation() const;
+  [[nodiscard]] Result<Bytes> GIFRepresentation() const;
+
+  /// Write them, whole or not at all (Folder::writeFile()); after a failure an earlier file stands as it was.
+  ///
+  /// With a `writeFileIfUnder` other than 0, a JPEG of that many bytes or more is not written: TooLarge. `returnSize`
+  /// may be null; it is given the length of the encoded picture either way.
+  Result<void> writeToJPEGFile(const std::filesystem::path& path, int compression, ByteCount writeFileIfUnder,
+                               std::uint64_t* returnSize, const ImageMetadata& metadata = {}) const;
+  /// At `startingQuality`, or at the first lower one of those that nextFactorForFactor() leads to, that gives fewer
+  /// bytes than the limit (0: any). TooLarge when none does; a failure of another kind ends the search at once.
+  Result<void> writeToJPEGFile(const std::filesystem::path& path, int startingQuality, Kibibytes filesizeLimit,
+                               const ImageMetadata& metadata = {}) const;
+  Result<void> writeToTIFFFile(const std::filesystem::path& path, const ImageMetadata& metadata = {}) const;
+  Result<void> writeToPNGFile(const std::filesystem::path& path) const;
+  Result<void> writeToGIFFile(const std::filesystem::path& path) const;
+
+  /// Encoded data (JPEG, PNG, TIFF) with metadata in it; data of another type comes back as it was. See
+  /// combineMetadata().
+  static CombinedData combineData(ByteView data, const ImageMetadata& metadata);
+  /// The next, lower, JPEG quality after one that gave `ratio` times the bytes wanted.
+  static float nextFactorForFactor(float factor, float ratio);
 
  private:
   Size _size;

@@ -72,6 +72,15 @@ inline constexpr std::size_t psdBlocks = 4096;
 /// Longest picture file.
 inline constexpr std::size_t pictureFileBytes = std::size_t{512} << 20;
 
+/// All values of one picture's metadata together, and the directories of a TIFF file that are looked into; a long
+/// history of edits reaches some MiB. A directory has 256 entries at most: that is how far the library reads.
+inline constexpr std::uint64_t metadataBytes = std::uint64_t{16} << 20;
+inline constexpr std::size_t metadataDirectories = 64;
+inline constexpr std::size_t metadataEntries = 256;
+
+/// Longest TIFF file that is written: its offsets reach 4 GiB, other readers' often half of that.
+inline constexpr std::uint64_t writtenTiffBytes = (std::uint64_t{1} << 31) - 1;
+
 /// Longest label in bytes and lines; each costs layout time.
 inline constexpr std::size_t labelBytes = 64 * 1024;
 inline constexpr std::size_t labelLines = 1000;
