@@ -4,6 +4,7 @@
 
 #include "app/core/BasePicture.h"
 #include "cli/Commands.h"
+#include "cli/PictureOutput.h"
 #include "cli/Terminal.h"
 #include "cli/Wish.h"
 #include "foundation/FileReading.h"
@@ -18,11 +19,6 @@
 namespace quorvane::cli {
 
 namespace {
-
-bool isIcnsName(const std::filesystem::path& path) {
-  const auto extension = QString::fromStdString(path.extension().string());
-  return extension.compare(QLatin1String(".icns"), Qt::CaseInsensitive) == 0;
-}
 
 /// The name that a rendered icon has in the place of a folder's.
 Result<QString> outputName(const std::filesystem::path& out) {
@@ -41,8 +37,8 @@ Result<Bytes> composedFile(const Arguments& arguments, const Wish& wish, const I
   }
   if (!base) return Error(ErrorKind::NotFound, "there is no folder picture to draw on; give one with --base");
   const Image icon = TRY(composeIcon(TRY(wish.lookFor([&] { return outputName(out); })), *base));
-  if (isIcnsName(out)) return TRY(IconFamily::iconFamilyWithThumbnailsOfImage(icon)).data();
-  return encodePng(icon.rendered(arguments.pixels, arguments.pixels));
+  // That the name has an ending that we write was seen to with the arguments.
+  return encodePicture(icon, pictureKindOf(out).value_or(PictureKind::Png), arguments.pixels, arguments.jpeg);
 }
 
 /// The wish as the look file at a path may hold it.

@@ -84,7 +84,7 @@ Result<ImageMetadata> ImageMetadata::metadataOfData(ByteView data) {
   Bytes copy;
   if (isTiff(data)) data = copy = TRY(withoutMakerNotes(data));
   return metadata::guarded("metadata that cannot be read", [&]() -> Result<ImageMetadata> {
-    const Exiv2::Image::AutoPtr picture = TRY(metadata::openPicture(data));
+    const std::unique_ptr<Exiv2::Image> picture = TRY(metadata::openPicture(data));
     MetadataProperties found{picture->exifData(), picture->iptcData(), picture->xmpData()};
     removePixelDescriptions(found.exif);
     removePixelDescriptions(found.xmp);

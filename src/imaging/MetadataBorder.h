@@ -4,6 +4,7 @@
 
 #include <exiv2/exiv2.hpp>
 
+#include <memory>
 #include <mutex>
 #include <string>
 #include <type_traits>
@@ -41,7 +42,7 @@ auto guarded(const std::string& what, const Work& work) -> std::invoke_result_t<
 /// The library's view of a JPEG, PNG or TIFF file, checked against the limits and read. `bytes` must outlive it. Call
 /// within guarded(). A TIFF with a camera maker's block is refused: what stands in it may lie anywhere in the file, and
 /// could neither be bounded nor be moved.
-Result<Exiv2::Image::AutoPtr> openPicture(ByteView bytes);
+Result<std::unique_ptr<Exiv2::Image>> openPicture(ByteView bytes);
 
 /// True for a property that says how the pixels of a file lie, or repeats them: it belongs to that file alone.
 bool describesPixels(const Exiv2::Exifdatum& property);

@@ -66,7 +66,7 @@ struct Outcome {
 
 Result<Outcome> combine(ByteView data, const MetadataProperties& properties, Kinds kinds) {
   return metadata::guarded(failing, [&]() -> Result<Outcome> {
-    const Exiv2::Image::AutoPtr picture = TRY(metadata::openPicture(data));
+    const std::unique_ptr<Exiv2::Image> picture = TRY(metadata::openPicture(data));
     const bool isTiff = picture->imageType() == Exiv2::ImageType::tiff;
     if (kinds.exif) mergeExif(properties.exif, *picture);
     if (kinds.iptc) mergeIptc(properties.iptc, picture->iptcData());
@@ -80,7 +80,7 @@ Result<Outcome> combine(ByteView data, const MetadataProperties& properties, Kin
     if (isTiff && tiffPageCount(outcome.data) != tiffPageCount(data))
       return Error(ErrorKind::Unsupported, "metadata cannot be put into a TIFF of so many pages");
     // It also leaves out, without a word, what is too long for its place.
-    const Exiv2::Image::AutoPtr again = TRY(metadata::openPicture(outcome.data));
+    const std::unique_ptr<Exiv2::Image> again = TRY(metadata::openPicture(outcome.data));
     outcome.isComplete = (!kinds.exif || hasAll(properties.exif, again->exifData())) &&
                          (!kinds.iptc || hasAll(properties.iptc, again->iptcData())) &&
                          (!kinds.xmp || hasAll(properties.xmp, again->xmpData()));
