@@ -5,6 +5,7 @@
 #include <functional>
 #include <memory>
 #include <optional>
+#include <string>
 #include <vector>
 
 #include "foundation/base/Bytes.h"
@@ -39,6 +40,15 @@ class ImageRep {
   std::shared_ptr<State> _state;
 };
 
+class Image;
+
+/// A reader of files that another module brings along (Image::registerReader).
+struct ImageReader {
+  std::vector<std::string> fileTypes;         ///< extensions, lower case, no dot
+  bool (*canRead)(ByteView bytes) = nullptr;  ///< whether a file begins like one of these
+  Result<Image> (*read)(ByteView bytes) = nullptr;
+};
+
 /// A size in points and an ordered list of representations. A value; copies are cheap, and may be used by several
 /// threads.
 class Image {
@@ -53,6 +63,17 @@ class Image {
   static Result<Image> imageWithContentsOfFile(const std::filesystem::path& path);
   /// The same from bytes.
   static Result<Image> imageWithData(ByteView bytes);
+  /// The ordinary read of a picture file; or with `usingImageIO` the picture at index 0, drawn into a standard bitmap.
+  /// nullopt when there is none.
+  static std::optional<Image> initWithContentsOfFile(const std::filesystem::path& path, bool usingImageIO);
+  /// The decoded picture drawn into a standard bitmap of its pixel size, in sRGB; nullopt for a null picture.
+  static std::optional<Image> initWithCGImageRef(const QImage& image);
+
+  /// Extensions (lower case, no dot, sorted) of the picture files that can be read with what is installed now.
+  static std::vector<std::string> imageFileTypes();
+  /// Has files read by another module's reader from now on, before any other. Once for each; by the main function, as
+  /// it builds what it passes on.
+  static void registerReader(ImageReader reader);
 
   [[nodiscard]] Size size() const { return _size; }
   /// With scalesWhenResized() drawing then scales the representations; their pixels stay.
@@ -75,6 +96,10 @@ class Image {
   [[nodiscard]] std::optional<BitmapImageRep> bitmapForPixels(int wide, int high) const;
   /// Pixel size of the representation with the most pixels; {0, 0} without any.
   [[nodiscard]] Size largestPixelSize() const;
+
+  /// "image size={128, 64}  rep size={128, 64}  pixelsWide=128", with nothing but zeros for the bitmap when there is
+  /// none.
+  [[nodiscard]] std::string sizeInfo() const;
 
   /// The image drawn whole into a new standard bitmap of that many pixels (the best representation, resampled).
   [[nodiscard]] BitmapImageRep rendered(int pixelsWide, int pixelsHigh,

@@ -154,6 +154,11 @@ Result<BitmapImageRep> decodeInkTiff(ByteView bytes) {
       std::int64_t{file.width} * file.height > limits::pictureArea)
     return Error::tooLarge("picture of " + std::to_string(file.width) + " x " + std::to_string(file.height) +
                            " pixels");
+  // No compression that is in use packs tighter (LZW comes near), so the rest is missing.
+  constexpr std::int64_t largestExpansion = 2048;
+  if (std::int64_t{file.width} * file.height * 4 * file.bytesPerSample / largestExpansion >
+      static_cast<std::int64_t>(bytes.size()))
+    return Error::invalidInput("TIFF picture is damaged or cut off");
   BitmapLayout layout = BitmapLayout::rgba(static_cast<int>(file.width), static_cast<int>(file.height));
   layout.isPremultiplied = false;
   auto bitmap = BitmapImageRep::bitmapImageRepWithLayout(layout);
