@@ -135,7 +135,7 @@ QComboBox QAbstractItemView { background: %base; color: %text; border: 1px solid
 QCheckBox, QRadioButton { spacing: 8px; }
 QCheckBox::indicator, QRadioButton::indicator { width: 14px; height: 14px; border: 1px solid %outline; border-radius: 4px;
               background: %base; }
-QRadioButton::indicator { border-radius: 7px; }
+QRadioButton::indicator { border-radius: 8px; }
 QCheckBox::indicator:hover, QRadioButton::indicator:hover { background: %hover; }
 QCheckBox::indicator:focus, QRadioButton::indicator:focus { border: 2px solid %accent; width: 12px; height: 12px; }
 QCheckBox::indicator:checked { background: %accent; border-color: %accent; image: url(:/actions/tick-%tick.svg); }
