@@ -35,11 +35,11 @@ class FolderDropTest : public ::testing::Test {
     _data.clear();
     if (!addresses.isEmpty()) _data.setData(QStringLiteral("text/uri-list"), addresses.join("\r\n") + "\r\n");
   }
-  bool enter(QObject& receiver) {
-    QDragEnterEvent event(QPoint(50, 50), Qt::CopyAction | Qt::MoveAction, &_data, Qt::LeftButton, {});
-    event.setDropAction(Qt::MoveAction);
+  /// The action that the entering thing is answered with, of those that its source offers.
+  Qt::DropAction enter(QObject& receiver, Qt::DropActions offered = Qt::CopyAction | Qt::MoveAction | Qt::LinkAction) {
+    QDragEnterEvent event(QPoint(50, 50), offered, &_data, Qt::LeftButton, {});
     QApplication::sendEvent(&receiver, &event);
-    return event.isAccepted() && event.dropAction() == Qt::CopyAction;
+    return event.isAccepted() ? event.dropAction() : Qt::IgnoreAction;
   }
   bool drop() {
     QDropEvent event(QPoint(50, 50), Qt::CopyAction, &_data, Qt::LeftButton, {});
@@ -69,7 +69,7 @@ TEST_F(FolderDropTest, OneFolderIsOpenedByTheBytesOfItsName) {
     _view.setCanvasLabelCenter({1, 2});
     setAddresses({taken});
     QSignalSpy activation(&_view, &FolderView::activationRequested);
-    EXPECT_TRUE(enter(_view)) << taken.toStdString();
+    EXPECT_EQ(enter(_view), Qt::CopyAction) << taken.toStdString();
     _view.setCanvasLabelCenter({64, 64});
     EXPECT_GT(largestDifference(before, drawn(_view, 1)), 3);  // it is highlighted
     _view.setCanvasLabelCenter({1, 2});
@@ -98,13 +98,16 @@ TEST_F(FolderDropTest, EverythingElseIsRefusedWithAReason) {
   for (const auto& [addresses, reason] : refused) {
     setAddresses(addresses);
     _refusals.clear();
-    EXPECT_FALSE(enter(_view)) << reason;
+    EXPECT_EQ(enter(_view), Qt::IgnoreAction) << reason;
     EXPECT_EQ(largestDifference(before, drawn(_view, 1)), 0);
     letGo();
     ASSERT_EQ(_refusals.size(), 1);
     EXPECT_TRUE(_refusals[0].contains(QLatin1String(reason))) << _refusals[0].toStdString();
   }
   setAddresses({folder});
+  // Answering a move would have the folder removed from where it is.
+  EXPECT_EQ(enter(_view, Qt::LinkAction | Qt::MoveAction), Qt::LinkAction);
+  EXPECT_EQ(enter(_view, Qt::MoveAction), Qt::IgnoreAction);
   _view.setEnabled(false);
   EXPECT_EQ(_view.draggingEntered(_data), Qt::IgnoreAction);
   EXPECT_FALSE(_view.performDragOperation(_data));
@@ -121,7 +124,7 @@ TEST_F(FolderDropTest, TheReasonComesWhenARefusedThingIsLetGoHere) {
   };
   for (const auto& [last, refusals] : {std::pair{QPoint(60, 60), 1}, {QPoint(300, 60), 0}}) {
     _refusals.clear();
-    EXPECT_FALSE(enter(window));
+    EXPECT_EQ(enter(window), Qt::IgnoreAction);
     moveTo({50, 55});
     moveTo(last);
     EXPECT_TRUE(_refusals.isEmpty());

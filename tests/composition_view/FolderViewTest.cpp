@@ -79,6 +79,8 @@ TEST(FolderView, WhatIsCutOffIsSeenFaintly) {
   };
   EXPECT_FALSE(edgeIsDrawn());
   view.mouseDown({0, 0});
+  EXPECT_FALSE(edgeIsDrawn());
+  view.mouseDragged({0, 0});
   EXPECT_TRUE(edgeIsDrawn());
   view.mouseUp();
   EXPECT_FALSE(edgeIsDrawn());

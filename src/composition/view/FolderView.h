@@ -138,6 +138,7 @@ class FolderView : public ImageView {
   Point _mouseStart;
   Point _mouseEnd;
   bool _mouseDown = false;
+  bool _dragging = false;            ///< the mouse has moved since it went down
   std::optional<Point> _dragOrigin;  ///< the label centre that the drag began at; none once it is cancelled
   std::optional<Point> _keysOrigin;  ///< the same of a run of key presses
   QTimer _keysEnd;

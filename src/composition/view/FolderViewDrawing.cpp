@@ -98,7 +98,7 @@ void FolderView::drawLabel(QPainter& painter) {
     for (const QRect& part : around(whole, picture)) drawPart(painter, cutOff, part);
     painter.setOpacity(1);
   }
-  if (hasMovableLabel() && (passesEdge || _mouseDown || _keysOrigin))
+  if (hasMovableLabel() && (passesEdge || _dragging || _keysOrigin))
     drawEdge(painter, picture, palette().color(QPalette::Text), pixelsPerLogical);
   painter.restore();
 }

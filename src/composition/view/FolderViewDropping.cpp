@@ -9,6 +9,16 @@
 
 namespace quorvane {
 
+namespace {
+
+/// What a taken folder is answered with. Never a move: whoever sent the folder would then remove it.
+Qt::DropAction harmlessAction(Qt::DropActions possible) {
+  if (possible.testFlag(Qt::CopyAction)) return Qt::CopyAction;
+  return possible.testFlag(Qt::LinkAction) ? Qt::LinkAction : Qt::IgnoreAction;
+}
+
+}  // namespace
+
 Qt::DropAction FolderView::draggingEntered(const QMimeData& dragged) const {
   return isEnabled() && DroppedFolder::of(dragged).path ? Qt::CopyAction : Qt::IgnoreAction;
 }
@@ -32,20 +42,23 @@ void FolderView::concludeDragOperation() {
 
 void FolderView::dragEnterEvent(QDragEnterEvent* event) {
   _refused.end();
-  const bool isTaken = draggingEntered(*event->mimeData()) == Qt::CopyAction;
+  const Qt::DropAction action = harmlessAction(event->possibleActions());
+  const bool isTaken = action != Qt::IgnoreAction && draggingEntered(*event->mimeData()) == Qt::CopyAction;
   setHighlighted(isTaken);
   if (isTaken) {
-    event->setDropAction(Qt::CopyAction);
+    event->setDropAction(action);
     event->accept();
     return;
   }
-  if (isEnabled()) _refused.begin(DroppedFolder::of(*event->mimeData()).refusal);
   event->ignore();
+  if (!isEnabled()) return;
+  const QString refusal = DroppedFolder::of(*event->mimeData()).refusal;
+  _refused.begin(refusal.isEmpty() ? tr("This folder can only be moved from where it is, not opened.") : refusal);
 }
 
 void FolderView::dragMoveEvent(QDragMoveEvent* event) {
   if (!isHighlighted()) return event->ignore();
-  event->setDropAction(Qt::CopyAction);
+  event->setDropAction(harmlessAction(event->possibleActions()));
   event->accept();
 }
 
@@ -57,8 +70,10 @@ void FolderView::dragLeaveEvent(QDragLeaveEvent* event) {
 void FolderView::dropEvent(QDropEvent* event) {
   const QMimeData& dragged = *event->mimeData();
   setHighlighted(false);
-  if (!prepareForDragOperation(dragged) || !performDragOperation(dragged)) return event->ignore();
-  event->setDropAction(Qt::CopyAction);
+  const Qt::DropAction action = harmlessAction(event->possibleActions());
+  if (action == Qt::IgnoreAction || !prepareForDragOperation(dragged) || !performDragOperation(dragged))
+    return event->ignore();
+  event->setDropAction(action);
   event->accept();
   concludeDragOperation();
 }

@@ -2,6 +2,7 @@
 // Moving the label with the mouse and the keyboard.
 #include <QKeyEvent>
 #include <QMouseEvent>
+#include <utility>
 
 #include "composition/core/LabelGeometry.h"
 #include "composition/view/FolderView.h"
@@ -57,12 +58,12 @@ void FolderView::mouseDown(Point place) {
   _mouseDown = true;
   _dragOrigin = canvasLabelCenter();
   resetCursorRects();
-  update();
 }
 
 void FolderView::mouseDragged(Point place) {
   _mouseEnd = place;
   if (_dragOrigin) {
+    _dragging = true;
     const auto perUnit = static_cast<float>(magnification());
     _composition.moveLabelCenter((_mouseEnd.x - _mouseStart.x) / perUnit, (_mouseEnd.y - _mouseStart.y) / perUnit);
   }
@@ -71,12 +72,14 @@ void FolderView::mouseDragged(Point place) {
 
 void FolderView::mouseUp() {
   _mouseDown = false;
+  _dragging = false;
   resetCursorRects();
   update();
   if (const auto origin = std::exchange(_dragOrigin, std::nullopt)) tellMove(*origin);
 }
 
 void FolderView::cancelDrag() {
+  _dragging = false;
   if (const auto origin = std::exchange(_dragOrigin, std::nullopt)) _composition.setCanvasLabelCenter(*origin);
 }
 
@@ -88,7 +91,10 @@ void FolderView::tellMove(Point from) {
 
 void FolderView::finishKeyMoves() {
   _keysEnd.stop();
-  if (const auto origin = std::exchange(_keysOrigin, std::nullopt)) tellMove(*origin);
+  const auto origin = std::exchange(_keysOrigin, std::nullopt);
+  if (!origin) return;
+  update();  // the edge is no longer drawn
+  tellMove(*origin);
 }
 
 void FolderView::moveByKeys(Point to) {

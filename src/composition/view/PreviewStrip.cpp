@@ -7,8 +7,10 @@
 #include <QRunnable>
 #include <QToolTip>
 #include <array>
+#include <cmath>
 
 #include "composition/core/IconComposition.h"
+#include "composition/view/PixelGrid.h"
 
 namespace quorvane {
 
@@ -147,16 +149,31 @@ void PreviewStrip::paintEvent(QPaintEvent* /*event*/) {
     painter.setPen(groundColors[i].line);
     painter.setBrush(groundColors[i].color);
     painter.drawRoundedRect(QRectF(places[i]).adjusted(0.5, 0.5, -0.5, -0.5), cornerRadius, cornerRadius);
-    for (std::size_t size = 0; size < previewSizes.size(); ++size) {
-      QImage icon = _icons.icons[size];
-      if (icon.isNull()) continue;
-      icon.setDevicePixelRatio(static_cast<double>(icon.width()) / previewSizes[size]);
-      painter.drawImage(places[i].topLeft() + iconPlaces[size], icon);
-    }
   }
+  drawIcons(painter);
   painter.setPen(palette().color(QPalette::WindowText));
   painter.drawText(hintRect(), static_cast<int>(Qt::AlignLeft | Qt::AlignVCenter),
                    fontMetrics().elidedText(_hint, Qt::ElideRight, width()));
+}
+
+void PreviewStrip::drawIcons(QPainter& painter) {
+  const double density = pixelsPerLogicalPixel(painter);
+  if (_wanted && density != _wanted->density) {
+    // The window came to another screen, or is drawn for one. What is there stays until there is something better.
+    _wanted->density = density;
+    if (!_running) start(*_wanted);
+  }
+  painter.save();
+  enterPixels(painter);
+  for (const QRect& ground : grounds()) {
+    for (std::size_t i = 0; i < previewSizes.size(); ++i) {
+      const QPointF place = QPointF(ground.topLeft() + iconPlaces[i]) * density;
+      const double side = std::round(previewSizes[i] * density);
+      if (!_icons.icons[i].isNull())
+        painter.drawImage(QRectF(QPointF(place.toPoint()), QSizeF(side, side)), _icons.icons[i]);
+    }
+  }
+  painter.restore();
 }
 
 bool PreviewStrip::event(QEvent* event) {

@@ -7,6 +7,8 @@
 
 #include "composition/view/PreviewIcons.h"
 
+class QPainter;
+
 namespace quorvane {
 
 class IconComposition;
@@ -49,6 +51,7 @@ class PreviewStrip : public QWidget {
  private:
   [[nodiscard]] std::array<QRect, 2> grounds() const;
   [[nodiscard]] QRect hintRect() const;
+  void drawIcons(QPainter& painter);
   void start(PreviewSubject subject);
   void finished(const PreviewIcons& icons);
   void setHint(const QString& hint);
