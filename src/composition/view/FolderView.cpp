@@ -6,9 +6,9 @@
 #include <QLocale>
 
 #include "composition/core/LabelGeometry.h"
-#include "composition/view/CanvasCursors.h"
 #include "composition/view/DropFolderHere.h"
 #include "composition/view/FolderViewAccessible.h"
+#include "ui/CursorCustomCursors.h"
 
 namespace quorvane {
 
@@ -113,7 +113,7 @@ void FolderView::resetCursorRects() {
   if (!hasMovableLabel())
     setCursor(Qt::ArrowCursor);
   else
-    setCursor(_mouseDown ? canvasClosedHandCursor() : canvasOpenHandCursor());
+    setCursor(_mouseDown ? hvClosedHandCursor() : hvOpenHandCursor());
 }
 
 bool FolderView::event(QEvent* event) {
