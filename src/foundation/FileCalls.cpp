@@ -119,8 +119,10 @@ Result<void> setAttribute(int handle, const std::string& name, ByteView value) {
 Result<void> removeAttribute(int handle, const std::string& name) {
   const std::string what = "cannot remove attribute " + name;
   if (::fremovexattr(handle, name.c_str()) != 0) {
-    if (errno == ENODATA || errno == ENOTSUP) return {};
-    return Error::system(errno, what);
+    const int code = errno;
+    // Where there are no attributes, there is nothing to remove; what can still be read is there.
+    if (code == ENODATA || (code == ENOTSUP && !TRY(attribute(handle, name)))) return {};
+    return Error::system(code, what);
   }
   return flush(handle, what);
 }

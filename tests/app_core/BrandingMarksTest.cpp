@@ -78,6 +78,17 @@ TEST_P(BrandingMarksTest, TheUsersOwnSettingsComeBackToTheLetter) {
   EXPECT_EQ(metadata.icons.at(folder), "file:///mine.png");
 }
 
+TEST_P(BrandingMarksTest, SettingsThatComeBetweenTwoAppliesAreKeptFirst) {
+  apply(Qt::red);
+  write(".directory", "[Desktop Entry]\nIcon=mine\n");
+  write(".hidden", "secret\n");
+  apply(Qt::blue);
+  EXPECT_NE(text(".directory").find(pictures().front()), std::string::npos);
+  ASSERT_EQ(*branding.reset(folder), BrandingOutcome::Changed);
+  EXPECT_EQ(text(".directory"), "[Desktop Entry]\nIcon=mine\n");
+  EXPECT_EQ(text(".hidden"), "secret\n");
+}
+
 TEST_P(BrandingMarksTest, WhatCannotBeMarkedIsANoteAndNoFailure) {
   metadata.isReachable = false;
   test::writeFile(tree / "victim", std::string("precious"));

@@ -10,12 +10,11 @@ import zlib
 
 sys.path.insert(0, os.path.join(os.path.dirname(os.path.dirname(os.path.abspath(__file__))), "e2e"))
 
-from support import (CUSTOM_ICON, FINDER_INFO, ICON, ICON_COMPANION, INITED, companion, read, resources,  # noqa: E402
+from support import (CUSTOM_ICON, FINDER_INFO, ICON, ICON_COMPANION, companion, read, resources,  # noqa: E402
                      tree)
 
 SERVER_RECORD = "user.org.netatalk.Metadata"
 OUR_ATTRIBUTES = (FINDER_INFO, SERVER_RECORD)
-OUR_FLAGS = CUSTOM_ICON | INITED
 STRAY = re.compile(r"\.quorvane-[0-9a-z]{8}\.tmp")
 # What the program may make or change inside a folder.
 OUR_NAMES = {ICON, ICON_COMPANION, "Icon\uf00d", "._Icon\uf00d", ".BackupIcon.icns", ".quorvane", "._."}
@@ -213,10 +212,11 @@ def check_success(path, after, new, notes=()):
     unsaid = [mark for mark in wrong if not any(mark.split()[0] in note for note in notes)]
     if now[:2] != want[:2] or unsaid:
         return [f"success was reported, but it shows {words(now)} instead of {words(want)}; said was {notes}"]
-    # The flags may have found another place, but those that are there all say the same.
-    wanted = {flags & OUR_FLAGS for flags in new.places[path].values()}
+    # The flags may have found another place, but those that are there all say alike that there is an icon, or none. A
+    # place that said so already and could not be written keeps its "has been opened", which hides nothing.
+    wanted = {flags & CUSTOM_ICON for flags in new.places[path].values()}
     return [f"success was reported, but the folder's flags are {flags:#06x} ({place})"
-            for place, flags in after.places[path].items() if wanted and flags & OUR_FLAGS not in wanted]
+            for place, flags in after.places[path].items() if wanted and flags & CUSTOM_ICON not in wanted]
 
 
 def check_failure(path, after, old, new):

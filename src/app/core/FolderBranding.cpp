@@ -112,7 +112,12 @@ Result<FolderBranding::Notes> FolderBranding::setMarks(Folder& folder, const Wan
   if (_services.marks == nullptr) return Notes();
   const auto state = BrandingRecord::state(folder);
   std::optional<Folder> original;
-  if (state.ok() && *state) original = TRY(BrandingRecord::originalMarks(folder, Folder::Access::Write));
+  if (!state.ok() || *state) {
+    auto kept = BrandingRecord::originalMarks(folder, Folder::Access::Write);
+    // A damaged record leads on without the files from before; one that just cannot be read now must not.
+    if (!kept.ok() && (state.ok() || kept.error().kind() == ErrorKind::System)) return kept.error();
+    if (kept.ok()) original = std::move(*kept);
+  }
   return _services.marks->set(folder, wanted, original ? &*original : nullptr);
 }
 

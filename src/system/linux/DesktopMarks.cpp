@@ -93,17 +93,34 @@ directoryfile::IconPaths pathsOf(const Folder& folder, const std::string& pictur
   return paths;
 }
 
+/// What a settings file of the user's is without what is ours; nullopt: nothing.
+using WithoutOurs = Text (*)(const std::string&);
+
+Text directoryWithoutOurs(const std::string& text) {
+  return directoryfile::restored(text, {}, isMarkPicture);
+}
+
+Text hiddenAsItIs(const std::string& text) {
+  return text;
+}
+
 /// Keeps the file itself, or, when something of ours is in it already, what it was without.
-Result<void> keepText(const Folder& folder, const std::string& name, Folder& into,
-                      std::optional<std::string> (*withoutOurs)(const std::string&)) {
+Result<void> keepText(const Folder& folder, const std::string& name, Folder& into, WithoutOurs withoutOurs) {
   const auto text = readText(folder, name);
-  if (!text) return isLasting(text.error()) ? Result<void>() : text.error();  // never touched, so never given back
+  if (!text) return isLasting(text.error()) ? Result<void>() : text.error();  // kept before it is edited, if ever
   if (!*text) return {};
   const auto original = withoutOurs(**text);
   if (!original) return {};
   if (*original != **text) return writeText(into, name, *original, {});
   TRY_VOID(keepFile(folder, name, into, name));
   return {};
+}
+
+/// What could not be read when the first state was kept, or came into being since.
+Result<void> keepBeforeFirstEdit(const Folder& folder, const std::string& name, const Text& present, Folder* original,
+                                 WithoutOurs withoutOurs) {
+  if (!present || original == nullptr || TRY(original->statusOf(name))) return {};
+  return keepText(folder, name, *original, withoutOurs);
 }
 
 }  // namespace
@@ -116,9 +133,8 @@ bool isMarkPicture(std::string_view path) {
 }
 
 Result<void> DesktopMarks::saveOriginal(const Folder& folder, Folder& into) const {
-  TRY_VOID(keepText(folder, directoryfile::fileName, into,
-                    [](const std::string& text) { return directoryfile::restored(text, {}, isMarkPicture); }));
-  TRY_VOID(keepText(folder, hiddenfile::fileName, into, [](const std::string& text) { return Text(text); }));
+  TRY_VOID(keepText(folder, directoryfile::fileName, into, directoryWithoutOurs));
+  TRY_VOID(keepText(folder, hiddenfile::fileName, into, hiddenAsItIs));
   return _keepSetting(folder, into);
 }
 
@@ -129,24 +145,27 @@ Result<void> DesktopMarks::_keepSetting(const Folder& folder, Folder& original) 
   return {};
 }
 
-Result<void> DesktopMarks::_setDirectoryFile(Folder& folder, const WantedMarks& wanted, const Folder* original) {
+Result<void> DesktopMarks::_setDirectoryFile(Folder& folder, const WantedMarks& wanted, Folder* original) {
   const std::string name = directoryfile::fileName;
   const Text present = TRY(readText(folder, name));
   if (wanted.picture) {
     const std::string text = directoryfile::withIcon(present.value_or(std::string()), pathsOf(folder, *wanted.picture));
-    return text == present ? Result<void>() : writeText(folder, name, text, present);
+    if (text == present) return {};
+    TRY_VOID(keepBeforeFirstEdit(folder, name, present, original, directoryWithoutOurs));
+    return writeText(folder, name, text, present);
   }
   if (!present) return {};
   const Text kept = original != nullptr ? TRY(readText(*original, name)) : Text();
   return giveBack(folder, name, present, directoryfile::restored(*present, kept, isMarkPicture), original, kept);
 }
 
-Result<void> DesktopMarks::_setHiddenFile(Folder& folder, const WantedMarks& wanted, const Folder* original) {
+Result<void> DesktopMarks::_setHiddenFile(Folder& folder, const WantedMarks& wanted, Folder* original) {
   const std::string name = hiddenfile::fileName;
   const Text present = TRY(readText(folder, name));
   if (wanted.hiddenFile) {
     const std::string before = present.value_or(std::string());
     if (hiddenfile::hides(before, *wanted.hiddenFile)) return {};
+    TRY_VOID(keepBeforeFirstEdit(folder, name, present, original, hiddenAsItIs));
     return writeText(folder, name, hiddenfile::withName(before, *wanted.hiddenFile), present);
   }
   if (original == nullptr) return {};

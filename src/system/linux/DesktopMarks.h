@@ -20,8 +20,8 @@ class DesktopMarks : public FolderMarks {
   void forgetThumbnails(const std::filesystem::path& folder) const override;
 
  private:
-  static Result<void> _setDirectoryFile(Folder& folder, const WantedMarks& wanted, const Folder* original);
-  static Result<void> _setHiddenFile(Folder& folder, const WantedMarks& wanted, const Folder* original);
+  static Result<void> _setDirectoryFile(Folder& folder, const WantedMarks& wanted, Folder* original);
+  static Result<void> _setHiddenFile(Folder& folder, const WantedMarks& wanted, Folder* original);
   /// Another setting than ours, before it is replaced.
   Result<void> _keepSetting(const Folder& folder, Folder& original) const;
   Result<void> _setMetadata(Folder& folder, const WantedMarks& wanted, const Folder* original) const;
