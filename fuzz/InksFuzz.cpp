@@ -37,7 +37,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const PixelFormat format{model, 8, false};
     constexpr std::uint8_t pixel[4] = {1, 100, 200, 255};
     std::uint8_t converted[4] = {};
-    ColorTransform(format, bytes).convert(pixel, converted, 1);
+    ColorTransform(format, bytes, 1).convert(pixel, converted, 1);
     if (converted[3] != 255) std::abort();
   }
   return 0;
