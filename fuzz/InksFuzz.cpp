@@ -29,7 +29,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   if (orientation < 1 || orientation > 8) std::abort();
   // Large pictures only take long: both decoders fill in what a file lacks.
   const auto header = readJpegHeader(bytes);
-  if (isJpeg(bytes) && header.ok() && header->components == 4 && header->size.width * header->size.height <= 1 << 14)
+  if (isJpeg(bytes) && header.ok() && header->components == 4 &&
+      std::int64_t{header->size.width} * header->size.height <= 1 << 14)
     readWholly(decodeInkJpeg(bytes), orientation);
   if (isInkTiff(bytes)) readWholly(decodeInkTiff(bytes), orientation);
   // Profiles, as libraries that have a long record see them.
@@ -37,7 +38,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const PixelFormat format{model, 8, false};
     constexpr std::uint8_t pixel[4] = {1, 100, 200, 255};
     std::uint8_t converted[4] = {};
-    ColorTransform(format, bytes).convert(pixel, converted, 1);
+    ColorTransform(format, bytes, 1).convert(pixel, converted, 1);
     if (converted[3] != 255) std::abort();
   }
   return 0;

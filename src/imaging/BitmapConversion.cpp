@@ -80,7 +80,7 @@ void convertRows(const QImage& picture, const QByteArray& profile, BitmapImageRe
   const bool isGrey = profile.mid(16, 4) == "GRAY";
   const bool isDeep = picture.format() == QImage::Format_RGBA64;
   const PixelFormat format{isGrey ? ColorModel::Grey : ColorModel::Rgb, isDeep ? 16 : 8, true};
-  const ColorTransform transform(format, bytes);
+  const ColorTransform transform(format, bytes, std::int64_t{picture.width()} * picture.height());
   const auto sampleBytes = static_cast<std::size_t>(format.bitsPerSample / 8);
   const int width = picture.width();
   Bytes grey(isGrey ? static_cast<std::size_t>(width) * 2 * sampleBytes : 0);

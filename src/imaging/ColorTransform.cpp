@@ -105,7 +105,7 @@ struct ColorTransform::Engine {
   Transform transform;  ///< before its context
 };
 
-ColorTransform::ColorTransform(const PixelFormat& format, ByteView profile) : _format(format) {
+ColorTransform::ColorTransform(const PixelFormat& format, ByteView profile, std::int64_t pixels) : _format(format) {
   auto engine = std::make_unique<Engine>();
   engine->context.reset(cmsCreateContext(nullptr, nullptr));
   if (!engine->context) return;
@@ -116,6 +116,9 @@ ColorTransform::ColorTransform(const PixelFormat& format, ByteView profile) : _f
   const Profile to(cmsCreate_sRGBProfileTHR(context));
   cmsUInt32Number flags = cmsFLAGS_BLACKPOINTCOMPENSATION;
   if (format.hasAlpha) flags |= cmsFLAGS_COPY_ALPHA;
+  // The tables for four inks have 23^4 entries: small pictures are done before they are.
+  constexpr std::int64_t worthTables = 1 << 17;
+  if (pixels < worthTables) flags |= cmsFLAGS_NOOPTIMIZE;
   engine->transform.reset(cmsCreateTransformTHR(context, from.get(), typeOf(format), to.get(), TYPE_RGBA_8,
                                                 INTENT_RELATIVE_COLORIMETRIC, flags));
   if (engine->transform) _engine = std::move(engine);

@@ -33,7 +33,8 @@ class ColorTransform {
  public:
   /// `profile` is the ICC profile that the file carries, or empty. One that is broken, over limits::profileBytes or of
   /// another colour model counts as none: then grey and RGB are taken for sRGB's, and inks for plain filters of light.
-  ColorTransform(const PixelFormat& format, ByteView profile);
+  /// `pixels` says how many are going to be converted, about: for many of them tables are made first.
+  ColorTransform(const PixelFormat& format, ByteView profile, std::int64_t pixels);
   ~ColorTransform();
   ColorTransform(ColorTransform&&) noexcept;
   ColorTransform& operator=(ColorTransform&&) noexcept;

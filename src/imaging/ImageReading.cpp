@@ -132,8 +132,7 @@ std::vector<std::string> Image::imageFileTypes() {
   add(installedFileTypes());
   for (const ImageReader& reader : registry().readers()) add(reader.fileTypes);
   std::ranges::sort(types);
-  const auto repeated = std::ranges::unique(types);
-  types.erase(repeated.begin(), repeated.end());
+  types.erase(std::unique(types.begin(), types.end()), types.end());
   return types;
 }
 

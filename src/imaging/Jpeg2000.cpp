@@ -178,7 +178,8 @@ Result<BitmapImageRep> makeBitmap(const opj_image_t& image, PixelSize size) {
   if (!bitmap) return Error::tooLarge("JPEG 2000 picture is too large");
   const ColorModel model = isInk ? ColorModel::Cmyk : colors >= 3 ? ColorModel::Rgb : ColorModel::Grey;
   const PixelFormat format{model, 8, alphaIndex >= 0};
-  const ColorTransform transform(format, isYcc ? ByteView() : ByteView(image.icc_profile_buf, image.icc_profile_len));
+  const ColorTransform transform(format, isYcc ? ByteView() : ByteView(image.icc_profile_buf, image.icc_profile_len),
+                                 std::int64_t{size.width} * size.height);
   Bytes row(static_cast<std::size_t>(size.width) * static_cast<std::size_t>(format.samples()));
   std::size_t index = 0;
   for (int y = 0; y < size.height; ++y) {

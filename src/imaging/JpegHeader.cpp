@@ -65,7 +65,7 @@ Result<JpegHeader> readJpegHeader(ByteView bytes) {
       const auto height = frame.readU16();
       const auto width = frame.readU16();
       const auto components = frame.readU8();
-      if (!precision || !components) break;
+      if (!precision || !height || !width || !components) break;
       header.size = {*width, *height};
       header.components = *components;
     }

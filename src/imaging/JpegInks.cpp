@@ -97,7 +97,7 @@ Result<BitmapImageRep> decodeInkJpeg(ByteView bytes) {
   if (!bitmap) return Error::tooLarge("JPEG picture is too large");
   if (!decoder.start()) return decoder.error();
 
-  const ColorTransform transform({ColorModel::Cmyk, 8, false}, decoder.profile());
+  const ColorTransform transform({ColorModel::Cmyk, 8, false}, decoder.profile(), std::int64_t{width} * height);
   Bytes row(static_cast<std::size_t>(width) * 4);
   for (int y = 0; y < height; ++y) {
     if (!decoder.readRow(row.data())) return decoder.error();

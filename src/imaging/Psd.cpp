@@ -61,7 +61,7 @@ void removeWhite(Sample* pixels, int count, const PixelFormat& format) {
 template <typename Sample>
 Result<void> decodeRows(const PsdFile& file, BitmapImageRep& bitmap) {
   const PixelFormat format{modelOf(file), int{sizeof(Sample)} * 8, file.hasTransparency};
-  const ColorTransform transform(format, file.profile);
+  const ColorTransform transform(format, file.profile, std::int64_t{file.width} * file.height);
   const int samples = format.samples();
   Bytes packed(file.bytesPerRow());
   std::vector<Sample> pixels(static_cast<std::size_t>(file.width) * static_cast<std::size_t>(samples));
@@ -85,7 +85,7 @@ Result<void> decodeIndexedRows(const PsdFile& file, BitmapImageRep& bitmap) {
   for (std::size_t i = 0; i < colors; ++i)
     for (std::size_t color = 0; color < 3; ++color) palette[i * 3 + color] = file.palette[color * colors + i];
   Bytes converted(colors * 4);
-  ColorTransform({ColorModel::Rgb, 8, false}, file.profile).convert(palette.data(), converted.data(), colors);
+  ColorTransform({ColorModel::Rgb, 8, false}, file.profile, colors).convert(palette.data(), converted.data(), colors);
   if (file.transparentIndex) converted[static_cast<std::size_t>(*file.transparentIndex) * 4 + 3] = 0;
 
   Bytes row(file.bytesPerRow());

@@ -164,7 +164,8 @@ Result<BitmapImageRep> decodeInkTiff(ByteView bytes) {
   auto bitmap = BitmapImageRep::bitmapImageRepWithLayout(layout);
   if (!bitmap) return Error::invalidInput("TIFF picture has no pixels");
 
-  const ColorTransform transform({ColorModel::Cmyk, file.bytesPerSample * 8, false}, profileOf(file));
+  const ColorTransform transform({ColorModel::Cmyk, file.bytesPerSample * 8, false}, profileOf(file),
+                                 std::int64_t{file.width} * file.height);
   InkRows rows(file, bytes);
   for (int y = 0; y < layout.pixelsHigh; ++y) {
     const std::uint8_t* row = rows.read(static_cast<std::uint32_t>(y));
