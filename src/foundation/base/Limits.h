@@ -25,6 +25,11 @@ inline constexpr std::size_t companionEntries = 512;
 /// Longest ".directory" or ".hidden" file that is edited; usual ones have a few lines.
 inline constexpr std::size_t folderSettingsBytes = std::size_t{16} << 20;
 
+/// Longest settings file, longest single value in it as text, and how deep lists in it nest. Ours have a few kilobytes.
+inline constexpr std::size_t settingsFileBytes = std::size_t{4} << 20;
+inline constexpr std::size_t settingsValueBytes = std::size_t{1} << 20;
+inline constexpr int settingsDepth = 16;
+
 /// Longest ".git" file or "commondir" (one path), and list of what git does not look at; git itself reads 4 KiB and any
 /// length.
 inline constexpr std::size_t gitPointerBytes = std::size_t{16} << 10;

@@ -1,0 +1,42 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QString>
+#include <optional>
+
+#include "composition/core/IconComposition.h"
+
+namespace quorvane {
+
+/// What an edit changed.
+enum class EditKind {
+  Label,
+  Position,
+  Font,
+  FontSize,
+  Color,
+  Effect,
+  LineSpacing,
+  Shear,
+  Rotation,
+  Opacity,
+  BaseIcon,
+  Transform,  ///< shear and rotation at once
+  Look,       ///< several values at once
+};
+
+/// All that the user edits of a composition: everything save the folder's own icon. Pictures are shared, not copied.
+struct EditedValues {
+  std::optional<QString> label;
+  std::optional<Image> baseIcon;
+  LabelLook look;
+
+  static EditedValues of(const IconComposition& composition);
+  /// Sets what is different there, and nothing else.
+  void applyTo(IconComposition& composition) const;
+};
+
+/// What is different in both; nullopt when nothing is. No label and an empty one are the same, as they look the same.
+std::optional<EditKind> editBetween(const EditedValues& before, const EditedValues& after);
+
+}  // namespace quorvane
