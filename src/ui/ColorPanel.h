@@ -1,0 +1,31 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QColor>
+
+#include "ui/FloatingPanel.h"
+
+class QColorDialog;
+
+namespace quorvane {
+
+/// The shared colour panel: a floating window whose changes act at once.
+class ColorPanel : public FloatingPanel {
+  Q_OBJECT
+ public:
+  ColorPanel();
+
+  [[nodiscard]] QColor color() const { return _color; }
+  /// Shows the colour; tells no one.
+  void setColor(const QColor& color);
+
+ Q_SIGNALS:
+  /// The user chose a colour.
+  void colorChanged(const QColor& color);
+
+ private:
+  QColorDialog* _dialog;
+  QColor _color;
+};
+
+}  // namespace quorvane

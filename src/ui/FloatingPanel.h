@@ -1,0 +1,59 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QPointer>
+#include <QWidget>
+
+namespace quorvane {
+
+/// A small floating window round one content, which may be lent to a box of another window: then it is shown there and
+/// the panel itself stays hidden. Closing the panel, by Escape too, only hides it.
+class FloatingPanel : public QWidget {
+  Q_OBJECT
+ public:
+  ~FloatingPanel() override;
+
+  /// Brings the panel to the front with the keyboard focus, over the active window. Does nothing while its content is
+  /// lent.
+  void showPanel();
+  void hidePanel();
+
+  /// Moves the content to the end of the box's layout (one is made when it has none); the panel is hidden. A box that
+  /// is deleted gives the content back before.
+  void moveContentInto(QWidget& box);
+  /// Takes the content back. The panel stays hidden.
+  void moveContentBack();
+  [[nodiscard]] bool isContentLent() const { return !_place.isNull(); }
+
+ Q_SIGNALS:
+  /// The panel was hidden, by whomever.
+  void panelClosed();
+
+ protected:
+  explicit FloatingPanel(const QString& title);
+  /// Once, by the derived class; the panel owns it.
+  void _setContent(QWidget* content);
+
+  void hideEvent(QHideEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
+
+ private:
+  class Place;
+  void _takeContent();
+
+  QWidget* _content = nullptr;
+  QPointer<QWidget> _place;
+};
+
+/// A standard dialog that serves as the content of a panel: Escape and Return do not hide it there.
+template <typename Dialog>
+class PanelContent : public Dialog {
+ public:
+  using Dialog::Dialog;
+  void done(int) override {}
+
+ protected:
+  void keyPressEvent(QKeyEvent* event) override { QWidget::keyPressEvent(event); }
+};
+
+}  // namespace quorvane

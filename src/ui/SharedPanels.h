@@ -1,0 +1,21 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "ui/ColorPanel.h"
+#include "ui/FontPanel.h"
+
+namespace quorvane {
+
+/// The one colour panel and the one font panel of the application. Whoever starts the application makes one of these
+/// and passes it on; it must outlive the controls that use it.
+class SharedPanels {
+ public:
+  [[nodiscard]] ColorPanel& colorPanel() { return _colorPanel; }
+  [[nodiscard]] FontPanel& fontPanel() { return _fontPanel; }
+
+ private:
+  ColorPanel _colorPanel;
+  FontPanel _fontPanel;
+};
+
+}  // namespace quorvane
