@@ -37,3 +37,19 @@ function(quorvane_test name)
   gtest_discover_tests(test_${name} TEST_PREFIX ${name}. DISCOVERY_TIMEOUT 60
                        PROPERTIES TIMEOUT 120 ENVIRONMENT "QT_QPA_PLATFORM=offscreen")
 endfunction()
+
+# quorvane_resources(TARGET NAME QRC) embeds what a resource file lists. A static library has to register it by
+# Q_INIT_RESOURCE(NAME).
+function(quorvane_resources target name qrc)
+  set(output ${CMAKE_CURRENT_BINARY_DIR}/${name}_resources.cpp)
+  file(STRINGS ${qrc} files REGEX "<file")
+  list(TRANSFORM files REPLACE ".*>([^<]+)</file>.*" "\\1")
+  get_filename_component(folder ${qrc} DIRECTORY)
+  list(TRANSFORM files PREPEND ${folder}/)
+  add_custom_command(OUTPUT ${output}
+    COMMAND Qt6::rcc --name ${name} --output ${output} ${qrc}
+    DEPENDS ${qrc} ${files} VERBATIM)
+  target_sources(${target} PRIVATE ${output})
+  # Generated code is not held to our warnings.
+  set_source_files_properties(${output} PROPERTIES COMPILE_OPTIONS "-w" SKIP_AUTOGEN ON)
+endfunction()

@@ -2,6 +2,7 @@
 #include "composition/core/TextBlock.h"
 
 #include <QFontDatabase>
+#include <QFontMetricsF>
 #include <QRawFont>
 #include <QTextCharFormat>
 #include <QTextLayout>
@@ -145,6 +146,13 @@ TextBlock& TextBlock::operator=(TextBlock&&) noexcept = default;
 double TextBlock::naturalLineHeight(const LabelFont& font) {
   const Line line(QStringLiteral("FooBar"), font);
   return (line.ascent + line.descent) * font.size;
+}
+
+double TextBlock::letterHeight(const LabelFont& font, bool hasSmallLetters) {
+  // Fonts often carry wrong figures for these heights, and some scripts' fonts none: the letters themselves are right.
+  const QFontMetricsF metrics(layoutFont(font, fineLayoutSize));
+  return metrics.tightBoundingRect(hasSmallLetters ? QStringLiteral("x") : QStringLiteral("H")).height() /
+         fineLayoutSize * font.size;
 }
 
 Size TextBlock::size(double fontSize, double maximumLineHeight) const {

@@ -33,6 +33,8 @@ class TextBlock {
 
   /// Height of a line of "FooBar" (ascent and descent) in the font at its size.
   static double naturalLineHeight(const LabelFont& font);
+  /// Height of a letter that says how well text can be read: of "x" when the text has any small letter, else of "H".
+  static double letterHeight(const LabelFont& font, bool hasSmallLetters);
 
   /// Width of the widest line and height of all lines, in points. Each line is as high as its own fonts (emoji and
   /// other scripts may be higher than the font asked for), but no higher than `maximumLineHeight` if that is above 0.

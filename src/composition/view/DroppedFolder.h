@@ -1,0 +1,35 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QCoreApplication>
+#include <QString>
+#include <filesystem>
+#include <optional>
+
+class QMimeData;
+class QUrl;
+
+namespace quorvane {
+
+/// What is dragged over the canvas, judged.
+struct DroppedFolder {
+  Q_DECLARE_TR_FUNCTIONS(DroppedFolder)
+
+ public:
+  std::optional<std::filesystem::path> path;  ///< the one folder, links resolved; nullopt when it is refused
+  QString refusal;                            ///< the reason in a sentence; empty for a folder
+
+  /// Exactly one address of a folder that exists on this computer is taken. Everything else is refused: files, several
+  /// folders, addresses on other computers, texts and pictures. Looks into the file system.
+  static DroppedFolder of(const QMimeData& data);
+};
+
+/// The bytes of the path that a "file" address of this computer names, whatever their encoding; nullopt for other
+/// addresses, and for one whose path is relative or holds a zero byte.
+[[nodiscard]] std::optional<std::filesystem::path> localPath(const QUrl& address);
+
+/// The first address of the data that is a path of this computer, links resolved where they can be; what it names is
+/// not looked at.
+[[nodiscard]] std::optional<std::filesystem::path> firstLocalPath(const QMimeData& data);
+
+}  // namespace quorvane
