@@ -1,12 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Making the controller, its start and its end, menus.
+// Making the controller, its start and its end.
 #include "app/AppController.h"
 
 #include <QApplication>
-#include <QClipboard>
 #include <QDir>
 #include <QEventLoop>
-#include <QMimeData>
 #include <QPushButton>
 
 #include "app/BaseColumn.h"
@@ -46,7 +44,7 @@ std::shared_ptr<AppController> AppController::init(const AppServices& services) 
   if (auto controller = sharedController()) return controller;
   std::shared_ptr<AppController> controller(new AppController(services));
   shared() = controller;
-  services.defaults.registerDefaults(factoryDefaults());
+  services.defaults.registerDefaults(settings::factoryDefaults());
   return controller;
 }
 
@@ -77,8 +75,8 @@ void AppController::setOutlets(const Outlets& outlets) {
 }
 
 void AppController::awakeFromNib() {
-  const bool isRemembered = _mainWindow->setFrameAutosaveName(QStringLiteral("MainWindowAutosave"));
-  if (!isRemembered || _services.defaults.integerForKey(settings::launchCount) == 0) _mainWindow->center();
+  const bool isRemembered = _mainWindow->setFrameAutosaveName(settings::mainWindowAutosaveName);
+  if (!isRemembered || settings::value(_services.defaults, settings::launchCount) == 0) _mainWindow->center();
   setPath(std::nullopt);
 }
 
@@ -90,7 +88,7 @@ void AppController::applicationDidFinishLaunching() {
   _effectPopUp->setAutoenablesItems(false);
   for (int item = 0; item < _effectPopUp->count(); ++item)
     _effectPopUp->setItemEnabled(item, _effectPopUp->tagAt(item) >= 0);
-  _services.defaults.incrementIntegerForKey(settings::launchCount);
+  _services.defaults.incrementIntegerForKey(settings::launchCount.name);
   _history->clear();
   _appInitialized = true;
   Q_EMIT stateChanged();
@@ -99,60 +97,6 @@ void AppController::applicationDidFinishLaunching() {
 void AppController::applicationWillTerminate() {
   _services.work.finish(patienceAtEnd);
   static_cast<void>(_services.defaults.synchronize());
-}
-
-bool AppController::validateMenuItem(MenuCommand command) const {
-  const bool isIdle = !isBusy();
-  switch (command) {
-    case MenuCommand::Apply:
-      return isIdle && _isIconModified() && !_isLoading;
-    case MenuCommand::Revert:
-      return isIdle && _origIconView->image().has_value();
-    case MenuCommand::ToggleOriginalIcon:
-      return _origIconView->image().has_value();
-    case MenuCommand::Undo:
-      return isIdle && _history->canUndo();
-    case MenuCommand::Redo:
-      return isIdle && _history->canRedo();
-    case MenuCommand::ShowInFileManager:
-      return _path.has_value();
-    case MenuCommand::Open:
-    case MenuCommand::OpenRecent:
-    case MenuCommand::CloseFolder:
-    case MenuCommand::PasteFolderPath:
-      return isIdle;
-    default:
-      return true;
-  }
-}
-
-void AppController::help(int tag) {
-  struct Page {
-    int tag;
-    const char* path;
-  };
-  static constexpr Page pages[] = {{0, "/quorvane/help/"}, {2, "forum"},          {3, "blog"},        {4, ""},
-                                   {5, "quorvane/faq/"},   {6, "quorvane/fb/"}, {7, "quorvane/mu/"}};
-  for (const Page& page : pages) {
-    if (page.tag == tag) _services.visitPage(page.path);
-  }
-}
-
-void AppController::pasteFolderPath() {
-  const QMimeData* data = QApplication::clipboard()->mimeData();
-  std::optional<Path> path = data ? firstLocalPath(*data) : std::nullopt;
-  if (!path && data && data->hasText()) {
-    QString text = data->text().trimmed();
-    if (text == QLatin1String("~") || text.startsWith(QLatin1String("~/"))) text.replace(0, 1, QDir::homePath());
-    const QUrl address(text);
-    path = address.isLocalFile() ? localPath(address) : std::optional<Path>(QFile::encodeName(text).toStdString());
-    if (path && !path->is_absolute()) path.reset();
-  }
-  if (!path || !applicationOpenFile(*path)) _notice(tr("The clipboard holds no path of a folder."));
-}
-
-void AppController::showInFileManager() {
-  if (_path && _services.revealInFileManager) _services.revealInFileManager(*_path);
 }
 
 bool AppController::windowShouldClose(HVWindow& window) {

@@ -3,8 +3,10 @@
 
 #include <QColor>
 #include <QObject>
+#include <QPointer>
 #include <QTimer>
 #include <filesystem>
+#include <functional>
 #include <memory>
 #include <optional>
 
@@ -101,6 +103,8 @@ class AppController : public QObject, public HVWindowDelegate, public LabelTextF
 
   // Menus.
   [[nodiscard]] bool validateMenuItem(MenuCommand command) const;
+  /// Does what a menu item stands for.
+  void perform(MenuCommand command);
   void help(int tag);
   void pasteFolderPath();
   void showInFileManager();
@@ -142,6 +146,12 @@ class AppController : public QObject, public HVWindowDelegate, public LabelTextF
   void _applied(const Path& path, const Result<BrandingResult>& result);
   void _reverted(const Path& path, const Result<BrandingResult>& result);
   void _notice(const QString& words);
+  void _connectMenu();
+  void _fillRecentMenu();
+  void _fillLooksMenu();
+  /// Cut, copy and the like go to the text that has the focus; copy goes to the canvas otherwise.
+  void _edit(MenuCommand command);
+  void _endSliderStep();
 
   /// Busy from here until _endWork(); after a moment the window shows it.
   void _beginWork(const QString& words);
@@ -160,7 +170,7 @@ class AppController : public QObject, public HVWindowDelegate, public LabelTextF
   QString _busyWords;
   QTimer _busyTimer;
   QPointer<QWidget> _focusBeforeWork;
-  bool _isShowingValues = false;
+  Slider* _heldSlider = nullptr;  ///< whose run of changes is one step of the history
 };
 
 /// The path as people read it: the home folder shortened to "~".

@@ -80,10 +80,12 @@ void AppController::setOpacity(Slider& sender) {
 }
 
 void AppController::resetTransform() {
+  _endSliderStep();
   _history->beginStep(EditKind::Transform);
   for (Slider* slider : {_shearSlider, _rotationSlider}) {
     slider->setValue(0);
     slider->sendAction();
+    _endSliderStep();
   }
   _history->endStep();
 }
@@ -132,11 +134,13 @@ void AppController::centerLabel() {
 
 void AppController::undo() {
   _folderView->finishKeyMoves();
+  _endSliderStep();
   if (_history->undo()) _showValues();
 }
 
 void AppController::redo() {
   _folderView->finishKeyMoves();
+  _endSliderStep();
   if (_history->redo()) _showValues();
 }
 
@@ -166,7 +170,8 @@ void AppController::_showValues() {
 }
 
 void AppController::_canvasChanged() {
-  _history->note();
+  // A drag is one step; it is noted at its end.
+  if (!_folderView->isMouseDown()) _history->note();
   _previewStrip->setComposition(_folderView->composition());
   _baseColumn->showPicture(_folderView->baseIcon());
 }

@@ -39,6 +39,7 @@ bool AppController::applicationOpenFile(const Path& path) {
 
 void AppController::setPath(const std::optional<Path>& path) {
   const unsigned opening = ++_opening;
+  _endSliderStep();
   _services.work.cancelLoad();
   if (_isLoading) {
     _isLoading = false;
@@ -156,7 +157,7 @@ void AppController::_applied(const Path& path, const Result<BrandingResult>& res
 }
 
 void AppController::incrementUsageCount() {
-  Q_EMIT usageCounted(_services.defaults.incrementIntegerForKey(settings::usageCount));
+  Q_EMIT usageCounted(_services.defaults.incrementIntegerForKey(settings::usageCount.name));
 }
 
 void AppController::revert() {

@@ -18,22 +18,17 @@
 namespace quorvane {
 
 void AppController::_initColorPanel() {
-  const UserDefaults& defaults = _services.defaults;
-  const auto stored = defaults.colorForKey(defaults.boolForKey(settings::useDefaultColor) ? settings::defaultColor
-                                                                                          : settings::lastUsedColor);
-  const QColor color = stored.value_or(Qt::black);
+  const QColor color = settings::startColor(_services.defaults);
   ColorPanel& panel = _services.panels.colorPanel();
   panel.setColor(color);
-  connect(&panel, &ColorPanel::colorChanged, _mainWindow, [window = _mainWindow, &panel] { window->myChangeColor(panel); });
+  connect(&panel, &ColorPanel::colorChanged, _mainWindow,
+          [window = _mainWindow, &panel] { window->myChangeColor(panel); });
   _colorWell->setColor(color);
   _folderView->setColor(color);
 }
 
 void AppController::_initFontPanel() {
-  const UserDefaults& defaults = _services.defaults;
-  const auto stored = defaults.fontForKey(defaults.boolForKey(settings::useDefaultFont) ? settings::defaultFont
-                                                                                        : settings::lastUsedFont);
-  const LabelFont font = stored ? LabelFont{stored->family, stored->style, stored->size} : systemFont(50);
+  const LabelFont font = settings::startFont(_services.defaults);
   FontPanel& panel = _services.panels.fontPanel();
   connect(&panel, &FontPanel::fontChanged, _mainWindow, [window = _mainWindow, &panel] { window->myChangeFont(panel); });
   connect(&panel, &FontPanel::panelClosed, this, &AppController::fontPanelWillClose);
@@ -49,9 +44,21 @@ void AppController::fontPanelWillClose() {
 
 void AppController::_connectSlider(Slider& slider, void (AppController::*action)(Slider&)) {
   // What is changed in one drag is taken back in one go.
-  connect(&slider, &Slider::valueChanged, this, [this, &slider, action, isHeld = std::make_shared<bool>(false)] {
+  connect(&slider, &Slider::valueChanged, this, [this, &slider, action] {
+    if (_heldSlider != &slider) {
+      _endSliderStep();
+      _history->beginStep();
+      _heldSlider = &slider;
+    }
     (this->*action)(slider);
   });
+  connect(&slider, &Slider::editingFinished, this, &AppController::_endSliderStep);
+}
+
+void AppController::_endSliderStep() {
+  if (!_heldSlider) return;
+  _heldSlider = nullptr;
+  _history->endStep();
 }
 
 void AppController::_connectControls() {
@@ -80,6 +87,9 @@ void AppController::_connectControls() {
   connect(_baseColumn, &BaseColumn::pictureDropped, this, &AppController::setBasePicture);
   connect(_baseColumn, &BaseColumn::dropRefused, this, &AppController::_notice);
   connect(_baseColumn, &BaseColumn::clearPicture, this, [this] { setBaseIcon(std::nullopt); });
+
+  connect(_folderView, &FolderView::labelMoved, this, [this] { _history->note(); });
+  _connectMenu();
 
   _labelTF->setUndoRedoEnabled(false);
   _labelTF->installEventFilter(this);

@@ -4,12 +4,14 @@
 #include <filesystem>
 #include <functional>
 #include <optional>
+#include <vector>
 
 class QWidget;
 
 namespace quorvane {
 
 class FolderWork;
+class LookStore;
 class SharedPanels;
 class UserDefaults;
 class UserPrompts;
@@ -25,10 +27,17 @@ struct AppServices {
   UserPrompts& prompts;
   SharedPanels& panels;
   FolderWork& work;
+  LookStore* looks = nullptr;  ///< none: looks cannot be kept
 
   Chooser chooseFolder;
   Chooser choosePicture;
+  struct RecentFolder {
+    Path path;
+    bool isMissing = false;
+  };
   std::function<void(const Path& folder)> noteRecentFolder;
+  std::function<std::vector<RecentFolder>()> recentFolders;  ///< the last one first
+  std::function<void()> clearRecentFolders;
   std::function<void(const Path& folder)> revealInFileManager;
   /// Opens a page of the program's web site.
   std::function<void(const char* page)> visitPage;

@@ -47,12 +47,12 @@ void QVWindow::setOutlets(FolderView* folderView, AppController* appController) 
 void QVWindow::myChangeFont(const FontPanel& sender) {
   const LabelFont font{sender.family(), sender.style(), sender.size()};
   _appController->setFont(font);
-  _defaults.setFont({font.family, font.style, font.size}, settings::lastUsedFont);
+  settings::setValue(_defaults, settings::lastUsedFont, font);
 }
 
 void QVWindow::myChangeColor(const ColorPanel& sender) {
   _appController->setColor(sender.color());
-  _defaults.setColor(sender.color(), settings::lastUsedColor);
+  settings::setValue(_defaults, settings::lastUsedColor, sender.color());
 }
 
 void QVWindow::bringToFront() {

@@ -1,0 +1,117 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/Application.h"
+
+#include <QApplication>
+#include <QIcon>
+#include <cstdio>
+
+#include "app/AppController.h"
+#include "app/Choosers.h"
+#include "app/DefaultsFrameStore.h"
+#include "app/MainWindowLayout.h"
+#include "app/QVWindow.h"
+#include "app/SheetPrompts.h"
+#include "app/TerminationSignals.h"
+#include "app/WindowArguments.h"
+#include "app/core/FolderWork.h"
+#include "app/core/SettingsTable.h"
+#include "composition/view/FolderView.h"
+#include "foundation/SettingsFile.h"
+#include "foundation/UserDefaults.h"
+#include "foundation/base/Log.h"
+#include "foundation/base/Text.h"
+#include "foundation/base/Version.h"
+#include "iconfamily/AppleDoubleForkStore.h"
+#include "system/FileManagerNotices.h"
+#include "system/FolderMarks.h"
+#include "system/KindIcons.h"
+#include "ui/DesktopAppearance.h"
+#include "ui/SharedPanels.h"
+#include "ui/Theme.h"
+
+namespace quorvane {
+
+namespace {
+
+/// What touches folders, as on the command line.
+struct FolderServices {
+  AppleDoubleForkStore forks;
+  std::unique_ptr<KindIcons> kinds = makeDesktopKindIcons();
+  StampingNotices notices;
+  std::unique_ptr<FolderMetadata> metadata = makeDesktopMetadata();
+  std::unique_ptr<FolderMarks> marks = makeDesktopMarks(*metadata);
+  FamilyCache families;
+  IconServices services{.forks = forks, .kinds = *kinds, .notices = notices, .families = &families, .marks = marks.get()};
+};
+
+/// The user's settings; kept for this run only when there is no place for them.
+std::unique_ptr<SettingsStorage> openSettings() {
+  auto path = SettingsFile::usualPath();
+  if (path) return std::make_unique<SettingsFile>(*path);
+  logMessage("window", path.error().message());
+  return std::make_unique<MemorySettings>();
+}
+
+}  // namespace
+
+int runApplication(int argc, char** argv) {
+  const WindowArguments arguments =
+      parseWindowArguments(std::vector<std::string>(argv + std::min(argc, 1), argv + argc), std::filesystem::current_path());
+  if (arguments.words) {
+    std::fputs(arguments.words->c_str(), arguments.exitCode == 0 ? stdout : stderr);
+    return arguments.exitCode;
+  }
+
+  QApplication application(argc, argv);
+  QCoreApplication::setApplicationName(QStringLiteral("Quorvane"));
+  QCoreApplication::setApplicationVersion(QStringLiteral(QUORVANE_VERSION));
+  QGuiApplication::setDesktopFileName(QStringLiteral(QUORVANE_APP_ID));
+  QGuiApplication::setWindowIcon(QIcon::fromTheme(QStringLiteral(QUORVANE_APP_ID)));
+  // The panels are windows too: the main one alone decides.
+  QGuiApplication::setQuitOnLastWindowClosed(false);
+
+  DesktopAppearance appearance;
+  appearance.start();
+  Theme theme(&appearance);
+  theme.apply();
+
+  const auto storage = openSettings();
+  UserDefaults defaults(*storage);
+  FolderServices folders;
+  FolderWork work(folders.services);
+  SharedPanels panels;
+  DefaultsFrameStore frames(defaults);
+  QVWindow window(defaults);
+  window.setFrameStore(&frames);
+  SheetPrompts prompts(window);
+
+  const auto controller = AppController::init({.defaults = defaults,
+                                               .prompts = prompts,
+                                               .panels = panels,
+                                               .work = work,
+                                               .chooseFolder = chooseFolder,
+                                               .choosePicture = choosePicture});
+  controller->setOutlets(layOutMainWindow(window, panels));
+  window.setOutlets(controller->outlets()._folderView, controller.get());
+  QObject::connect(controller.get(), &AppController::terminateRequested, &application, &QCoreApplication::quit,
+                   Qt::QueuedConnection);
+  TerminationSignals signals_;
+  QObject::connect(&signals_, &TerminationSignals::received, &window, [&window] {
+    window.cancelSheets();
+    // Closing saves the frame; it may be refused while something is still being answered.
+    if (!window.close()) QCoreApplication::quit();
+  });
+
+  controller->awakeFromNib();
+  controller->outlets()._folderView->awakeFromNib(settings::startFont(defaults));
+  window.show();
+  for (const auto& folder : arguments.folders) {
+    if (!controller->applicationOpenFile(folder)) continue;
+  }
+  QTimer::singleShot(0, controller.get(), &AppController::applicationDidFinishLaunching);
+  const int code = QApplication::exec();
+  controller->applicationWillTerminate();
+  return code;
+}
+
+}  // namespace quorvane
