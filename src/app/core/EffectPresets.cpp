@@ -52,6 +52,12 @@ std::optional<LabelShadow> shadowForEffectTag(int tag) {
   }
 }
 
+std::optional<int> effectTagOfShadow(const std::optional<LabelShadow>& shadow) {
+  for (int tag = 0; tag <= presets.back().tag; ++tag)
+    if (shadowForEffectTag(tag) == shadow) return tag;
+  return std::nullopt;
+}
+
 std::optional<int> effectTagNamed(std::string_view name) {
   const auto* found = std::ranges::find(presets, name, &EffectPreset::name);
   if (found == presets.end()) return std::nullopt;

@@ -22,6 +22,9 @@ std::span<const EffectPreset> effectPresets();
 /// no blur, the default colour; 4 and 5 are kept for later and are such tags.
 std::optional<LabelShadow> shadowForEffectTag(int tag);
 
+/// The tag that gives this shadow: a preset's, or the first of those that no preset has; nullopt when none does.
+std::optional<int> effectTagOfShadow(const std::optional<LabelShadow>& shadow);
+
 /// The tag of a preset's name.
 std::optional<int> effectTagNamed(std::string_view name);
 
