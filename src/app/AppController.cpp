@@ -5,6 +5,7 @@
 #include <QApplication>
 #include <QDir>
 #include <QEventLoop>
+#include <QFile>
 #include <QPushButton>
 
 #include "app/BaseColumn.h"
@@ -58,7 +59,7 @@ AppController::AppController(const AppServices& services) : _services(services) 
   connect(&_busyTimer, &QTimer::timeout, this, [this] {
     _focusBeforeWork = _mainWindow->focusWidget();
     _mainWindow->centralWidget()->setEnabled(false);
-    _busyIndicator->show(_busyWords);
+    _busyIndicator->begin(_busyWords);
     Q_EMIT stateChanged();
   });
 }
@@ -105,7 +106,7 @@ bool AppController::windowShouldClose(HVWindow& window) {
 }
 
 void AppController::_notice(const QString& words) {
-  _noticeLabel->show(words);
+  _noticeLabel->notice(words);
 }
 
 void AppController::_beginWork(const QString& words) {
@@ -121,7 +122,7 @@ void AppController::_endWork() {
     _mainWindow->centralWidget()->setEnabled(true);
     if (_focusBeforeWork) _focusBeforeWork->setFocus();
   }
-  _busyIndicator->hide();
+  _busyIndicator->end();
   Q_EMIT stateChanged();
 }
 

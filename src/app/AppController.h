@@ -9,6 +9,7 @@
 #include <functional>
 #include <memory>
 #include <optional>
+#include <vector>
 
 #include "app/AppServices.h"
 #include "app/Outlets.h"
@@ -18,13 +19,15 @@
 #include "ui/LabelTextField.h"
 #include "ui/WindowDelegate.h"
 
+class QAction;
+
 namespace quorvane {
 
 class EditHistory;
 enum class MenuCommand;
 struct BrandingResult;
 struct LoadedFolder;
-struct SavedLook;
+struct BaseReference;
 
 /// The one controller of the window: takes a folder in, lets its icon be edited, writes it, puts the old one back. One
 /// folder at a time; opening another replaces it.
@@ -94,8 +97,11 @@ class AppController : public QObject, public HVWindowDelegate, public LabelTextF
   void centerLabel();
   void undo();
   void redo();
-  /// Label, font and all else of a look, as one step.
-  void applyLook(const SavedLook& look);
+  // Looks. They need a store.
+  void saveLook();
+  void manageLooks();
+  /// Everything but what the label says, as one step.
+  void applyLook(const QString& name);
 
   /// Any picture file as the base icon; without a folder the first step is shown.
   void chooseBasePicture();
@@ -149,6 +155,7 @@ class AppController : public QObject, public HVWindowDelegate, public LabelTextF
   void _connectMenu();
   void _fillRecentMenu();
   void _fillLooksMenu();
+  void _setBaseReference(const BaseReference& reference);
   /// Cut, copy and the like go to the text that has the focus; copy goes to the canvas otherwise.
   void _edit(MenuCommand command);
   void _endSliderStep();
@@ -170,6 +177,8 @@ class AppController : public QObject, public HVWindowDelegate, public LabelTextF
   QString _busyWords;
   QTimer _busyTimer;
   QPointer<QWidget> _focusBeforeWork;
+  std::optional<Path> _basePicture;     ///< the file that the base icon was read from, when it was one
+  std::vector<QAction*> _lookActions;  ///< in the menu
   Slider* _heldSlider = nullptr;  ///< whose run of changes is one step of the history
 };
 

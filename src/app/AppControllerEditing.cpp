@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The controls and what they do to the canvas.
+#include <QFile>
 #include <QPushButton>
 
 #include "app/AppController.h"
@@ -92,6 +93,7 @@ void AppController::resetTransform() {
 
 void AppController::setBaseIcon(const std::optional<Image>& image) {
   if (!image) _baseTableView->clearSelection();
+  _basePicture.reset();
   _folderView->setBaseIcon(_path ? image : std::nullopt);
   _updateApplyButton();
 }
@@ -185,14 +187,19 @@ void AppController::chooseBasePicture() {
 
 void AppController::setBasePicture(const Path& path) {
   if (!_path) return showFirstStep(static_cast<QWidget*>(_baseColumn));
-  auto picture = readBasePicture({.path = path, .within = {}});
-  const QString name = visibleText(QFile::decodeName(path.filename().c_str()));
+  _setBaseReference({.path = path, .within = {}});
+}
+
+void AppController::_setBaseReference(const BaseReference& reference) {
+  auto picture = readBasePicture(reference);
+  const QString name = visibleText(QFile::decodeName(reference.shown().filename().c_str()));
   if (!picture) {
     _notice(tr("“%1” cannot be used: %2")
                 .arg(name, visibleText(QString::fromStdString(picture.error().why()))));
     return;
   }
   setBaseIcon(*picture);
+  _basePicture = reference.shown();
   _baseColumn->setPictureName(name);
 }
 

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The folder: in, applied to, put back, and gone.
+#include <QFile>
 #include <QPushButton>
 
 #include "app/AppController.h"

@@ -34,6 +34,7 @@ void AppController::_connectMenu() {
   connect(_folderView, &ImageView::magnificationChanged, _mainMenu, &MainMenu::setMagnification);
   _mainMenu->setMagnification(_folderView->magnification());
   connect(_mainMenu->recentMenu(), &QMenu::aboutToShow, this, &AppController::_fillRecentMenu);
+  connect(_mainMenu->looksMenu(), &QMenu::aboutToShow, this, &AppController::_fillLooksMenu);
 }
 
 bool AppController::validateMenuItem(MenuCommand command) const {
@@ -50,9 +51,14 @@ bool AppController::validateMenuItem(MenuCommand command) const {
     case MenuCommand::Redo:
       return isIdle && _history->canRedo();
     case MenuCommand::ShowInFileManager:
-      return _path.has_value();
-    case MenuCommand::Open:
+      return _path && _services.revealInFileManager;
+    case MenuCommand::SaveLook:
+    case MenuCommand::ManageLooks:
+    case MenuCommand::Looks:
+      return _services.looks != nullptr;
     case MenuCommand::OpenRecent:
+      return isIdle && _services.recentFolders;
+    case MenuCommand::Open:
     case MenuCommand::CloseFolder:
     case MenuCommand::PasteFolderPath:
       return isIdle;
@@ -69,7 +75,7 @@ void AppController::help(int tag) {
   static constexpr Page pages[] = {{0, "/quorvane/help/"}, {2, "forum"},          {3, "blog"},        {4, ""},
                                    {5, "quorvane/faq/"},   {6, "quorvane/fb/"}, {7, "quorvane/mu/"}};
   for (const Page& page : pages) {
-    if (page.tag == tag) _services.visitPage(page.path);
+    if (page.tag == tag && _services.visitPage) _services.visitPage(page.path);
   }
 }
 
@@ -122,6 +128,10 @@ void AppController::perform(MenuCommand command) {
       return showFont(*_fontBtn);
     case MenuCommand::ShowColor:
       return _services.panels.colorPanel().showPanel();
+    case MenuCommand::SaveLook:
+      return saveLook();
+    case MenuCommand::ManageLooks:
+      return manageLooks();
     case MenuCommand::ResetTransform:
       return resetTransform();
     case MenuCommand::Magnify1:

@@ -29,18 +29,18 @@ struct AppServices {
   FolderWork& work;
   LookStore* looks = nullptr;  ///< none: looks cannot be kept
 
-  Chooser chooseFolder;
-  Chooser choosePicture;
+  Chooser chooseFolder = {};
+  Chooser choosePicture = {};
   struct RecentFolder {
     Path path;
     bool isMissing = false;
   };
-  std::function<void(const Path& folder)> noteRecentFolder;
-  std::function<std::vector<RecentFolder>()> recentFolders;  ///< the last one first
-  std::function<void()> clearRecentFolders;
-  std::function<void(const Path& folder)> revealInFileManager;
+  std::function<void(const Path& folder)> noteRecentFolder = {};
+  std::function<std::vector<RecentFolder>()> recentFolders = {};  ///< the last one first
+  std::function<void()> clearRecentFolders = {};
+  std::function<void(const Path& folder)> revealInFileManager = {};
   /// Opens a page of the program's web site.
-  std::function<void(const char* page)> visitPage;
+  std::function<void(const char* page)> visitPage = {};
 };
 
 }  // namespace quorvane

@@ -14,6 +14,7 @@
 #include "app/TerminationSignals.h"
 #include "app/WindowArguments.h"
 #include "app/core/FolderWork.h"
+#include "app/core/LookStore.h"
 #include "app/core/SettingsTable.h"
 #include "composition/view/FolderView.h"
 #include "foundation/SettingsFile.h"
@@ -25,6 +26,9 @@
 #include "system/FileManagerNotices.h"
 #include "system/FolderMarks.h"
 #include "system/KindIcons.h"
+#include "system/Links.h"
+#include "system/Reveal.h"
+#include "system/SingleInstance.h"
 #include "ui/DesktopAppearance.h"
 #include "ui/SharedPanels.h"
 #include "ui/Theme.h"
@@ -56,7 +60,7 @@ std::unique_ptr<SettingsStorage> openSettings() {
 
 int runApplication(int argc, char** argv) {
   const WindowArguments arguments =
-      parseWindowArguments(std::vector<std::string>(argv + std::min(argc, 1), argv + argc), std::filesystem::current_path());
+      parseWindowArguments(std::vector<std::string>(argv + std::min(argc, 1), argv + argc));
   if (arguments.words) {
     std::fputs(arguments.words->c_str(), arguments.exitCode == 0 ? stdout : stderr);
     return arguments.exitCode;
@@ -69,6 +73,10 @@ int runApplication(int argc, char** argv) {
   QGuiApplication::setWindowIcon(QIcon::fromTheme(QStringLiteral(QUORVANE_APP_ID)));
   // The panels are windows too: the main one alone decides.
   QGuiApplication::setQuitOnLastWindowClosed(false);
+
+  const OpenRequest request = OpenRequest::fromArguments(arguments.folders);
+  SingleInstance instance(QStringLiteral(QUORVANE_APP_ID));
+  if (instance.start(request) == SingleInstance::Role::Second) return 0;
 
   DesktopAppearance appearance;
   appearance.start();
@@ -85,12 +93,25 @@ int runApplication(int argc, char** argv) {
   window.setFrameStore(&frames);
   SheetPrompts prompts(window);
 
+  const auto lookFolder = LookStore::usualFolder();
+  std::optional<LookStore> looks;
+  if (lookFolder) looks.emplace(*lookFolder);
+  const auto revealWays = makeDesktopRevealWays();
+  DesktopAddressOpener opener;
+  Reveal reveal(*revealWays, opener);
+  HVWebsite website(QStringLiteral(QUORVANE_HOMEPAGE), opener);
+
   const auto controller = AppController::init({.defaults = defaults,
                                                .prompts = prompts,
                                                .panels = panels,
                                                .work = work,
+                                               .looks = looks ? &*looks : nullptr,
                                                .chooseFolder = chooseFolder,
-                                               .choosePicture = choosePicture});
+                                               .choosePicture = choosePicture,
+                                               .revealInFileManager = [&](const auto& folder) { reveal.show(folder); },
+                                               .visitPage = [&](const char* page) {
+                                                 website.visitPage(QString::fromLatin1(page));
+                                               }});
   controller->setOutlets(layOutMainWindow(window, panels));
   window.setOutlets(controller->outlets()._folderView, controller.get());
   QObject::connect(controller.get(), &AppController::terminateRequested, &application, &QCoreApplication::quit,
@@ -105,9 +126,16 @@ int runApplication(int argc, char** argv) {
   controller->awakeFromNib();
   controller->outlets()._folderView->awakeFromNib(settings::startFont(defaults));
   window.show();
-  for (const auto& folder : arguments.folders) {
-    if (!controller->applicationOpenFile(folder)) continue;
-  }
+  const auto open = [&](const OpenRequest& wish) {
+    for (const auto& folder : wish.paths) controller->applicationOpenFile(folder);
+  };
+  open(request);
+  instance.setHandler([&](const OpenRequest& wish) {
+    // What the desktop gave the other process lets this window come to the front.
+    if (!wish.activationToken.empty()) qputenv("XDG_ACTIVATION_TOKEN", QByteArray::fromStdString(wish.activationToken));
+    window.bringToFront();
+    open(wish);
+  });
   QTimer::singleShot(0, controller.get(), &AppController::applicationDidFinishLaunching);
   const int code = QApplication::exec();
   controller->applicationWillTerminate();

@@ -2,6 +2,7 @@
 #include "app/BaseColumn.h"
 
 #include <QDragEnterEvent>
+#include <QFile>
 #include <QLabel>
 #include <QMimeData>
 #include <QMimeDatabase>

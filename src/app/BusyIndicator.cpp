@@ -19,17 +19,17 @@ BusyIndicator::BusyIndicator(QWidget* parent) : QWidget(parent), _words(new QLab
   layout->setSpacing(10);
   layout->addWidget(_bar);
   layout->addWidget(_words);
-  hide();
+  end();
 }
 
-void BusyIndicator::show(const QString& words) {
+void BusyIndicator::begin(const QString& words) {
   _words->setText(words);
   _bar->setAccessibleDescription(words);
   _words->setVisible(true);
   _bar->setVisible(true);
 }
 
-void BusyIndicator::hide() {
+void BusyIndicator::end() {
   _words->setVisible(false);
   _bar->setVisible(false);
 }

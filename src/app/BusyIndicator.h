@@ -12,8 +12,8 @@ class BusyIndicator : public QWidget {
   Q_OBJECT
  public:
   explicit BusyIndicator(QWidget* parent = nullptr);
-  void show(const QString& words);
-  void hide();
+  void begin(const QString& words);
+  void end();
   [[nodiscard]] bool isShown() const;
 
  private:

@@ -19,6 +19,16 @@ QLabel* makeCaption(const QString& text, QWidget* control) {
   return caption;
 }
 
+QLabel* makeTitle(const QString& text) {
+  auto* title = new QLabel(text);
+  title->setTextFormat(Qt::PlainText);
+  QFont font = title->font();
+  font.setWeight(QFont::DemiBold);
+  font.setPointSizeF(font.pointSizeF() * 1.2);
+  title->setFont(font);
+  return title;
+}
+
 QLabel* makeControlName(const QString& text, QWidget* control) {
   auto* name = new QLabel(text);
   name->setWordWrap(true);

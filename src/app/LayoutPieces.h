@@ -20,6 +20,8 @@ inline constexpr int inspectorWidth = 280;
 QFrame* makeCard();
 /// A muted caption. With a control, its access key (the letter after "&") leads there.
 QLabel* makeCaption(const QString& text, QWidget* control = nullptr);
+/// The heading of a sheet.
+QLabel* makeTitle(const QString& text);
 /// The name of a control among captions: plain text that may wrap.
 QLabel* makeControlName(const QString& text, QWidget* control);
 

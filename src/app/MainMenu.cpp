@@ -14,9 +14,9 @@ namespace quorvane {
 
 /// One item; without a command a line between items.
 struct MainMenu::Row {
-  std::optional<MenuCommand> command;
-  QString text;
-  QList<QKeySequence> keys;
+  std::optional<MenuCommand> command = {};
+  QString text = {};
+  QList<QKeySequence> keys = {};
   const char* icon = nullptr;
   QMenu** submenu = nullptr;
 };

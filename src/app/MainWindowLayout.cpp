@@ -15,6 +15,7 @@
 #include "composition/view/FolderView.h"
 #include "ui/ActionIcons.h"
 #include "ui/ElidedLabel.h"
+#include "ui/HVTableView.h"
 #include "ui/HVColorWell.h"
 #include "ui/LabelTextField.h"
 #include "ui/PopUpButton.h"

@@ -28,7 +28,7 @@ NoticeLabel::NoticeLabel(QWidget* parent) : QLabel(parent), _opacity(new QGraphi
   });
 }
 
-void NoticeLabel::show(const QString& words) {
+void NoticeLabel::notice(const QString& words) {
   _fade.stop();
   _opacity->setEnabled(false);
   setText(words);

@@ -14,7 +14,7 @@ class NoticeLabel : public QLabel {
  public:
   explicit NoticeLabel(QWidget* parent = nullptr);
   /// Replaces what is shown. Plain text; longer ones are shown longer.
-  void show(const QString& words);
+  void notice(const QString& words);
 
  private:
   QGraphicsOpacityEffect* _opacity;

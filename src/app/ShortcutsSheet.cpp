@@ -67,11 +67,6 @@ ShortcutsSheet::ShortcutsSheet(const MainMenu& menu) {
   const QSize wanted = list->sizeHint();
   scroll->setMinimumSize(wanted.width() + 12, std::min(wanted.height(), 480));
 
-  auto* title = new QLabel(windowTitle());
-  QFont strong = title->font();
-  strong.setWeight(QFont::DemiBold);
-  strong.setPointSizeF(strong.pointSizeF() * 1.2);
-  title->setFont(strong);
   auto* close = new QPushButton(tr("Close"));
   close->setDefault(true);
   // Escape presses it as well.
@@ -83,7 +78,7 @@ ShortcutsSheet::ShortcutsSheet(const MainMenu& menu) {
   auto* layout = new QVBoxLayout(this);
   layout->setContentsMargins(24, 20, 24, 20);
   layout->setSpacing(layoutGap);
-  layout->addWidget(title);
+  layout->addWidget(makeTitle(windowTitle()));
   layout->addWidget(scroll, 1);
   layout->addLayout(buttons);
 }

@@ -13,11 +13,11 @@ QString filled(const QString& format, const QStringList& arguments) {
   for (const QString& argument : arguments) {
     if (!places.hasNext()) break;
     const QRegularExpressionMatch found = places.next();
-    text += QStringView(format).mid(from, found.capturedStart() - from);
+    text.append(QStringView(format).mid(from, found.capturedStart() - from));
     text += argument;
     from = found.capturedEnd();
   }
-  return text + QStringView(format).mid(from);
+  return text.append(QStringView(format).mid(from));
 }
 
 }  // namespace quorvane

@@ -1,9 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/WindowArguments.h"
 
-#include <QUrl>
-
-#include "composition/view/DroppedFolder.h"
 #include "foundation/base/Text.h"
 #include "foundation/base/Version.h"
 
@@ -25,8 +22,7 @@ constexpr int wrongUse = 2;
 
 }  // namespace
 
-WindowArguments parseWindowArguments(const std::vector<std::string>& arguments,
-                                     const std::filesystem::path& directory) {
+WindowArguments parseWindowArguments(const std::vector<std::string>& arguments) {
   WindowArguments parsed;
   bool areOptionsOver = false;
   for (const std::string& argument : arguments) {
@@ -46,11 +42,7 @@ WindowArguments parseWindowArguments(const std::vector<std::string>& arguments,
       }
       continue;
     }
-    if (argument.empty()) continue;
-    const auto address = !areOptionsOver && argument.starts_with("file:")
-                             ? localPath(QUrl::fromEncoded(QByteArray::fromStdString(argument)))
-                             : std::nullopt;
-    parsed.folders.push_back(address.value_or((directory / argument).lexically_normal()));
+    if (!argument.empty()) parsed.folders.push_back(argument);
   }
   return parsed;
 }

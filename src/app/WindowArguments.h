@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <filesystem>
 #include <optional>
 #include <string>
 #include <vector>
@@ -10,12 +9,12 @@ namespace quorvane {
 
 /// What the window program was started with.
 struct WindowArguments {
-  std::vector<std::filesystem::path> folders;  ///< absolute; whether they are folders is not known yet
-  std::optional<std::string> words;            ///< to be printed instead of opening the window
-  int exitCode = 0;                            ///< then
+  std::vector<std::string> folders;  ///< as given: paths and addresses
+  std::optional<std::string> words;  ///< to be printed instead of opening the window
+  int exitCode = 0;                  ///< then
 };
 
-/// Options, paths (raw bytes, relative to `directory`) and "file:" addresses. Everything behind "--" is a path.
-WindowArguments parseWindowArguments(const std::vector<std::string>& arguments, const std::filesystem::path& directory);
+/// Without the program's name. Everything behind "--" is a folder.
+WindowArguments parseWindowArguments(const std::vector<std::string>& arguments);
 
 }  // namespace quorvane
