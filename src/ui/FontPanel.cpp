@@ -5,6 +5,7 @@
 #include <QFontDatabase>
 #include <QFontDialog>
 #include <QGroupBox>
+#include <QLineEdit>
 #include <algorithm>
 #include <cmath>
 
@@ -14,6 +15,8 @@ namespace {
 /// What the dialog's size field takes.
 constexpr int smallestSize = 1;
 constexpr int largestSize = 512;
+/// Room for a sample of the usual sizes.
+constexpr int sampleHeight = 84;
 
 int shownSize(double size) {
   return static_cast<int>(std::lround(std::clamp(size, double{smallestSize}, double{largestSize})));
@@ -38,6 +41,10 @@ FontPanel::FontPanel() : FloatingPanel(tr("Fonts")), _dialog(new PanelContent<QF
   for (const QCheckBox* box : _dialog->findChildren<QCheckBox*>()) {
     if (auto* effects = qobject_cast<QGroupBox*>(box->parentWidget())) effects->hide();
   }
+  for (QLineEdit* field : _dialog->findChildren<QLineEdit*>()) {
+    if (qobject_cast<QGroupBox*>(field->parentWidget())) field->setMinimumHeight(sampleHeight);
+  }
+  _dialog->setSizeGripEnabled(false);
   _setContent(_dialog);
   connect(_dialog, &QFontDialog::currentFontChanged, this, &FontPanel::_changed);
 }

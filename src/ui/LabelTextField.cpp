@@ -37,14 +37,14 @@ QString plain(QString text) {
   return text;
 }
 
-/// The longest beginning that fits, never half a character.
-QString shortened(const QString& text) {
-  if (fits(text)) return text;
+/// The longest beginning of the text that fits together with the rest of the field, never half a character.
+QString shortened(const QString& text, const QString& rest = {}) {
+  if (fits(rest + text)) return text;
   qsizetype low = 0;
   qsizetype high = text.size();
   while (low + 1 < high) {
     const qsizetype middle = (low + high) / 2;
-    (fits(text.first(middle)) ? low : high) = middle;
+    (fits(rest + text.first(middle)) ? low : high) = middle;
   }
   if (low > 0 && text.at(low - 1).isHighSurrogate()) --low;
   return text.first(low);
@@ -162,16 +162,9 @@ void LabelTextField::insertFromMimeData(const QMimeData* source) {
   const TextRange selected = selectedRange();
   QString rest = toPlainText();
   rest.remove(selected.location, selected.length);
-  QString text = plain(source->text());
-  if (!fits(rest + text)) {
-    QApplication::beep();
-    const auto used = static_cast<std::size_t>(rest.toUtf8().size());
-    QString room =
-        shortened(text).left(static_cast<qsizetype>(limits::labelBytes - std::min(limits::labelBytes, used)));
-    while (!room.isEmpty() && !fits(rest + room)) room.chop(std::max<qsizetype>(1, room.size() / 16));
-    if (!room.isEmpty() && room.back().isHighSurrogate()) room.chop(1);
-    text = room;
-  }
+  const QString pasted = plain(source->text());
+  const QString text = shortened(pasted, rest);
+  if (text.size() < pasted.size()) QApplication::beep();
   textCursor().insertText(text);
   ensureCursorVisible();
 }

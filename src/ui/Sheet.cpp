@@ -123,7 +123,10 @@ void Sheet::end() {
   _up = false;
   _slide.stop();
   _host.removeEventFilter(this);
-  const bool focused = _frame->isAncestorOf(_host.focusWidget()) || !_host.focusWidget();
+  QWidget* focus = _host.focusWidget();
+  const bool focused = !focus || focus == this || isAncestorOf(focus);
+  // The window would go on pointing to a control that may be deleted next.
+  if (focused && focus) focus->clearFocus();
   if (_content) {
     _content->removeEventFilter(this);
     disconnect(_content, nullptr, this, nullptr);

@@ -1,0 +1,87 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "ui/DesktopAppearance.h"
+
+#include <QDBusArgument>
+#include <QDBusConnection>
+#include <QDBusMessage>
+#include <QDBusPendingCallWatcher>
+#include <QDBusPendingReply>
+#include <tuple>
+
+namespace quorvane {
+namespace {
+
+const QString service = QStringLiteral("org.freedesktop.portal.Desktop");
+const QString path = QStringLiteral("/org/freedesktop/portal/desktop");
+const QString interface = QStringLiteral("org.freedesktop.portal.Settings");
+const QString appearance = QStringLiteral("org.freedesktop.appearance");
+
+/// Read wraps its answer once more than the signal does.
+QVariant unwrapped(QVariant value) {
+  while (value.canConvert<QDBusVariant>()) value = value.value<QDBusVariant>().variant();
+  return value;
+}
+
+/// Three numbers from 0 to 1; what is outside means "none".
+std::optional<QColor> accentOf(const QVariant& value) {
+  if (!value.canConvert<QDBusArgument>()) return std::nullopt;
+  const auto argument = value.value<QDBusArgument>();
+  if (argument.currentType() != QDBusArgument::StructureType || argument.currentSignature() != QLatin1String("(ddd)")) {
+    return std::nullopt;
+  }
+  double red = -1;
+  double green = -1;
+  double blue = -1;
+  argument.beginStructure();
+  argument >> red >> green >> blue;
+  argument.endStructure();
+  for (const double channel : {red, green, blue}) {
+    if (!(channel >= 0 && channel <= 1)) return std::nullopt;
+  }
+  return QColor::fromRgbF(static_cast<float>(red), static_cast<float>(green), static_cast<float>(blue));
+}
+
+}  // namespace
+
+DesktopAppearance::DesktopAppearance(QObject* parent) : QObject(parent) {}
+
+void DesktopAppearance::start() {
+  QDBusConnection bus = QDBusConnection::sessionBus();
+  if (!bus.isConnected()) return;
+  bus.connect(service, path, interface, QStringLiteral("SettingChanged"), this,
+              SLOT(settingChanged(QString, QString, QDBusVariant)));
+  for (const char* key : {"color-scheme", "accent-color", "contrast"}) _ask(QLatin1String(key));
+}
+
+void DesktopAppearance::_ask(const QString& key) {
+  QDBusMessage message = QDBusMessage::createMethodCall(service, path, interface, QStringLiteral("Read"));
+  message << appearance << key;
+  auto* watcher = new QDBusPendingCallWatcher(QDBusConnection::sessionBus().asyncCall(message), this);
+  connect(watcher, &QDBusPendingCallWatcher::finished, this, [this, key](QDBusPendingCallWatcher* finished) {
+    const QDBusPendingReply<QDBusVariant> reply = *finished;
+    if (!reply.isError()) take(appearance, key, reply.value().variant());
+    finished->deleteLater();
+  });
+}
+
+void DesktopAppearance::settingChanged(const QString& group, const QString& key, const QDBusVariant& value) {
+  take(group, key, value.variant());
+}
+
+void DesktopAppearance::take(const QString& group, const QString& key, const QVariant& value) {
+  if (group != appearance) return;
+  const QVariant plain = unwrapped(value);
+  const auto before = std::make_tuple(_prefersDark, _accent, _highContrast);
+  if (key == QLatin1String("color-scheme")) {
+    // 0: no preference; 1: dark; 2: light.
+    const uint scheme = plain.toUInt();
+    _prefersDark = scheme == 1 || scheme == 2 ? std::optional(scheme == 1) : std::nullopt;
+  } else if (key == QLatin1String("accent-color")) {
+    _accent = plain.typeId() == QMetaType::QColor ? std::optional(plain.value<QColor>()) : accentOf(plain);
+  } else if (key == QLatin1String("contrast")) {
+    _highContrast = plain.toUInt() == 1;
+  }
+  if (before != std::make_tuple(_prefersDark, _accent, _highContrast)) Q_EMIT changed();
+}
+
+}  // namespace quorvane
