@@ -30,6 +30,7 @@ bool FolderView::prepareForDragOperation(const QMimeData& /*data*/) const {
 bool FolderView::performDragOperation(const QMimeData& dragged) {
   if (!isEnabled()) return false;
   const auto path = firstLocalPath(dragged);
+  finishKeyMoves();  // they are the former folder's
   if (path) Q_EMIT setPath(*path);
   return path.has_value();
 }

@@ -74,6 +74,7 @@ const State states[] = {
     {"drag", 2, 1,
      [](FolderView& view) {
        view.mouseDown({0, 0});
+       view.mouseDragged({0, 0});
      }},
     {"one", 1, 1, [](FolderView&) {}},
     {"one-dense", 1, 2,
