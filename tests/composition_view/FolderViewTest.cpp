@@ -63,6 +63,12 @@ TEST(FolderView, DrawsWhatIsAppliedAtTheScreensOwnPixels) {
     const int left = 11 * 4;
     EXPECT_LE(largestDifference(canvas.copy(left, left, 512, 512), icon), 2) << magnification;
   }
+
+  // Where the middle lies between pixels (33.75 of them from the edge) the picture begins at a whole one all the same.
+  view.setLabel(std::nullopt);
+  view.setMagnification(2);
+  view.resize(310, 310);
+  EXPECT_EQ(largestDifference(drawn(view, 1.25).copy(34, 34, 320, 320), bluePicture().rendered(320, 320).toImage()), 0);
 }
 
 TEST(FolderView, WhatIsCutOffIsSeenFaintly) {
