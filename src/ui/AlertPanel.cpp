@@ -94,7 +94,8 @@ AlertPanel::AlertPanel(const QString& title, const QString& message, const Butto
   if (_copyButton) row->addWidget(_copyButton);
   row->addStretch(1);
   for (auto button = _buttons.rbegin(); button != _buttons.rend(); ++button) row->addWidget(*button);
-  if (_detailsToggle || !_buttons.empty()) column->addLayout(row);
+  if (!_detailsToggle && _buttons.empty()) row->setContentsMargins(0, 0, 0, 0);
+  column->addLayout(row);
 }
 
 QWidget* AlertPanel::_addDetails(const QString& details) {

@@ -48,8 +48,8 @@ DesktopAppearance::DesktopAppearance(QObject* parent) : QObject(parent) {}
 void DesktopAppearance::start() {
   QDBusConnection bus = QDBusConnection::sessionBus();
   if (!bus.isConnected()) return;
-  bus.connect(service, path, interface, QStringLiteral("SettingChanged"), this,
-              SLOT(settingChanged(QString, QString, QDBusVariant)));
+  // The whole message: a slot with the three arguments is found by name and yet never called.
+  bus.connect(service, path, interface, QStringLiteral("SettingChanged"), this, SLOT(settingChanged(QDBusMessage)));
   for (const char* key : {"color-scheme", "accent-color", "contrast"}) _ask(QLatin1String(key));
 }
 
@@ -64,8 +64,9 @@ void DesktopAppearance::_ask(const QString& key) {
   });
 }
 
-void DesktopAppearance::settingChanged(const QString& group, const QString& key, const QDBusVariant& value) {
-  take(group, key, value.variant());
+void DesktopAppearance::settingChanged(const QDBusMessage& message) {
+  const QVariantList arguments = message.arguments();
+  if (arguments.size() == 3) take(arguments.at(0).toString(), arguments.at(1).toString(), arguments.at(2));
 }
 
 void DesktopAppearance::take(const QString& group, const QString& key, const QVariant& value) {

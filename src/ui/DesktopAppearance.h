@@ -2,7 +2,7 @@
 #pragma once
 
 #include <QColor>
-#include <QDBusVariant>
+#include <QDBusMessage>
 #include <QObject>
 #include <optional>
 
@@ -31,7 +31,7 @@ class DesktopAppearance : public QObject {
   void changed();
 
  private Q_SLOTS:
-  void settingChanged(const QString& group, const QString& key, const QDBusVariant& value);
+  void settingChanged(const QDBusMessage& message);
 
  private:
   void _ask(const QString& key);

@@ -102,7 +102,7 @@ QPushButton { background: %button; color: %text; border: 1px solid %outline; bor
               padding: 6px 15px; min-height: 18px; }
 QPushButton:hover { background: %hover; }
 QPushButton:pressed, QPushButton:checked { background: %groove; }
-QPushButton:focus { border: 2px solid %accent; padding: 5px 14px; }
+QPushButton:focus { border: 2px solid %accent; padding: 5px 14px; outline: none; }
 QPushButton:disabled { color: %disabled; border-color: %hairline; background: %window; }
 QPushButton:default { background: %accent; color: %onaccent; border-color: %accent; }
 QPushButton:default:hover, QPushButton:default:pressed { background: %pressed; }
@@ -132,10 +132,10 @@ QComboBox::down-arrow { image: url(:/actions/chevron-%arrow.svg); width: 12px; h
 QComboBox::down-arrow:disabled { image: url(:/actions/chevron-disabled.svg); }
 QComboBox QAbstractItemView { background: %base; color: %text; border: 1px solid %hairline; padding: 4px; outline: none; }
 
-QCheckBox, QRadioButton { spacing: 8px; }
+QCheckBox, QRadioButton { spacing: 8px; outline: none; }
 QCheckBox::indicator, QRadioButton::indicator { width: 14px; height: 14px; border: 1px solid %outline; border-radius: 4px;
               background: %base; }
-QRadioButton::indicator { border-radius: 7px; }
+QRadioButton::indicator { border-radius: 8px; }
 QCheckBox::indicator:hover, QRadioButton::indicator:hover { background: %hover; }
 QCheckBox::indicator:focus, QRadioButton::indicator:focus { border: 2px solid %accent; width: 12px; height: 12px; }
 QCheckBox::indicator:checked { background: %accent; border-color: %accent; image: url(:/actions/tick-%tick.svg); }

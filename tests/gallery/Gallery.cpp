@@ -2,6 +2,7 @@
 // ui_gallery [FOLDER]: shows every control of the window; with a folder, writes pictures of them in light and dark into
 // it and ends. QT_SCALE_FACTOR=2 gives the pictures of a dense screen, -reverse those from right to left.
 #include <QAbstractItemView>
+#include <QAction>
 #include <QApplication>
 #include <QCheckBox>
 #include <QDir>
@@ -214,7 +215,9 @@ int main(int argc, char** argv) {
   SharedPanels panels;
   HVWindow window;
   window.setTitle(QStringLiteral("Controls"));
-  window.menuBar()->addMenu(QStringLiteral("&File"))->addAction(QStringLiteral("&Open"));
+  QAction* open = window.menuBar()->addMenu(QStringLiteral("&File"))->addAction(QStringLiteral("&Open"));
+  open->setShortcut(QKeySequence::Open);
+  QObject::connect(open, &QAction::triggered, [] { qInfo("opened"); });
   window.menuBar()->addMenu(QStringLiteral("&Edit"))->addAction(QStringLiteral("&Undo"));
   auto* content = new QWidget;
   auto* row = new QHBoxLayout(content);
@@ -223,6 +226,16 @@ int main(int argc, char** argv) {
   row->addWidget(controls(panels), 1);
   row->addWidget(icons());
   window.setCentralWidget(content);
+  const auto buttons = window.findChildren<QPushButton*>();
+  for (QPushButton* button : buttons) {
+    QObject::connect(button, &QPushButton::clicked, &window, [&window] {
+      const int code = window.runPromptSheetWithTitle(
+          QStringLiteral("Unable to Set Icon"), QStringLiteral("Nothing may be written into the folder “Invoices”."),
+          QStringLiteral("Try Again"), QStringLiteral("Cancel"), QStringLiteral("Don't Save"),
+          QStringLiteral("/home/ann/Invoices: Permission denied"));
+      qInfo("answered %d", code);
+    });
+  }
   window.resize(860, 620);
   window.show();
   const QString folder = application.arguments().value(1);
