@@ -133,14 +133,16 @@ void AppController::_waitBriefly(const std::function<bool()>& done) {
   end.setSingleShot(true);
   connect(&end, &QTimer::timeout, &loop, &QEventLoop::quit);
   end.start(briefly);
-  while (!done() && end.isActive()) loop.processEvents(QEventLoop::ExcludeUserInputEvents | QEventLoop::WaitForMoreEvents);
+  while (!done() && end.isActive())
+    loop.processEvents(QEventLoop::ExcludeUserInputEvents | QEventLoop::WaitForMoreEvents);
 }
 
 QString abbreviatedPath(const std::filesystem::path& path) {
   const QString whole = QFile::decodeName(path.c_str());
   const QString home = QDir::homePath();
   if (whole == home) return QStringLiteral("~");
-  if (home != QLatin1String("/") && whole.startsWith(home + QLatin1Char('/'))) return QLatin1Char('~') + whole.mid(home.size());
+  if (home != QLatin1String("/") && whole.startsWith(home + QLatin1Char('/')))
+    return QLatin1Char('~') + whole.mid(home.size());
   return whole;
 }
 

@@ -114,7 +114,7 @@ class AppController : public QObject, public HVWindowDelegate, public LabelTextF
   void help(int tag);
   void pasteFolderPath();
   void showInFileManager();
-  [[nodiscard]] const EditHistory& history() const { return *_history; }
+  [[nodiscard]] EditHistory& history() { return *_history; }
 
   // LabelTextFieldDelegate
   void showFirstStep(LabelTextField& field) override;
@@ -177,9 +177,9 @@ class AppController : public QObject, public HVWindowDelegate, public LabelTextF
   QString _busyWords;
   QTimer _busyTimer;
   QPointer<QWidget> _focusBeforeWork;
-  std::optional<Path> _basePicture;     ///< the file that the base icon was read from, when it was one
+  std::optional<Path> _basePicture;    ///< the file that the base icon was read from, when it was one
   std::vector<QAction*> _lookActions;  ///< in the menu
-  Slider* _heldSlider = nullptr;  ///< whose run of changes is one step of the history
+  Slider* _heldSlider = nullptr;       ///< whose run of changes is one step of the history
 };
 
 /// The path as people read it: the home folder shortened to "~".

@@ -175,6 +175,7 @@ void AppController::_canvasChanged() {
   // A drag is one step; it is noted at its end.
   if (!_folderView->isMouseDown()) _history->note();
   _previewStrip->setComposition(_folderView->composition());
+  _previewStrip->setVisible(_folderView->baseIcon() || _folderView->currentIcon());
   _baseColumn->showPicture(_folderView->baseIcon());
 }
 
@@ -194,8 +195,7 @@ void AppController::_setBaseReference(const BaseReference& reference) {
   auto picture = readBasePicture(reference);
   const QString name = visibleText(QFile::decodeName(reference.shown().filename().c_str()));
   if (!picture) {
-    _notice(tr("“%1” cannot be used: %2")
-                .arg(name, visibleText(QString::fromStdString(picture.error().why()))));
+    _notice(tr("“%1” cannot be used: %2").arg(name, visibleText(QString::fromStdString(picture.error().why()))));
     return;
   }
   setBaseIcon(*picture);

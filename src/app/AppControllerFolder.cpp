@@ -135,7 +135,8 @@ void AppController::apply() {
                          _endWork();
                          *answer = result;
                          // After this delivery: what follows may show a sheet.
-                         QTimer::singleShot(0, this, [this, path, result = std::move(result)] { _applied(path, result); });
+                         QTimer::singleShot(0, this,
+                                            [this, path, result = std::move(result)] { _applied(path, result); });
                        });
   _waitBriefly([&] { return answer->has_value(); });
 }
@@ -143,11 +144,11 @@ void AppController::apply() {
 void AppController::_applied(const Path& path, const Result<BrandingResult>& result) {
   if (!result) {
     logMessage("window", result.error().at(path).message());
-    _services.prompts.runPromptSheetWithTitle(
-        tr("Unable to Set Icon"),
-        tr("The folder appears to be locked and cannot be modified.  Please unlock the folder and try again.\n\nUse the "
-           "Finder's Get Info on the folder and uncheck the 'Locked' checkbox."),
-        tr("OK"), {}, {}, applyFailureDetails(path, result.error()));
+    _services.prompts.runPromptSheetWithTitle(tr("Unable to Set Icon"),
+                                              tr("The folder appears to be locked and cannot be modified.  Please "
+                                                 "unlock the folder and try again.\n\nUse the "
+                                                 "Finder's Get Info on the folder and uncheck the 'Locked' checkbox."),
+                                              tr("OK"), {}, {}, applyFailureDetails(path, result.error()));
     return;
   }
   for (const std::string& note : result->notes) logMessage("window", note);
@@ -176,7 +177,8 @@ void AppController::revert() {
 
 void AppController::_reverted(const Path& path, const Result<BrandingResult>& result) {
   if (!result) logMessage("window", result.error().at(path).message());
-  const bool hadBackup = result ? result->outcome != BrandingOutcome::NothingToRevert : _origIconView->image().has_value();
+  const bool hadBackup =
+      result ? result->outcome != BrandingOutcome::NothingToRevert : _origIconView->image().has_value();
   if (!hadBackup) return;
   _labelTF->setStringValue(QString());
   setLabel(std::nullopt);

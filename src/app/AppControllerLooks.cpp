@@ -49,7 +49,8 @@ void AppController::saveLook() {
   look->label = QString();
   std::optional<BaseReference> base;
   if (_folderView->baseIcon() && _basePicture) base = BaseReference{.path = *_basePicture, .within = {}};
-  const auto saved = _services.looks->save(sheet.name(), {.look = *look, .labelPattern = {}, .base = {}, .others = {}}, base);
+  const auto saved =
+      _services.looks->save(sheet.name(), {.look = *look, .labelPattern = {}, .base = {}, .others = {}}, base);
   _notice(saved ? tr("The look “%1” was saved.").arg(visibleText(sheet.name()))
                 : tr("The look cannot be saved: %1").arg(reasonOf(saved.error())));
 }

@@ -31,7 +31,10 @@ void AppController::_connectMenu() {
   });
   connect(_origIconDrawer, &Drawer::openChanged, this, &AppController::stateChanged);
   connect(_fontBtn, &QPushButton::toggled, _mainMenu, &MainMenu::setFontShown);
-  connect(_folderView, &ImageView::magnificationChanged, _mainMenu, &MainMenu::setMagnification);
+  connect(_folderView, &ImageView::magnificationChanged, this, [this](int magnification) {
+    _mainMenu->setMagnification(magnification);
+    _mainWindow->growBy(_folderView->minimumSizeHint() - _folderView->size());
+  });
   _mainMenu->setMagnification(_folderView->magnification());
   connect(_mainMenu->recentMenu(), &QMenu::aboutToShow, this, &AppController::_fillRecentMenu);
   connect(_mainMenu->looksMenu(), &QMenu::aboutToShow, this, &AppController::_fillLooksMenu);
@@ -72,7 +75,7 @@ void AppController::help(int tag) {
     int tag;
     const char* path;
   };
-  static constexpr Page pages[] = {{0, "/quorvane/help/"}, {2, "forum"},          {3, "blog"},        {4, ""},
+  static constexpr Page pages[] = {{0, "/quorvane/help/"}, {2, "forum"},        {3, "blog"},        {4, ""},
                                    {5, "quorvane/faq/"},   {6, "quorvane/fb/"}, {7, "quorvane/mu/"}};
   for (const Page& page : pages) {
     if (page.tag == tag && _services.visitPage) _services.visitPage(page.path);

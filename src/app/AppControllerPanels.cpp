@@ -30,7 +30,8 @@ void AppController::_initColorPanel() {
 void AppController::_initFontPanel() {
   const LabelFont font = settings::startFont(_services.defaults);
   FontPanel& panel = _services.panels.fontPanel();
-  connect(&panel, &FontPanel::fontChanged, _mainWindow, [window = _mainWindow, &panel] { window->myChangeFont(panel); });
+  connect(&panel, &FontPanel::fontChanged, _mainWindow,
+          [window = _mainWindow, &panel] { window->myChangeFont(panel); });
   connect(&panel, &FontPanel::panelClosed, this, &AppController::fontPanelWillClose);
   connect(_folderView, &FolderView::selectedFontChanged, &panel,
           [&panel](const LabelFont& selected) { panel.setPanelFont(selected.family, selected.style, selected.size); });
@@ -62,6 +63,7 @@ void AppController::_endSliderStep() {
 }
 
 void AppController::_connectControls() {
+  connect(_openBtn, &QPushButton::clicked, this, &AppController::open);
   connect(_applyBtn, &QPushButton::clicked, this, &AppController::apply);
   connect(_revertBtn, &QPushButton::clicked, this, &AppController::revert);
   connect(_resetBtn, &QPushButton::clicked, this, &AppController::resetTransform);

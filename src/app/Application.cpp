@@ -45,7 +45,8 @@ struct FolderServices {
   std::unique_ptr<FolderMetadata> metadata = makeDesktopMetadata();
   std::unique_ptr<FolderMarks> marks = makeDesktopMarks(*metadata);
   FamilyCache families;
-  IconServices services{.forks = forks, .kinds = *kinds, .notices = notices, .families = &families, .marks = marks.get()};
+  IconServices services{
+      .forks = forks, .kinds = *kinds, .notices = notices, .families = &families, .marks = marks.get()};
 };
 
 /// The user's settings; kept for this run only when there is no place for them.
@@ -101,17 +102,16 @@ int runApplication(int argc, char** argv) {
   Reveal reveal(*revealWays, opener);
   HVWebsite website(QStringLiteral(QUORVANE_HOMEPAGE), opener);
 
-  const auto controller = AppController::init({.defaults = defaults,
-                                               .prompts = prompts,
-                                               .panels = panels,
-                                               .work = work,
-                                               .looks = looks ? &*looks : nullptr,
-                                               .chooseFolder = chooseFolder,
-                                               .choosePicture = choosePicture,
-                                               .revealInFileManager = [&](const auto& folder) { reveal.show(folder); },
-                                               .visitPage = [&](const char* page) {
-                                                 website.visitPage(QString::fromLatin1(page));
-                                               }});
+  const auto controller =
+      AppController::init({.defaults = defaults,
+                           .prompts = prompts,
+                           .panels = panels,
+                           .work = work,
+                           .looks = looks ? &*looks : nullptr,
+                           .chooseFolder = chooseFolder,
+                           .choosePicture = choosePicture,
+                           .revealInFileManager = [&](const auto& folder) { reveal.show(folder); },
+                           .visitPage = [&](const char* page) { website.visitPage(QString::fromLatin1(page)); }});
   controller->setOutlets(layOutMainWindow(window, panels));
   window.setOutlets(controller->outlets()._folderView, controller.get());
   QObject::connect(controller.get(), &AppController::terminateRequested, &application, &QCoreApplication::quit,

@@ -114,8 +114,9 @@ void BaseColumn::showPicture(const std::optional<Image>& picture) {
   if (isSame || (!picture && !_picture && !_heading->text().isEmpty())) return;
   _picture = picture;
   _heading->setText(picture ? tr("Chosen picture") : tr("The folder’s own icon"));
-  _explanation->setText(picture ? tr("The label is drawn on this picture.")
-                                : tr("The label is drawn on it. To draw on something else, choose a picture or drop one here."));
+  _explanation->setText(
+      picture ? tr("The label is drawn on this picture.")
+              : tr("The label is drawn on it. To draw on something else, choose a picture or drop one here."));
   _clearButton->setVisible(picture.has_value());
   _drawPicture();
 }
@@ -177,7 +178,8 @@ void BaseColumn::dropEvent(QDropEvent* event) {
   event->setDropAction(Qt::CopyAction);
   event->accept();
   // The other program waits for the end of its drag: what may show a sheet comes after.
-  QMetaObject::invokeMethod(this, [this, path = *path] { Q_EMIT pictureDropped(path); }, Qt::QueuedConnection);
+  QMetaObject::invokeMethod(
+      this, [this, path = *path] { Q_EMIT pictureDropped(path); }, Qt::QueuedConnection);
 }
 
 }  // namespace quorvane

@@ -16,8 +16,8 @@ namespace quorvane {
 
 class HVTableView;
 
-/// The column for what a label is drawn on: the lists of built-in icons and of the user's own. While neither has any, it
-/// says so and offers to take any picture; one may be dropped on it at any time.
+/// The column for what a label is drawn on: the lists of built-in icons and of the user's own. While neither has any,
+/// it says so and offers to take any picture; one may be dropped on it at any time.
 class BaseColumn : public QWidget {
   Q_OBJECT
  public:

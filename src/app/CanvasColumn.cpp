@@ -36,7 +36,7 @@ QWidget* makeOriginalIcon(Outlets& outlets) {
   layout->setSpacing(layoutGap / 2);
   outlets._origIconView = new ImageView;
   outlets._origIconView->setAccessibleName(tr("Original icon"));
-  outlets._origIconView->setFixedSize(outlets._origIconView->sizeHint());
+  outlets._origIconView->setFixedSize(outlets._origIconView->minimumSizeHint());
   auto* hint = new QLabel(tr("Revert puts this icon back."));
   hint->setForegroundRole(QPalette::PlaceholderText);
   hint->setWordWrap(true);
@@ -58,6 +58,8 @@ QWidget* makeCanvasColumn(Outlets& outlets) {
 
   outlets._folderView = new FolderView;
   outlets._folderView->setMagnification(2);
+  // The largest magnification would not fit a small screen: there its margins are cut off.
+  outlets._folderView->setMinimumSize(outlets._folderView->minimumSizeHint());
   outlets._origIconDrawer = new Drawer(makeOriginalIcon(outlets));
   auto* canvas = new QHBoxLayout;
   canvas->setSpacing(0);
@@ -74,8 +76,15 @@ QWidget* makeCanvasColumn(Outlets& outlets) {
   layout->addWidget(outlets._labelTF);
 
   outlets._previewStrip = new PreviewStrip(writtenForms);
+  // Without a folder there is nothing to preview; its place stays.
+  // The two grounds stand side by side at every width: one above the other they would push the canvas away.
+  column->setMinimumWidth(outlets._previewStrip->sizeHint().width());
+  outlets._previewStrip->setFixedHeight(outlets._previewStrip->sizeHint().height());
+  QSizePolicy policy = outlets._previewStrip->sizePolicy();
+  policy.setRetainSizeWhenHidden(true);
+  outlets._previewStrip->setSizePolicy(policy);
+  outlets._previewStrip->hide();
   layout->addSpacing(layoutGap / 2);
-  layout->addWidget(makeCaption(tr("Preview")));
   layout->addWidget(outlets._previewStrip);
   return column;
 }

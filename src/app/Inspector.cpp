@@ -31,19 +31,19 @@ QString withoutAccessKey(QString text) {
 class Card {
  public:
   explicit Card(const QString& caption) : frame(makeCard()), _rows(new QVBoxLayout(frame)) {
-    _rows->setContentsMargins(cardPadding, cardPadding - 2, cardPadding, cardPadding);
-    _rows->setSpacing(4);
-    _rows->addWidget(makeCaption(caption));
+    _rows->setContentsMargins(cardPadding, cardPadding - 4, cardPadding, cardPadding - 2);
+    _rows->setSpacing(2);
+    if (!caption.isEmpty()) _rows->addWidget(makeCaption(caption));
   }
 
   /// The name beside a control that is told to assistive tools by it.
-  void addRow(const QString& name, QWidget* control) {
+  void addRow(const QString& name, QWidget* control, bool isCaption = false) {
     control->setAccessibleName(withoutAccessKey(name));
     auto* row = new QHBoxLayout;
     row->setSpacing(10);
-    row->addWidget(makeControlName(name, control), 2);
+    row->addWidget(isCaption ? makeCaption(name, control) : makeControlName(name, control), 2);
     row->addWidget(control, 5);
-    _rows->addSpacing(4);
+    _rows->addSpacing(isCaption ? 0 : 4);
     _rows->addLayout(row);
   }
 
@@ -61,7 +61,7 @@ class Card {
   }
 
   void addWidget(QWidget* widget) {
-    _rows->addSpacing(8);
+    _rows->addSpacing(6);
     _rows->addWidget(widget);
   }
 
@@ -117,9 +117,10 @@ QWidget* makeInspector(Outlets& outlets, SharedPanels& panels) {
                                                                     .typedMinimum = 0,
                                                                     .typedMaximum = 5,
                                                                     .suffix = {}});
-  Card effect(tr("Effect"));
+  // One control: its name is the caption.
+  Card effect({});
   outlets._effectPopUp = makeEffects();
-  effect.addRow(tr("Effe&ct"), outlets._effectPopUp);
+  effect.addRow(tr("Effe&ct"), outlets._effectPopUp, true);
 
   Card transform(tr("Transform"));
   outlets._shearSlider = transform.addSlider(tr("&Shear"), {.minimum = -1,
@@ -130,7 +131,7 @@ QWidget* makeInspector(Outlets& outlets, SharedPanels& panels) {
                                                             .typedMinimum = -10,
                                                             .typedMaximum = 10,
                                                             .suffix = {}});
-  outlets._rotationSlider = transform.addSlider(tr("Rotatio&n"), {.minimum = -180,
+  outlets._rotationSlider = transform.addSlider(tr("&Rotation"), {.minimum = -180,
                                                                   .maximum = 180,
                                                                   .step = 1,
                                                                   .defaultValue = 0,

@@ -11,7 +11,7 @@ namespace quorvane {
 
 // In logical pixels.
 inline constexpr int windowMargin = 16;
-inline constexpr int layoutGap = 14;
+inline constexpr int layoutGap = 12;
 inline constexpr int cardPadding = 14;
 inline constexpr int baseColumnWidth = 230;
 inline constexpr int inspectorWidth = 280;

@@ -71,7 +71,8 @@ void SaveLookSheet::_judge() {
   const auto file = LookStore::fileName(name());
   _save->setEnabled(file.ok());
   if (name().isEmpty())
-    _remark->setText(tr("Font, colour, effect, spacing, transform and place of the label are kept, and the chosen picture."));
+    _remark->setText(
+        tr("Font, colour, effect, spacing, transform and place of the label are kept, and the chosen picture."));
   else if (!file)
     _remark->setText(tr("This cannot be a name: %1").arg(visibleText(QString::fromStdString(file.error().why()))));
   else if (std::ranges::find(_taken, name()) != _taken.end())
@@ -129,7 +130,8 @@ void ManageLooksSheet::_read() {
     if (name == current) _list->setCurrentItem(item);
   }
   if (!_list->currentItem()) _list->setCurrentRow(0);
-  if (names) _remark->setText(names->empty() ? tr("No looks have been saved yet. Save Look keeps the present one.") : QString());
+  if (names)
+    _remark->setText(names->empty() ? tr("No looks have been saved yet. Save Look keeps the present one.") : QString());
   _showState();
 }
 

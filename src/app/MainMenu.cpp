@@ -55,7 +55,7 @@ MainMenu::MainMenu(QMainWindow& window) : QObject(&window), _window(window) {
                          {C::ResetTransform, tr("&Reset Transform"), {}, "reset"},
                          line,
                          {C::Looks, tr("&Looks"), {}, "look", &_looksMenu}});
-  addMenu(tr("&View"), {{C::Magnify1, tr("Canvas &1×"), {K(Qt::CTRL | Qt::Key_1)}},
+  addMenu(tr("Vie&w"), {{C::Magnify1, tr("Canvas &1×"), {K(Qt::CTRL | Qt::Key_1)}},
                         {C::Magnify2, tr("Canvas &2×"), {K(Qt::CTRL | Qt::Key_2)}},
                         {C::Magnify3, tr("Canvas &3×"), {K(Qt::CTRL | Qt::Key_3)}},
                         line,
@@ -93,6 +93,8 @@ void MainMenu::_fill(QMenu& menu, const std::vector<Row>& rows) {
       connect(action, &QAction::triggered, this, [this, command = *row.command] { Q_EMIT chosen(command); });
     }
     if (row.icon) action->setIcon(actionIcon(QLatin1String(row.icon), QPalette::Text));
+    // Some change their words as time goes by; this is what they are called in lists.
+    action->setProperty("plainName", QString(row.text).remove(QLatin1Char('&')));
     action->setShortcuts(row.keys);
     _actions[*row.command] = action;
   }
@@ -127,7 +129,8 @@ std::vector<MainMenu::ShortcutGroup> MainMenu::shortcuts() const {
     ShortcutGroup group{plain(menu->title()), {}};
     const auto add = [&](const QAction* action) {
       if (!action->shortcut().isEmpty())
-        group.shortcuts.push_back({plain(action->text()), action->shortcut().toString(QKeySequence::NativeText)});
+        group.shortcuts.push_back(
+            {action->property("plainName").toString(), action->shortcut().toString(QKeySequence::NativeText)});
     };
     for (const QAction* action : menu->actions()) {
       add(action);

@@ -15,8 +15,8 @@
 #include "composition/view/FolderView.h"
 #include "ui/ActionIcons.h"
 #include "ui/ElidedLabel.h"
-#include "ui/HVTableView.h"
 #include "ui/HVColorWell.h"
+#include "ui/HVTableView.h"
 #include "ui/LabelTextField.h"
 #include "ui/PopUpButton.h"
 #include "ui/Slider.h"
@@ -31,21 +31,11 @@ QString tr(const char* text) {
 
 /// Tab goes as one reads: the canvas before what changes it, the buttons that end the work last.
 void setTabOrder(const Outlets& outlets) {
-  QWidget* const order[] = {outlets._baseTableView,
-                            outlets._customTableView,
-                            outlets._folderView,
-                            outlets._labelTF,
-                            outlets._fontBtn,
-                            outlets._fontSizeSlider,
-                            outlets._lineSpacingSlider,
-                            outlets._colorWell,
-                            outlets._effectPopUp,
-                            outlets._shearSlider,
-                            outlets._rotationSlider,
-                            outlets._opacitySlider,
-                            outlets._resetBtn,
-                            outlets._revertBtn,
-                            outlets._applyBtn};
+  QWidget* const order[] = {
+      outlets._openBtn,       outlets._baseTableView, outlets._customTableView, outlets._folderView,
+      outlets._labelTF,       outlets._fontBtn,       outlets._fontSizeSlider,  outlets._lineSpacingSlider,
+      outlets._colorWell,     outlets._effectPopUp,   outlets._shearSlider,     outlets._rotationSlider,
+      outlets._opacitySlider, outlets._resetBtn,      outlets._revertBtn,       outlets._applyBtn};
   for (std::size_t i = 1; i < std::size(order); ++i) QWidget::setTabOrder(order[i - 1], order[i]);
 }
 
@@ -61,11 +51,14 @@ QWidget* makeHeader(Outlets& outlets) {
   outlets._noticeLabel = new NoticeLabel;
   outlets._noticeLabel->setAlignment(Qt::AlignTrailing | Qt::AlignVCenter);
   outlets._busyIndicator = new BusyIndicator;
-  outlets._revertBtn = new QPushButton(tr("&Revert"));
+  outlets._revertBtn = new QPushButton(tr("Re&vert"));
   outlets._revertBtn->setToolTip(tr("Put the icon from before the first Apply back"));
   outlets._applyBtn = new QPushButton(tr("&Apply"));
   outlets._applyBtn->setToolTip(tr("Give the folder this icon"));
   outlets._applyBtn->setDefault(true);
+  outlets._openBtn = new QPushButton(actionIcon(QStringLiteral("open")), tr("Ope&n…"));
+  outlets._openBtn->setToolTip(tr("Choose the folder to give an icon to"));
+  layout->addWidget(outlets._openBtn);
   layout->addWidget(outlets._pathTF, 3);
   layout->addWidget(outlets._noticeLabel, 2);
   layout->addWidget(outlets._busyIndicator);
@@ -83,7 +76,7 @@ Outlets layOutMainWindow(QVWindow& window, SharedPanels& panels) {
 
   auto* content = new QWidget;
   auto* rows = new QVBoxLayout(content);
-  rows->setContentsMargins(windowMargin, 8, windowMargin, windowMargin);
+  rows->setContentsMargins(windowMargin, 4, windowMargin, windowMargin);
   rows->setSpacing(layoutGap);
   rows->addWidget(makeHeader(outlets));
   auto* columns = new QHBoxLayout;
@@ -99,7 +92,7 @@ Outlets layOutMainWindow(QVWindow& window, SharedPanels& panels) {
   window.setCentralWidget(content);
   setTabOrder(outlets);
   window.setInitialFirstResponder(outlets._folderView);
-  window.resize(1180, 690);
+  window.resize(1180, 680);
   return outlets;
 }
 

@@ -9,9 +9,9 @@ namespace quorvane {
 
 class SharedPanels;
 
-/// Fills the window: header with the path and the two buttons, base pictures on the leading side, canvas and label in the
-/// middle, inspector on the other side. All outlets are set, the controller is not joined yet. The panels must outlive
-/// the window.
+/// Fills the window: header with the path and the two buttons, base pictures on the leading side, canvas and label in
+/// the middle, inspector on the other side. All outlets are set, the controller is not joined yet. The panels must
+/// outlive the window.
 Outlets layOutMainWindow(QVWindow& window, SharedPanels& panels);
 
 // The parts, each of which sets its outlets.

@@ -27,6 +27,7 @@ struct Outlets {
   MainMenu* _mainMenu = nullptr;
 
   ElidedLabel* _pathTF = nullptr;  ///< the current folder's path, the home folder shortened to "~"
+  QPushButton* _openBtn = nullptr;
   QPushButton* _applyBtn = nullptr;
   QPushButton* _revertBtn = nullptr;
   LabelTextField* _labelTF = nullptr;

@@ -35,8 +35,13 @@ class QVWindow::DropFrame : public QWidget {
   }
 };
 
-QVWindow::QVWindow(UserDefaults& defaults) : _defaults(defaults), _dropFrame(new DropFrame(this)) {
+QVWindow::QVWindow(UserDefaults& defaults)
+    : _defaults(defaults),
+      _dropFrame(new DropFrame(this)),
+      _inside(new QWidget(this)),
+      _refused(*_inside, [this](const QString& reason) { Q_EMIT dropRefused(reason); }) {
   setAcceptDrops(true);
+  _inside->hide();
 }
 
 void QVWindow::setOutlets(FolderView* folderView, AppController* appController) {
@@ -53,6 +58,13 @@ void QVWindow::myChangeFont(const FontPanel& sender) {
 void QVWindow::myChangeColor(const ColorPanel& sender) {
   _appController->setColor(sender.color());
   settings::setValue(_defaults, settings::lastUsedColor, sender.color());
+}
+
+void QVWindow::growBy(QSize missing) {
+  if (isMaximized() || isFullScreen()) return;
+  const QSize frame = frameGeometry().size() - size();
+  const QSize room = screen()->availableSize() - frame;
+  resize((size() + missing.expandedTo(QSize(0, 0))).boundedTo(room).expandedTo(size()));
 }
 
 void QVWindow::bringToFront() {
@@ -91,10 +103,15 @@ void QVWindow::_showDropFrame(bool shown) {
 void QVWindow::dragEnterEvent(QDragEnterEvent* event) {
   const DroppedFolder dropped = DroppedFolder::of(*event->mimeData());
   const bool isTaken = dropped.path.has_value() && !isSheetUp();
-  _refusal = isTaken ? QString() : dropped.refusal;
+  _refused.end();
   _showDropFrame(isTaken);
-  // What is refused is let in as well, so that the window learns when it is let go; the move says no.
-  event->setDropAction(isTaken ? Qt::CopyAction : Qt::IgnoreAction);
+  if (!isTaken) {
+    constexpr int rim = 24;
+    _inside->setGeometry(rect().adjusted(rim, rim, -rim, -rim));
+    if (!isSheetUp()) _refused.begin(dropped.refusal);
+    return event->ignore();
+  }
+  event->setDropAction(Qt::CopyAction);
   event->accept();
 }
 
@@ -112,10 +129,7 @@ void QVWindow::dragLeaveEvent(QDragLeaveEvent* event) {
 void QVWindow::dropEvent(QDropEvent* event) {
   _showDropFrame(false);
   const DroppedFolder dropped = DroppedFolder::of(*event->mimeData());
-  if (!dropped.path || isSheetUp()) {
-    if (!_refusal.isEmpty()) Q_EMIT dropRefused(_refusal);
-    return event->ignore();
-  }
+  if (!dropped.path || isSheetUp()) return event->ignore();
   event->setDropAction(Qt::CopyAction);
   event->accept();
   Q_EMIT folderDropped(*dropped.path);

@@ -3,6 +3,7 @@
 
 #include <filesystem>
 
+#include "composition/view/RefusedDropWatch.h"
 #include "ui/HVWindow.h"
 
 namespace quorvane {
@@ -27,6 +28,9 @@ class QVWindow : public HVWindow {
   void myChangeFont(const FontPanel& sender);
   /// Kept in the settings even while the controller ignores it.
   void myChangeColor(const ColorPanel& sender);
+
+  /// Larger by what is positive of it, as far as the screen has room.
+  void growBy(QSize missing);
 
   /// Shown, not minimised, in front, with the keyboard.
   void bringToFront();
@@ -54,7 +58,8 @@ class QVWindow : public HVWindow {
   FolderView* _folderView = nullptr;
   AppController* _appController = nullptr;
   DropFrame* _dropFrame;
-  QString _refusal;
+  QWidget* _inside;  ///< all but a rim: what is let go on the rim may as well be leaving
+  RefusedDropWatch _refused;
 };
 
 }  // namespace quorvane
