@@ -67,6 +67,12 @@ int runApplication(int argc, char** argv) {
     return arguments.exitCode;
   }
 
+  if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM") && qEnvironmentVariableIsEmpty("DISPLAY") &&
+      qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY")) {
+    std::fputs("quorvane-window: there is no display to open the window on\nFor scripts there is the command \"quorvane\".\n",
+               stderr);
+    return 1;
+  }
   QApplication application(argc, argv);
   QCoreApplication::setApplicationName(QStringLiteral("Quorvane"));
   QCoreApplication::setApplicationVersion(QStringLiteral(QUORVANE_VERSION));

@@ -31,8 +31,13 @@ Image writtenForms(const Image& composed) {
 
 QWidget* makeOriginalIcon(Outlets& outlets) {
   auto* panel = new QWidget;
-  auto* layout = new QVBoxLayout(panel);
-  layout->setContentsMargins(layoutGap, 0, 0, 0);
+  // A gap that is mirrored with the rest; margins are not.
+  auto* sides = new QHBoxLayout(panel);
+  sides->setContentsMargins({});
+  sides->setSpacing(0);
+  sides->addSpacing(layoutGap);
+  auto* layout = new QVBoxLayout;
+  sides->addLayout(layout);
   layout->setSpacing(layoutGap / 2);
   outlets._origIconView = new ImageView;
   outlets._origIconView->setAccessibleName(tr("Original icon"));
