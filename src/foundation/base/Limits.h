@@ -22,6 +22,9 @@ inline constexpr int elementPixels = 4096;
 inline constexpr std::size_t forkResources = 8192;
 inline constexpr std::size_t companionEntries = 512;
 
+/// Longest list of recently used things, which all programs of a desktop share; long ones have some hundred kilobytes.
+inline constexpr std::size_t recentListBytes = std::size_t{8} << 20;
+
 /// Longest ".directory" or ".hidden" file that is edited; usual ones have a few lines.
 inline constexpr std::size_t folderSettingsBytes = std::size_t{16} << 20;
 
