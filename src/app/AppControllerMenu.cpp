@@ -186,7 +186,7 @@ void AppController::_edit(MenuCommand command) {
 void AppController::_fillRecentMenu() {
   QMenu& menu = *_mainMenu->recentMenu();
   menu.clear();
-  const auto folders = _services.recentFolders ? _services.recentFolders() : std::vector<AppServices::RecentFolder>();
+  const auto folders = _services.recentFolders ? _services.recentFolders() : std::vector<RecentFolder>();
   for (const auto& folder : folders) {
     QString shown = visibleText(abbreviatedPath(folder.path)).replace(QLatin1Char('&'), QLatin1String("&&"));
     shown = menu.fontMetrics().elidedText(shown, Qt::ElideMiddle, 480);

@@ -6,6 +6,8 @@
 #include <optional>
 #include <vector>
 
+#include "system/RecentFolders.h"
+
 class QWidget;
 
 namespace quorvane {
@@ -31,10 +33,6 @@ struct AppServices {
 
   Chooser chooseFolder = {};
   Chooser choosePicture = {};
-  struct RecentFolder {
-    Path path;
-    bool isMissing = false;
-  };
   std::function<void(const Path& folder)> noteRecentFolder = {};
   std::function<std::vector<RecentFolder>()> recentFolders = {};  ///< the last one first
   std::function<void()> clearRecentFolders = {};

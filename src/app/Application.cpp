@@ -10,6 +10,7 @@
 #include "app/DefaultsFrameStore.h"
 #include "app/MainWindowLayout.h"
 #include "app/QVWindow.h"
+#include "app/RecentList.h"
 #include "app/SheetPrompts.h"
 #include "app/TerminationSignals.h"
 #include "app/WindowArguments.h"
@@ -17,6 +18,7 @@
 #include "app/core/LookStore.h"
 #include "app/core/SettingsTable.h"
 #include "composition/view/FolderView.h"
+#include "foundation/FileManagerExtras.h"
 #include "foundation/SettingsFile.h"
 #include "foundation/UserDefaults.h"
 #include "foundation/base/Log.h"
@@ -69,8 +71,9 @@ int runApplication(int argc, char** argv) {
 
   if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM") && qEnvironmentVariableIsEmpty("DISPLAY") &&
       qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY")) {
-    std::fputs("quorvane-window: there is no display to open the window on\nFor scripts there is the command \"quorvane\".\n",
-               stderr);
+    std::fputs(
+        "quorvane-window: there is no display to open the window on\nFor scripts there is the command \"quorvane\".\n",
+        stderr);
     return 1;
   }
   QApplication application(argc, argv);
@@ -100,6 +103,13 @@ int runApplication(int argc, char** argv) {
   window.setFrameStore(&frames);
   SheetPrompts prompts(window);
 
+  std::optional<SharedRecentList> sharedRecent;
+  if (auto file = SharedRecentList::usualFile()) {
+    sharedRecent.emplace(*file, recentlist::Application{.name = "Quorvane", .exec = "quorvane-window %u"});
+  }
+  RecentList recent(defaults, std::move(sharedRecent));
+  // What is missing is known by the time that the menu is opened.
+  static_cast<void>(recent.folders());
   const auto lookFolder = LookStore::usualFolder();
   std::optional<LookStore> looks;
   if (lookFolder) looks.emplace(*lookFolder);
@@ -116,17 +126,24 @@ int runApplication(int argc, char** argv) {
                            .looks = looks ? &*looks : nullptr,
                            .chooseFolder = chooseFolder,
                            .choosePicture = choosePicture,
+                           .noteRecentFolder = [&](const auto& folder) { recent.add(folder); },
+                           .recentFolders = [&] { return recent.folders(); },
+                           .clearRecentFolders = [&] { recent.clear(); },
                            .revealInFileManager = [&](const auto& folder) { reveal.show(folder); },
                            .visitPage = [&](const char* page) { website.visitPage(QString::fromLatin1(page)); }});
   controller->setOutlets(layOutMainWindow(window, panels));
   window.setOutlets(controller->outlets()._folderView, controller.get());
-  QObject::connect(controller.get(), &AppController::terminateRequested, &application, &QCoreApplication::quit,
-                   Qt::QueuedConnection);
+  // Not quit(): that would ask every window once more.
+  QObject::connect(
+      controller.get(), &AppController::terminateRequested, &application, [] { QCoreApplication::exit(0); },
+      Qt::QueuedConnection);
   TerminationSignals signals_;
   QObject::connect(&signals_, &TerminationSignals::received, &window, [&window] {
     window.cancelSheets();
-    // Closing saves the frame; it may be refused while something is still being answered.
-    if (!window.close()) QCoreApplication::quit();
+    // Those who waited for an answer get to know first. Closing saves the frame.
+    QTimer::singleShot(0, &window, [&window] {
+      if (!window.close()) QCoreApplication::exit(0);
+    });
   });
 
   controller->awakeFromNib();
@@ -135,6 +152,10 @@ int runApplication(int argc, char** argv) {
   const auto open = [&](const OpenRequest& wish) {
     for (const auto& folder : wish.paths) controller->applicationOpenFile(folder);
   };
+  for (const auto& folder : request.paths) {
+    if (!isDirectory(folder))
+      std::fprintf(stderr, "quorvane-window: %s: this is no folder\n", printable(folder).c_str());
+  }
   open(request);
   instance.setHandler([&](const OpenRequest& wish) {
     // What the desktop gave the other process lets this window come to the front.

@@ -68,6 +68,8 @@ void edit(TestWindow& test) {
 
 void takeAll(Pictures& pictures) {
   TestWindow test;
+  // For a path as people have it.
+  qputenv("HOME", QByteArray::fromStdString(test.folder.parent_path().string()));
   test.launch();
   test.window.resize(1180, 690);
   pictures.take(test.window, QStringLiteral("1-empty"));
