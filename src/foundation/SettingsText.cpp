@@ -3,7 +3,6 @@
 
 #include <QJsonArray>
 #include <QJsonDocument>
-#include <QtEndian>
 #include <charconv>
 
 #include "foundation/base/Limits.h"
@@ -18,7 +17,6 @@ const QString valuesKey = QStringLiteral("values");
 const QString realKey = QStringLiteral("real");
 const QString dataKey = QStringLiteral("data");
 const QString dictionaryKey = QStringLiteral("dictionary");
-const QString utf16Key = QStringLiteral("utf16");
 
 QJsonObject tagged(const QString& tag, const QJsonValue& value) {
   return {{tag, value}};
@@ -42,25 +40,11 @@ QVariant realFromText(const QJsonValue& value) {
   return number;
 }
 
-QJsonValue utf16Json(const QString& text) {
-  QByteArray bytes(text.size() * 2, Qt::Uninitialized);
-  qToBigEndian<quint16>(text.utf16(), text.size(), bytes.data());
-  return tagged(utf16Key, base64(bytes));
-}
-
 std::optional<QByteArray> bytesFromJson(const QJsonValue& value) {
   if (!value.isString()) return std::nullopt;
   auto decoded = QByteArray::fromBase64Encoding(value.toString().toLatin1(), QByteArray::AbortOnBase64DecodingErrors);
   if (!decoded) return std::nullopt;
   return std::move(decoded.decoded);
-}
-
-QVariant utf16FromJson(const QJsonValue& value) {
-  const auto bytes = bytesFromJson(value);
-  if (!bytes || bytes->size() % 2 != 0) return {};
-  QString text(bytes->size() / 2, Qt::Uninitialized);
-  qFromBigEndian<quint16>(bytes->constData(), text.size(), text.data());
-  return text;
 }
 
 /// Of a settingsValue().
@@ -85,10 +69,8 @@ QJsonValue jsonOf(const QVariant& value) {
       for (auto item = map.begin(); item != map.end(); ++item) object[item.key()] = jsonOf(*item);
       return tagged(dictionaryKey, object);
     }
-    default: {
-      const QString text = value.toString();
-      return text.isValidUtf16() ? QJsonValue(text) : utf16Json(text);
-    }
+    default:
+      return value.toString();
   }
 }
 
@@ -99,7 +81,6 @@ QVariant valueOfObject(const QJsonObject& object, int depth) {
   const QString tag = object.begin().key();
   const QJsonValue inner = object.begin().value();
   if (tag == realKey) return realFromText(inner);
-  if (tag == utf16Key) return utf16FromJson(inner);
   if (tag == dataKey) {
     const auto bytes = bytesFromJson(inner);
     return bytes ? QVariant(*bytes) : QVariant();
@@ -109,7 +90,7 @@ QVariant valueOfObject(const QJsonObject& object, int depth) {
   const QJsonObject items = inner.toObject();
   for (auto item = items.begin(); item != items.end(); ++item) {
     const QVariant value = valueOf(*item, depth + 1);
-    if (!value.isValid() || !isSettingsKey(item.key())) return {};
+    if (!value.isValid()) return {};
     map[item.key()] = value;
   }
   return map;

@@ -12,8 +12,8 @@ namespace quorvane {
 
 /// The text of a settings file: JSON, independent of the locale, with the types of the values kept. Truth values,
 /// integers, text and lists are JSON's own; the others are objects of one member that says what they are: "real" (the
-/// shortest text that gives the very number), "data" (base 64), "dictionary", and "utf16" (base 64, high byte first)
-/// for text that is not well-formed. What we do not understand stays in the file as it is.
+/// shortest text that gives the very number), "data" (base 64) and "dictionary". What we do not understand stays in the
+/// file as it is.
 class SettingsText {
  public:
   /// No settings.

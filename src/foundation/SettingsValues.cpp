@@ -61,7 +61,7 @@ QVariant settingsValue(const QVariant& value, int depth) {
       QVariantMap map = value.toMap();
       for (auto item = map.begin(); item != map.end(); ++item) {
         *item = settingsValue(*item, depth + 1);
-        if (!item->isValid() || !isSettingsKey(item.key())) return {};
+        if (!item->isValid()) return {};
       }
       return map;
     }
@@ -74,10 +74,6 @@ QVariant settingsValue(const QVariant& value, int depth) {
 
 QVariant settingsValue(const QVariant& value) {
   return settingsValue(value, 0);
-}
-
-bool isSettingsKey(const QString& key) {
-  return key.isValidUtf16();
 }
 
 qint64 integerOf(const QVariant& value) {

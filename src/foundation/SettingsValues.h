@@ -11,8 +11,6 @@ namespace quorvane {
 /// QVariantList and QVariantMap of the same. Other numbers and string lists become one of them; an invalid variant is
 /// what comes out of anything else, and of lists nested deeper than Limits.h allows.
 [[nodiscard]] QVariant settingsValue(const QVariant& value);
-/// Whether a key can be kept: well-formed text.
-[[nodiscard]] bool isSettingsKey(const QString& key);
 
 /// A value as a number: numbers as they are, rounded toward zero and held to the type's ends for integers; true is 1;
 /// of a text the number that is the whole of it. 0 for all else.

@@ -50,17 +50,17 @@ QVariant UserDefaults::objectForKey(const QString& key) const {
 void UserDefaults::setObject(const QVariant& value, const QString& forKey) {
   if (!value.isValid()) return removeObjectForKey(forKey);
   const QVariant kept = settingsValue(value);
-  if (!kept.isValid() || !isSettingsKey(forKey) || isTooLarge(forKey, kept))
+  if (!kept.isValid() || isTooLarge(forKey, kept))
     return logMessage("settings", "cannot keep a value for '" + excerpt(forKey.toStdString()) + "'");
   _change(forKey, SettingsChange::set(kept));
 }
 
 void UserDefaults::removeObjectForKey(const QString& key) {
-  if (isSettingsKey(key)) _change(key, SettingsChange::remove());
+  _change(key, SettingsChange::remove());
 }
 
 qint64 UserDefaults::incrementIntegerForKey(const QString& key) {
-  if (isSettingsKey(key)) _change(key, SettingsChange::add(1, _registered.value(key)));
+  _change(key, SettingsChange::add(1, _registered.value(key)));
   return integerForKey(key);
 }
 

@@ -10,10 +10,10 @@ import unittest
 
 from places import fast_place
 from points import Tracer, points, thin
-from support import PATIENCE
 
+PATIENCE = float(os.environ.get("QUORVANE_PATIENCE", "10"))
 WRITER = os.environ.get("QUORVANE_SETTINGS_WRITER", "")
-STRIDE = max(1, int(os.environ.get("QUORVANE_STRIDE", "61")) // 20)
+STRIDE = max(1, int(os.environ.get("QUORVANE_STRIDE", "61")) // 10)
 DAMAGED = b'{"quorvane-settings": 1, "val'
 
 

@@ -45,7 +45,7 @@ TEST(UserDefaults, ValuesKeepTheirTypesOverARestart) {
                              QVariantList{1LL},
                              QVariantList{QVariantList{}, 1.0, true},
                              QVariantMap(),
-                             QVariantMap{{QStringLiteral("real"), 1LL}}};
+                             QVariantMap{{QStringLiteral("real"), 1LL}, {QString(QChar(0xD800)), 2LL}}};
   for (const QVariant& value : values) {
     const QVariant back = afterRestart(value);
     EXPECT_EQ(back.typeId(), value.typeId()) << value.toString().toStdString();

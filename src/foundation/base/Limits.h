@@ -33,6 +33,10 @@ inline constexpr std::size_t settingsFileBytes = std::size_t{4} << 20;
 inline constexpr std::size_t settingsValueBytes = std::size_t{1} << 20;
 inline constexpr int settingsDepth = 16;
 
+/// Longest output of another program that is kept, and desktop entry that is read.
+inline constexpr std::size_t commandOutputBytes = std::size_t{256} << 20;
+inline constexpr std::size_t desktopEntryBytes = std::size_t{256} << 10;
+
 /// Longest ".git" file or "commondir" (one path), and list of what git does not look at; git itself reads 4 KiB and any
 /// length.
 inline constexpr std::size_t gitPointerBytes = std::size_t{16} << 10;
