@@ -140,12 +140,28 @@ Result<void> readMany(const Parser& parser, Arguments& arguments) {
   return {};
 }
 
+/// Reads what `render` is to make; the failure names what does not go together.
+Result<void> readOutput(const Parser& parser, Arguments& arguments) {
+  if (!parser.pixels.empty()) arguments.pixels = TRY(readWhole(parser.pixels, "--pixels", 16, 4096));
+  if (!parser.quality.empty()) arguments.jpeg.quality = TRY(readWhole(parser.quality, "--quality", 1, 100));
+  // Beyond a GiB there is nothing left to limit.
+  if (!parser.maxSize.empty())
+    arguments.jpeg.limit.value = static_cast<std::uint64_t>(TRY(readWhole(parser.maxSize, "--max-size", 1, 1 << 20)));
+  if (arguments.command != Command::Render || arguments.paths.empty()) return {};
+  const auto kind = pictureKindOf(arguments.paths.front());
+  if (!kind)
+    return Error::invalidInput("'" + printable(arguments.paths.front()) +
+                               "' must end in .png, .jpg, .tif, .gif or .icns, which say what is made");
+  if (*kind != PictureKind::Jpeg && !(parser.quality.empty() && parser.maxSize.empty()))
+    return Error::invalidInput("--quality and --max-size are for a JPEG (.jpg)");
+  return {};
+}
+
 Result<Arguments> readArguments(const Parser& parser, Command command, const CLI::App& app) {
   Arguments arguments;
   arguments.command = command;
   TRY_VOID(readLook(parser, app, arguments));
   TRY_VOID(readMany(parser, arguments));
-  if (!parser.pixels.empty()) arguments.pixels = TRY(readWhole(parser.pixels, "--pixels", 16, 4096));
   for (const std::string& path : parser.paths) {
     if (path.empty()) return Error::invalidInput("an empty path names nothing");
     arguments.paths.emplace_back(path);
@@ -156,6 +172,7 @@ Result<Arguments> readArguments(const Parser& parser, Command command, const CLI
   if (parser.paths.size() > count.most)
     return Error::invalidInput(std::string("takes ") + count.names + " and no more, not '" +
                                printable(parser.paths[count.most]) + "'");
+  TRY_VOID(readOutput(parser, arguments));
   if (command == Command::List && parser.isNull && (parser.json || parser.jsonLines))
     return Error::invalidInput("--null prints bare names; it goes with neither --json nor --json-lines");
   if (parser.json && parser.jsonLines) return Error::invalidInput("--json and --json-lines exclude each other");

@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "app/core/Look.h"
+#include "cli/PictureOutput.h"
 #include "cli/Reporter.h"
 
 namespace CLI {
@@ -54,7 +55,8 @@ struct Arguments {
   int jobs = 1;                                    ///< folders worked on at a time
   bool failsFast = false;                          ///< no further folder after one that failed
   bool gitExclude = false;                         ///< keep git from showing what the icon consists of
-  int pixels = 512;                                ///< side of a rendered PNG
+  int pixels = 512;                                ///< side of a rendered picture
+  JpegWish jpeg;                                   ///< how `render` makes a JPEG
   OutputForm form = OutputForm::Words;
   bool isQuiet = false;
   bool isVerbose = false;

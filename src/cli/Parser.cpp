@@ -131,16 +131,25 @@ Parser::Parser() {
   list->add_flag("-0,--null", isNull, "Print nothing but names, as they are, each ended by a zero byte");
   addCommon(*list);
 
-  CLI::App* render = add(app, Command::Render, "render", "Compose an icon into a PNG or icns file, touching no folder",
-                         "render [OPTIONS] OUT",
+  CLI::App* render = add(app, Command::Render, "render",
+                         "Compose an icon into a picture or icns file, touching no folder", "render [OPTIONS] OUT",
                          {"quorvane render --label Taxes --effect soft taxes.png",
-                          "quorvane render --label Taxes --base box.png --pixels 1024 taxes.png"});
-  render->add_option("OUT", paths, "File to write; .icns makes an icon family, anything else a PNG")->type_name("");
+                          "quorvane render --label Taxes --base box.png --pixels 1024 taxes.png",
+                          "quorvane render --label Taxes --max-size 40 taxes.jpg"});
+  render
+      ->add_option("OUT", paths,
+                   "File to write: .png, .jpg, .tif, .gif, or .icns for an icon family; without an ending, a PNG")
+      ->type_name("");
   addLook(*render);
   render->add_flag("--label-from-name", labelFromName, "The label is the name of OUT without its ending");
   render->add_option("--save-look", savedLook, "Keep the look in a file, too; a label from the name stays one")
       ->type_name("FILE");
-  render->add_option("--pixels", pixels, "Side of the PNG, 16 to 4096 [512]")->type_name("N");
+  render->add_option("--pixels", pixels, "Side of the picture, 16 to 4096 [512]")->type_name("N");
+  render->add_option("--quality", quality, "Quality of a JPEG, 1 to 100 [90]")->type_name("N");
+  render
+      ->add_option("--max-size", maxSize,
+                   "Make a JPEG smaller than so many KiB (1024 bytes), lowering the quality as far as needed")
+      ->type_name("KIB");
   addDryRun(*render);
   addCommon(*render);
 

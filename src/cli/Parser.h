@@ -20,7 +20,7 @@ struct Parser {
   /// The words given for the look's options, by name: they are read afterwards, so that no locale has a say in numbers.
   std::map<std::string, std::string> look;
   std::string lookFile, savedLook, rowsFrom, filesFrom;
-  std::string pixels, jobs;
+  std::string pixels, quality, maxSize, jobs;
   bool labelFromName = false;
   bool gitExclude = false;
   bool isNull = false;

@@ -4,9 +4,12 @@
 
 #include "app/core/BasePicture.h"
 #include "cli/Commands.h"
+#include "cli/PictureOutput.h"
 #include "cli/Terminal.h"
 #include "cli/Wish.h"
 #include "foundation/FileReading.h"
+#include "foundation/FileWriting.h"
+#include "foundation/Folder.h"
 #include "foundation/base/Limits.h"
 #include "iconfamily/ElementStore.h"
 #include "iconfamily/ElementTypes.h"
@@ -16,11 +19,6 @@
 namespace quorvane::cli {
 
 namespace {
-
-bool isIcnsName(const std::filesystem::path& path) {
-  const auto extension = QString::fromStdString(path.extension().string());
-  return extension.compare(QLatin1String(".icns"), Qt::CaseInsensitive) == 0;
-}
 
 /// The name that a rendered icon has in the place of a folder's.
 Result<QString> outputName(const std::filesystem::path& out) {
@@ -39,8 +37,8 @@ Result<Bytes> composedFile(const Arguments& arguments, const Wish& wish, const I
   }
   if (!base) return Error(ErrorKind::NotFound, "there is no folder picture to draw on; give one with --base");
   const Image icon = TRY(composeIcon(TRY(wish.lookFor([&] { return outputName(out); })), *base));
-  if (isIcnsName(out)) return TRY(IconFamily::iconFamilyWithThumbnailsOfImage(icon)).data();
-  return encodePng(icon.rendered(arguments.pixels, arguments.pixels));
+  // That the name has an ending that we write was seen to with the arguments.
+  return encodePicture(icon, pictureKindOf(out).value_or(PictureKind::Png), arguments.pixels, arguments.jpeg);
 }
 
 /// The wish as the look file at a path may hold it.
@@ -132,9 +130,7 @@ Result<void> writeOutputFile(const std::filesystem::path& path, ByteView bytes) 
         std::fwrite(bytes.data(), 1, bytes.size(), stdout) == bytes.size() && std::fflush(stdout) == 0;
     return isWritten ? Result<void>() : Error::system(errno, "cannot write to standard output");
   }
-  Folder folder = TRY(Folder::open(path.has_parent_path() ? path.parent_path() : ".", Folder::Access::Write));
-  TRY_VOID(folder.writeFile(path.filename().string(), bytes));
-  return {};
+  return writePlainFile(path, bytes);
 }
 
 void runRender(const Arguments& arguments, const IconServices& services, Reporter& reporter) {

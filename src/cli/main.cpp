@@ -15,6 +15,8 @@
 #include "cli/Terminal.h"
 #include "cli/Thumbnail.h"
 #include "iconfamily/AppleDoubleForkStore.h"
+#include "iconfamily/FamilyPicture.h"
+#include "imaging/Image.h"
 #include "system/FileManagerNotices.h"
 #include "system/FolderMarks.h"
 #include "system/KindIcons.h"
@@ -120,6 +122,7 @@ int main(int argc, char** argv) {
   }
   watchSignals();
 
+  Image::registerReader(familyPictureReader());
   AppleDoubleForkStore forks;
   const auto kinds = makeDesktopKindIcons();
   StampingNotices notices;

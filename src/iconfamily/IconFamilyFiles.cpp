@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Where icon families come from and go to besides images: files, and the icons that are shown for things.
 #include "foundation/FileReading.h"
-#include "foundation/Folder.h"
+#include "foundation/FileWriting.h"
 #include "foundation/base/Limits.h"
 #include "iconfamily/CustomIcon.h"
 #include "iconfamily/IconFamily.h"
@@ -38,10 +38,7 @@ Result<IconFamily> IconFamily::iconFamilyWithSystemIcon(FourCharCode type, const
 }
 
 Result<void> IconFamily::writeToFile(const std::filesystem::path& path) const {
-  const auto parent = path.has_parent_path() ? path.parent_path() : std::filesystem::path(".");
-  Folder folder = TRY(Folder::open(parent, Folder::Access::Write));
-  TRY_VOID(folder.writeFile(path.filename().string(), hIconFamily));
-  return {};
+  return writePlainFile(path, hIconFamily);
 }
 
 }  // namespace quorvane

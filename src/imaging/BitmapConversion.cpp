@@ -6,6 +6,7 @@
 #include <cstring>
 
 #include "imaging/BitmapImageRep.h"
+#include "imaging/ColorTransform.h"
 #include "imaging/Premultiply.h"
 
 namespace quorvane {
@@ -72,6 +73,29 @@ void convertRow(const SampleReader& reader, const BitmapLayout& layout, const st
   }
 }
 
+/// Through the profile that the picture carries. `picture` is RGBA8888 or RGBA64, `bitmap` standard and of its size.
+void convertRows(const QImage& picture, const QByteArray& profile, BitmapImageRep& bitmap) {
+  const auto bytes = ByteView(reinterpret_cast<const std::uint8_t*>(profile.constData()), profile.size());
+  // Grey pictures come as colours too; their profile, whose space stands behind 16 bytes, knows but the one sample.
+  const bool isGrey = profile.mid(16, 4) == "GRAY";
+  const bool isDeep = picture.format() == QImage::Format_RGBA64;
+  const PixelFormat format{isGrey ? ColorModel::Grey : ColorModel::Rgb, isDeep ? 16 : 8, true};
+  const ColorTransform transform(format, bytes);
+  const auto sampleBytes = static_cast<std::size_t>(format.bitsPerSample / 8);
+  const int width = picture.width();
+  Bytes grey(isGrey ? static_cast<std::size_t>(width) * 2 * sampleBytes : 0);
+  Bytes row(static_cast<std::size_t>(width) * 4);
+  for (int y = 0; y < picture.height(); ++y) {
+    const std::uint8_t* from = picture.constScanLine(y);
+    for (std::size_t x = 0; isGrey && x < static_cast<std::size_t>(width); ++x) {
+      std::memcpy(grey.data() + x * 2 * sampleBytes, from + x * 4 * sampleBytes, sampleBytes);
+      std::memcpy(grey.data() + (x * 2 + 1) * sampleBytes, from + (x * 4 + 3) * sampleBytes, sampleBytes);
+    }
+    transform.convert(isGrey ? grey.data() : from, row.data(), width);
+    premultiplyRow(row.data(), bitmap.mutableRow(y), width);
+  }
+}
+
 }  // namespace
 
 BitmapImageRep BitmapImageRep::toStandard() const {
@@ -108,12 +132,15 @@ std::optional<BitmapImageRep> BitmapImageRep::bitmapImageRepWithCGImageRef(const
   auto bitmap = bitmapImageRepWithLayout(BitmapLayout::rgba(image.width(), image.height()));
   if (!bitmap) return std::nullopt;
 
-  QImage picture = image;
   const QColorSpace space = image.colorSpace();
-  if (space.isValid() && space != QColorSpace(QColorSpace::SRgb)) {
+  const QByteArray profile = space == QColorSpace(QColorSpace::SRgb) ? QByteArray() : space.iccProfile();
+  QImage picture = image;
+  if (!profile.isEmpty()) {
     // Palettes and grey levels are converted as plain colours, deep samples without losing their depth first.
-    picture.convertTo(image.depth() > 32 ? QImage::Format_RGBA64 : QImage::Format_ARGB32);
-    picture.convertToColorSpace(QColorSpace(QColorSpace::SRgb));
+    picture.convertTo(image.depth() > 32 ? QImage::Format_RGBA64 : QImage::Format_RGBA8888);
+    if (picture.isNull()) return std::nullopt;
+    convertRows(picture, profile, *bitmap);
+    return bitmap;
   }
   picture.convertTo(QImage::Format_RGBA8888_Premultiplied);
   if (picture.isNull()) return std::nullopt;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "imaging/Image.h"
 
+#include <QString>
 #include <algorithm>
 #include <mutex>
 
@@ -103,6 +104,16 @@ Size Image::largestPixelSize() const {
     if (size.width * size.height > largest.width * largest.height) largest = size;
   }
   return largest;
+}
+
+std::string Image::sizeInfo() const {
+  const auto number = [](float value) { return QString::number(value); };
+  const auto text = [&](Size size) { return QStringLiteral("{%1, %2}").arg(number(size.width), number(size.height)); };
+  const BitmapImageRep bitmap = bitmapRepresentation().value_or(BitmapImageRep());
+  return QStringLiteral("image size=%1  rep size=%2  pixelsWide=%3")
+      .arg(text(_size), text(bitmap.size()))
+      .arg(bitmap.pixelsWide())
+      .toStdString();
 }
 
 BitmapImageRep Image::rendered(int pixelsWide, int pixelsHigh, ImageInterpolation interpolation) const {

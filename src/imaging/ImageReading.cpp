@@ -1,28 +1,25 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include <QBuffer>
-#include <QImageReader>
 #include <algorithm>
+#include <mutex>
 #include <string_view>
+#include <utility>
 
 #include "foundation/FileReading.h"
 #include "foundation/base/ByteReader.h"
 #include "foundation/base/Limits.h"
 #include "imaging/Image.h"
+#include "imaging/InstalledReaders.h"
 #include "imaging/Jpeg2000.h"
+#include "imaging/JpegHeader.h"
+#include "imaging/JpegInks.h"
+#include "imaging/Orientation.h"
 #include "imaging/PngCodec.h"
-#include "imaging/SvgCheck.h"
+#include "imaging/Psd.h"
+#include "imaging/TiffInks.h"
 
 namespace quorvane {
 
 namespace {
-
-/// A vector picture has no pixels of its own; it is drawn with as many on its longer side as the largest icon has.
-constexpr int vectorPixels = 1024;
-
-Error tooManyPixels(QSize size) {
-  return Error::tooLarge("picture of " + std::to_string(size.width()) + " x " + std::to_string(size.height()) +
-                         " pixels");
-}
 
 /// True when a chunk before the pixels says that the colours are not sRGB; our own decoder knows no other.
 bool hasForeignColors(ByteView png) {
@@ -45,63 +42,99 @@ bool hasForeignColors(ByteView png) {
   return isForeign;
 }
 
-Result<BitmapImageRep> readWithInstalledReaders(ByteView bytes) {
-  QByteArray view =
-      QByteArray::fromRawData(reinterpret_cast<const char*>(bytes.data()), static_cast<qsizetype>(bytes.size()));
-  QBuffer buffer(&view);
-  buffer.open(QIODevice::ReadOnly);
-  // The readers' own ceiling, in MiB: our largest picture with 16 bits a sample.
-  QImageReader::setAllocationLimit(static_cast<int>((limits::pictureArea * 8) >> 20) + 1);
-  QImageReader reader;
-  reader.setDecideFormatFromContent(true);
-  reader.setAutoTransform(true);
-  reader.setDevice(&buffer);
-
-  const QByteArray format = reader.format();
-  if (format.isEmpty() && buffer.data().startsWith("8BPS"))
-    return Error::invalidInput("layered pictures (PSD) are not read; save it as PNG or TIFF");
-  if (format.isEmpty()) return Error::invalidInput("not a picture that can be read");
-  // Icon families are read by a decoder of ours, elsewhere: this one takes wrong colours for right ones.
-  if (format == "icns") return Error::invalidInput("an icon family, not a picture");
-  if (format == "svgz") return Error::invalidInput("compressed vector pictures are not read");
-  // Asking a vector picture for its size already follows its references.
-  if (format == "svg") TRY_VOID(checkSvg(bytes));
-  if (format == "png") TRY_VOID(checkPngData(bytes));
-  QSize size = reader.size();
-  if (format == "svg") {
-    if (size.isEmpty()) size = QSize(1, 1);
-    size = size.scaled(vectorPixels, vectorPixels, Qt::KeepAspectRatio).expandedTo(QSize(1, 1));
-    reader.setScaledSize(size);
+/// Readers that other modules have brought along.
+class Registry {
+ public:
+  void add(ImageReader reader) {
+    const std::lock_guard lock(_mutex);
+    const auto isSame = [&](const ImageReader& other) { return other.read == reader.read; };
+    if (std::ranges::none_of(_readers, isSame)) _readers.push_back(std::move(reader));
   }
-  if (size.isValid() && (size.width() > limits::picturePixels || size.height() > limits::picturePixels ||
-                         std::int64_t{size.width()} * size.height() > limits::pictureArea))
-    return tooManyPixels(size);
+  std::vector<ImageReader> readers() {
+    const std::lock_guard lock(_mutex);
+    return _readers;
+  }
 
-  const QImage image = reader.read();
-  if (image.isNull()) return Error::invalidInput(reader.errorString().toStdString());
-  auto bitmap = BitmapImageRep::bitmapImageRepWithCGImageRef(image);
-  if (!bitmap) return tooManyPixels(image.size());
-  return std::move(*bitmap);
+ private:
+  std::mutex _mutex;
+  std::vector<ImageReader> _readers;
+};
+
+Registry& registry() {
+  static Registry only;
+  return only;
 }
 
-Result<BitmapImageRep> readBitmap(ByteView bytes) {
+Result<BitmapImageRep> readJpeg(ByteView bytes) {
+  const JpegHeader header = TRY(readJpegHeader(bytes));
+  if (header.components != 4) return readWithInstalledReaders(bytes, PictureChoice::First);
+  return uprightBitmap(TRY(decodeInkJpeg(bytes)).toStandard(), exifOrientation(bytes));
+}
+
+Result<BitmapImageRep> readBitmap(ByteView bytes, PictureChoice choice) {
   if (bytes.empty()) return Error::invalidInput("file is empty");
-  if (isPng(bytes) && !hasForeignColors(bytes)) return TRY(decodePng(bytes, limits::picturePixels)).toStandard();
   if (isJpeg2000(bytes)) return TRY(decodeJpeg2000(bytes, limits::picturePixels)).toStandard();
-  return readWithInstalledReaders(bytes);
+  if (isPsd(bytes)) return TRY(decodePsd(bytes)).toStandard();
+  if (isJpeg(bytes)) return readJpeg(bytes);
+  if (isInkTiff(bytes)) return TRY(decodeInkTiff(bytes)).toStandard();
+  const bool isOurs = isPng(bytes) && !hasForeignColors(bytes);
+  const BitmapImageRep bitmap =
+      isOurs ? TRY(decodePng(bytes, limits::picturePixels)).toStandard() : TRY(readWithInstalledReaders(bytes, choice));
+  // The installed readers turn all but these upright.
+  return uprightBitmap(bitmap, exifOrientation(bytes));
+}
+
+Result<Image> readImage(ByteView bytes, PictureChoice choice) {
+  for (const ImageReader& reader : registry().readers())
+    if (reader.canRead(bytes)) return reader.read(bytes);
+  return Image::imageWithBitmapImageRep(TRY(readBitmap(bytes, choice)));
+}
+
+Result<Image> readImageFile(const std::filesystem::path& path, PictureChoice choice) {
+  const Bytes bytes = TRY(readPlainFile(path, limits::pictureFileBytes));
+  auto image = readImage(bytes, choice);
+  if (!image) return image.error().at(path);
+  return image;
 }
 
 }  // namespace
 
 Result<Image> Image::imageWithData(ByteView bytes) {
-  return imageWithBitmapImageRep(TRY(readBitmap(bytes)));
+  return readImage(bytes, PictureChoice::Best);
 }
 
 Result<Image> Image::imageWithContentsOfFile(const std::filesystem::path& path) {
-  const Bytes bytes = TRY(readPlainFile(path, limits::pictureFileBytes));
-  auto image = imageWithData(bytes);
-  if (!image) return image.error().at(path);
-  return image;
+  return readImageFile(path, PictureChoice::Best);
+}
+
+std::optional<Image> Image::initWithCGImageRef(const QImage& image) {
+  const auto bitmap = BitmapImageRep::bitmapImageRepWithCGImageRef(image);
+  if (!bitmap) return std::nullopt;
+  return imageWithBitmapImageRep(*bitmap);
+}
+
+std::optional<Image> Image::initWithContentsOfFile(const std::filesystem::path& path, bool usingImageIO) {
+  auto image = readImageFile(path, usingImageIO ? PictureChoice::First : PictureChoice::Best);
+  if (!image) return std::nullopt;
+  if (!usingImageIO) return std::move(*image);
+  const auto bitmap = image->bitmapRepresentation();
+  return bitmap ? initWithCGImageRef(bitmap->toImage()) : std::nullopt;
+}
+
+void Image::registerReader(ImageReader reader) {
+  registry().add(std::move(reader));
+}
+
+std::vector<std::string> Image::imageFileTypes() {
+  // PNG's own name for its animations; the names of JPEG 2000 files and codestreams; layered pictures.
+  std::vector<std::string> types = {"apng", "png", "jp2", "jpf", "jpx", "j2k", "j2c", "jpc", "psd", "psb"};
+  const auto add = [&](const std::vector<std::string>& more) { types.insert(types.end(), more.begin(), more.end()); };
+  add(installedFileTypes());
+  for (const ImageReader& reader : registry().readers()) add(reader.fileTypes);
+  std::ranges::sort(types);
+  const auto repeated = std::ranges::unique(types);
+  types.erase(repeated.begin(), repeated.end());
+  return types;
 }
 
 std::optional<BitmapImageRep> BitmapImageRep::bitmapImageRepWithContentsOfFile(const std::filesystem::path& path) {

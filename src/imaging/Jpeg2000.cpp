@@ -9,6 +9,7 @@
 #include <memory>
 #include <string>
 
+#include "imaging/ColorTransform.h"
 #include "imaging/Jpeg2000Header.h"
 #include "imaging/Premultiply.h"
 
@@ -155,33 +156,45 @@ Result<BitmapImageRep> makeBitmap(const opj_image_t& image, PixelSize size) {
         component.h != static_cast<OPJ_UINT32>(size.height) || component.prec < 1 || component.prec > 16)
       return Error::invalidInput("JPEG 2000 picture has unusable components");
   }
-  if (image.color_space == OPJ_CLRSPC_CMYK || image.color_space == OPJ_CLRSPC_EYCC)
+  // For Lab the library hands over its parameters as a profile without a length.
+  const bool isLab = image.icc_profile_buf != nullptr && image.icc_profile_len == 0;
+  if (image.color_space == OPJ_CLRSPC_EYCC || isLab)
     return Error::invalidInput("JPEG 2000 picture is in a colour space that is not read");
+  const bool isInk = image.color_space == OPJ_CLRSPC_CMYK && image.numcomps == 4;
 
-  const int alphaIndex = alphaComponent(image);
+  const int alphaIndex = isInk ? -1 : alphaComponent(image);
   std::array<Channel, 4> channels;
-  int colors = 0;
+  std::size_t colors = 0;
   for (int i = 0; i < static_cast<int>(image.numcomps); ++i)
-    if (i != alphaIndex && colors < 3) channels[static_cast<std::size_t>(colors++)] = Channel(image.comps[i]);
+    if (i != alphaIndex && colors < 4) channels[colors++] = Channel(image.comps[i]);
   if (colors == 0) return Error::invalidInput("JPEG 2000 picture has no colour");
-  if (alphaIndex >= 0) channels[3] = Channel(image.comps[alphaIndex]);
-  const bool isColor = colors == 3;
-  const bool isYcc = isColor && image.color_space == OPJ_CLRSPC_SYCC;
+  const bool isYcc = colors == 3 && image.color_space == OPJ_CLRSPC_SYCC;
   const bool isPremultiplied = alphaIndex >= 0 && image.comps[alphaIndex].alpha == 2;
+  const Channel alpha = alphaIndex >= 0 ? Channel(image.comps[alphaIndex]) : Channel();
 
   BitmapLayout layout = BitmapLayout::rgba(size.width, size.height);
   layout.isPremultiplied = false;
   auto bitmap = BitmapImageRep::bitmapImageRepWithLayout(layout);
   if (!bitmap) return Error::tooLarge("JPEG 2000 picture is too large");
-  std::uint8_t* pixel = bitmap->mutableRow(0);
-  const std::size_t count = static_cast<std::size_t>(size.width) * static_cast<std::size_t>(size.height);
-  for (std::size_t i = 0; i < count; ++i, pixel += 4) {
-    for (std::size_t color = 0; color < 3; ++color)
-      pixel[color] = static_cast<std::uint8_t>(channels[isColor ? color : 0].at(i));
-    pixel[3] = alphaIndex >= 0 ? static_cast<std::uint8_t>(channels[3].at(i)) : std::uint8_t{255};
-    if (isYcc) convertFromYcc(pixel);
-    if (isPremultiplied)
-      for (int color = 0; color < 3; ++color) pixel[color] = unpremultiplied(pixel[color], pixel[3]);
+  const ColorModel model = isInk ? ColorModel::Cmyk : colors >= 3 ? ColorModel::Rgb : ColorModel::Grey;
+  const PixelFormat format{model, 8, alphaIndex >= 0};
+  const ColorTransform transform(format, isYcc ? ByteView() : ByteView(image.icc_profile_buf, image.icc_profile_len));
+  Bytes row(static_cast<std::size_t>(size.width) * static_cast<std::size_t>(format.samples()));
+  std::size_t index = 0;
+  for (int y = 0; y < size.height; ++y) {
+    std::uint8_t* pixel = row.data();
+    for (int x = 0; x < size.width; ++x, ++index, pixel += format.samples()) {
+      for (int color = 0; color < format.colors(); ++color) {
+        const unsigned value = channels[static_cast<std::size_t>(color)].at(index);
+        pixel[color] = static_cast<std::uint8_t>(isInk ? 255 - value : value);
+      }
+      if (isYcc) convertFromYcc(pixel);
+      if (!format.hasAlpha) continue;
+      pixel[format.colors()] = static_cast<std::uint8_t>(alpha.at(index));
+      for (int color = 0; isPremultiplied && color < format.colors(); ++color)
+        pixel[color] = unpremultiplied(pixel[color], pixel[format.colors()]);
+    }
+    transform.convert(row.data(), bitmap->mutableRow(y), size.width);
   }
   return std::move(*bitmap);
 }

@@ -10,7 +10,8 @@ namespace quorvane {
 /// True for a JPEG 2000 file (boxes) or a bare codestream.
 bool isJpeg2000(ByteView bytes);
 
-/// Decodes to 8-bit RGBA, not premultiplied: 1 (grey), 2 (grey, alpha), 3 or 4 components of equal size, 1 to 16 bits.
+/// Decodes to 8-bit RGBA in sRGB, not premultiplied: 1 (grey), 2 (grey, alpha), 3 or 4 components (the fourth alpha or
+/// black ink) of equal size, 1 to 16 bits, or a palette. Through the file's colour profile, if it has one.
 /// Sizes and components are checked after the header, before decoding.
 Result<BitmapImageRep> decodeJpeg2000(ByteView bytes, int maxPixels);
 

@@ -73,6 +73,20 @@ TEST(Arguments, NameWhereManyFoldersAndTheirLookComeFrom) {
   EXPECT_EQ(parse({"render", "--save-look", "x", "o.png"}).arguments.savedLook, "x");
 }
 
+TEST(Arguments, TheEndingOfARenderedFileSaysWhatItIs) {
+  using enum PictureKind;
+  const std::pair<const char*, std::optional<PictureKind>> rows[] = {{"-", Png},           {"a", Png},
+                                                                     {"a.png", Png},       {"A.JPG", Jpeg},
+                                                                     {"a.jpeg", Jpeg},     {"a.tif", Tiff},
+                                                                     {"a.tiff", Tiff},     {"b.png/a.gif", Gif},
+                                                                     {"b.gif/a", Png},     {"a.icns", IconFamily},
+                                                                     {"a.", std::nullopt}, {"a.bmp", std::nullopt}};
+  for (const auto& [name, kind] : rows) EXPECT_EQ(pictureKindOf(name), kind) << name;
+  const auto outcome = parse({"render", "--quality", "70", "--max-size", "40", "a.jpg"});
+  EXPECT_EQ(outcome.arguments.jpeg.quality, 70);
+  EXPECT_EQ(outcome.arguments.jpeg.limit.bytes().value, 40960U);
+}
+
 TEST(Arguments, WrongUseSaysWhatAndEndsWithTwo) {
   struct Row {
     std::vector<std::string> words;
@@ -95,6 +109,11 @@ TEST(Arguments, WrongUseSaysWhatAndEndsWithTwo) {
            Row{{"render", "a.png", "b.png"}, "not 'b.png'"},
            Row{{"icns"}, ""},
            Row{{"render", "--pixels", "10.5", "out.png"}, "whole number"},
+           Row{{"render", "out.bmp"}, "'out.bmp' must end in .png"},
+           Row{{"render", "--max-size", "9", "out.png"}, "are for a JPEG"},
+           Row{{"render", "--quality", "90", "-"}, "are for a JPEG"},
+           Row{{"render", "--quality", "0", "out.jpg"}, "--quality takes a whole number from 1 to 100"},
+           Row{{"render", "--max-size", "0.5", "out.jpg"}, "--max-size takes a whole number from 1"},
            Row{{"apply", "--jobs", "0", "x"}, "--jobs takes a whole number from 1 to 64"},
            Row{{"apply", "--from", "a.csv", "--files-from", "b"}, "exclude each other"},
            Row{{"apply", "--from", "a.csv", "x"}, "with --from the folders stand in the table"},

@@ -8,6 +8,7 @@ import unittest
 
 from harsh import APPLY, APPLY_OLD, INSIDE, RESET, REVERT, HarshTest
 from scenarios import foreign, plain
+from support import read
 
 COMMANDS = ((plain, (), APPLY), (foreign, (), APPLY), (foreign, (APPLY_OLD,), APPLY), (foreign, (APPLY_OLD,), REVERT),
             (foreign, (APPLY_OLD,), RESET))
@@ -65,6 +66,25 @@ class ShortageTest(HarshTest):
             self.assertEqual(codes[-1], 0, codes)
             if command != RESET:
                 self.assertEqual(codes[0], 1, codes)
+
+    def test_a_picture_that_finds_no_room_leaves_the_earlier_one(self):
+        disk = self.mounted("tmpfs", "size=2m")
+        for ending in ("png", "jpg", "tif", "gif"):
+            file = os.path.join(disk, "a." + ending)
+            self.expect(0, "render", "--label", "a", "--pixels", "200", file)
+            before = read(file)
+            with open(os.path.join(disk, "filler"), "wb") as filler:
+                free = os.statvfs(disk).f_bavail * os.statvfs(disk).f_frsize
+                os.posix_fallocate(filler.fileno(), 0, free - 4096)
+            with self.subTest(ending=ending):
+                outcome = self.expect(1, "render", "--label", "other", "--pixels", "200", file)
+                self.assert_says(outcome, "a." + ending, "No space left")
+                self.assertEqual(read(file), before)
+                self.assertEqual(sorted(os.listdir(disk)), ["a." + ending, "filler"])
+            os.remove(os.path.join(disk, "filler"))
+            self.expect(0, "render", "--label", "other", "--pixels", "200", file)
+            self.assertNotEqual(read(file), before)
+            os.remove(file)
 
     def test_little_memory(self):
         # Sanitizers reserve more address space than any limit leaves.

@@ -122,7 +122,7 @@ TEST(ImageReading, WhatIsNoPictureFailsWithPathAndReason) {
   const test::TemporaryFolder folder;
   test::writeFile(folder / "empty.png", std::string());
   test::writeFile(folder / "program.png", std::string("#!/bin/sh\nexit 0\n"));
-  test::writeFile(folder / "layers.psd", std::string("8BPS") + std::string(60, '\0'));
+  test::writeFile(folder / "layers.psd", std::string("8BPS\0\1", 6) + std::string(60, '\0'));
   test::writeFile(folder / "family.icns", std::string("icns\0\0\0\x10ICN#\0\0\0\x08", 16));
   test::writeFile(folder / "pixels.ppm", std::string("P6\n30000 30000\n255\n"));
   fs::create_directory(folder / "folder.png");
@@ -133,7 +133,7 @@ TEST(ImageReading, WhatIsNoPictureFailsWithPathAndReason) {
   const std::tuple<const char*, ErrorKind, const char*> rows[] = {
       {"empty.png", ErrorKind::InvalidInput, "empty.png: file is empty"},
       {"program.png", ErrorKind::InvalidInput, "program.png: "},
-      {"layers.psd", ErrorKind::InvalidInput, "PSD"},
+      {"layers.psd", ErrorKind::InvalidInput, "layers.psd: PSD"},
       {"family.icns", ErrorKind::InvalidInput, ""},
       {"pixels.ppm", ErrorKind::TooLarge, "30000 x 30000"},
       {"folder.png", ErrorKind::Refused, ""},

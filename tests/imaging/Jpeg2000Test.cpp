@@ -4,9 +4,12 @@
 #include <gtest/gtest.h>
 #include <openjpeg.h>
 
+#include <QColorSpace>
 #include <algorithm>
 #include <array>
 #include <chrono>
+#include <cmath>
+#include <string_view>
 
 #include "foundation/base/Limits.h"
 #include "support/TemporaryFolder.h"
@@ -158,6 +161,58 @@ Bytes patched(Bytes bytes, std::uint8_t marker, std::size_t offset, const Bytes&
   EXPECT_NE(at, bytes.end());
   std::copy(value.begin(), value.end(), at + static_cast<std::ptrdiff_t>(offset));
   return bytes;
+}
+
+/// The file with its colour box replaced by other boxes.
+Bytes withColorBoxes(Bytes file, const Bytes& boxes) {
+  const auto start = [&](std::string_view type) { return std::ranges::search(file, type).begin() - 4; };
+  const auto header = start("jp2h");
+  const auto color = start("colr");
+  header[3] = static_cast<std::uint8_t>(header[3] - color[3] + int(boxes.size()) % 256);
+  header[2] = static_cast<std::uint8_t>(header[2] + int(boxes.size()) / 256);
+  const auto at = file.erase(color, color + color[3]);
+  file.insert(at, boxes.begin(), boxes.end());
+  return file;
+}
+
+TEST(Jpeg2000, ProfilesPalettesAndInksBecomeOurs) {
+  const int stored = sampleOf({.precisions = {8}}, 0, 3, 2);
+  const QByteArray profile = QColorSpace(QColorSpace::SRgbLinear).iccProfile();
+  Bytes box = {
+      0, 0, std::uint8_t((profile.size() + 11) / 256), std::uint8_t((profile.size() + 11) % 256), 'c', 'o', 'l', 'r', 2,
+      0, 0};
+  box.insert(box.end(), profile.begin(), profile.end());
+  const Bytes linear = withColorBoxes(written({.precisions = {8, 8, 8}}), box);
+  const double light = stored / 255.0;
+  const double shown = 255 * (1.055 * std::pow(light, 1 / 2.4) - 0.055);
+  EXPECT_NEAR(decodeJpeg2000(linear, 4096)->row(2)[3 * 4], shown, 1);
+
+  // Two bits, for which a palette has red, green, blue and a dark grey.
+  const Bytes colors[] = {{255, 0, 0}, {0, 255, 0}, {0, 0, 255}, {9, 8, 7}};
+  Bytes boxes = {0, 0, 0, 15, 'c', 'o', 'l', 'r', 1, 0, 0, 0, 0, 0, 16,  // sRGB
+                 0, 0, 0, 26, 'p', 'c', 'l', 'r', 0, 4, 3, 7, 7, 7};
+  for (const Bytes& color : colors) boxes.insert(boxes.end(), color.begin(), color.end());
+  const Bytes map = {0, 0, 0, 20, 'c', 'm', 'a', 'p', 0, 0, 1, 0, 0, 0, 1, 1, 0, 0, 1, 2};
+  boxes.insert(boxes.end(), map.begin(), map.end());
+  const Form indexed{.precisions = {2}, .space = OPJ_CLRSPC_GRAY};
+  const auto decoded = decodeJpeg2000(withColorBoxes(written(indexed), boxes), 4096);
+  ASSERT_TRUE(decoded.ok()) << decoded.error().message();
+  for (int x = 0; x < indexed.width; ++x) {
+    const Bytes& wanted = colors[sampleOf(indexed, 0, x, 5)];
+    EXPECT_TRUE(std::equal(wanted.begin(), wanted.end(), decoded->row(5) + x * 4)) << x;
+  }
+
+  // Four inks, counted from none.
+  const Form inks{.precisions = {8, 8, 8, 8}};
+  Bytes print = {0, 0, 0, 15, 'c', 'o', 'l', 'r', 1, 0, 0, 0, 0, 0, 12};
+  const auto printed = decodeJpeg2000(withColorBoxes(written(inks), print), 4096);
+  ASSERT_TRUE(printed.ok()) << printed.error().message();
+  const int cyan = sampleOf(inks, 0, 3, 2);
+  const int black = sampleOf(inks, 3, 3, 2);
+  EXPECT_NEAR(printed->row(2)[3 * 4], (255 - cyan) * (255 - black) / 255, 1);
+  EXPECT_EQ(printed->row(2)[3 * 4 + 3], 255);
+  print[14] = 14;  // Lab, which is not read
+  EXPECT_FALSE(decodeJpeg2000(withColorBoxes(written({.precisions = {8, 8, 8}}), print), 4096).ok());
 }
 
 TEST(Jpeg2000, HeadersThatClaimTooMuchOrReadTwoWaysAreRefusedBeforeDecoding) {

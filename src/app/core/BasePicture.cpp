@@ -4,6 +4,7 @@
 #include "foundation/FileReading.h"
 #include "foundation/Folder.h"
 #include "foundation/base/Limits.h"
+#include "iconfamily/FamilyPicture.h"
 #include "iconfamily/IconFamily.h"
 #include "iconfamily/IconFamilyInternals.h"
 
@@ -39,12 +40,7 @@ Result<Bytes> readReferenced(const BaseReference& reference) {
 }
 
 Result<Image> pictureFromBytes(ByteView bytes) {
-  if (!IconFamily::looksLikeFamily(bytes)) return Image::imageWithData(bytes);
-  const IconFamily family = IconFamily::initWithData(bytes);
-  TRY_VOID(family.check());
-  auto image = family.imageWithAllReps();
-  if (!image || !image->bitmapRepresentation()) return Error::invalidInput("the icon family holds no whole picture");
-  return *std::move(image);
+  return IconFamily::looksLikeFamily(bytes) ? readFamilyPicture(bytes) : Image::imageWithData(bytes);
 }
 
 Result<Image> readBasePicture(const BaseReference& reference) {

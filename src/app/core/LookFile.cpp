@@ -10,7 +10,7 @@
 #include "app/core/LabelPattern.h"
 #include "app/core/LookValues.h"
 #include "foundation/FileReading.h"
-#include "foundation/Folder.h"
+#include "foundation/FileWriting.h"
 #include "foundation/base/Limits.h"
 #include "foundation/base/Text.h"
 
@@ -184,11 +184,7 @@ Result<std::filesystem::path> innerReference(const BaseReference& base, const st
 }
 
 Result<void> writeLookFile(const std::filesystem::path& path, const SavedLook& saved) {
-  const Bytes json = TRY(lookToJson(saved));
-  if (!path.has_filename()) return Error::invalidInput("the path names no file").at(path);
-  Folder folder = TRY(Folder::open(path.has_parent_path() ? path.parent_path() : ".", Folder::Access::Write));
-  TRY_VOID(folder.writeFile(path.filename().string(), json));
-  return {};
+  return writePlainFile(path, TRY(lookToJson(saved)));
 }
 
 }  // namespace quorvane

@@ -64,8 +64,25 @@ inline constexpr std::int64_t jpeg2000Packets = 1 << 22;
 /// Elements of a vector picture, with everything that is drawn again by reference; and how deep they may nest.
 inline constexpr std::int64_t svgElements = 200'000;
 inline constexpr int svgDepth = 256;
+/// Scans of one JPEG picture: progressive ones have about a dozen.
+inline constexpr int jpegScans = 200;
+/// Longest colour profile that is honoured; those of printing presses have up to about 4 MiB.
+inline constexpr std::size_t profileBytes = std::size_t{16} << 20;
+/// Channels of a layered picture (PSD), and blocks of its resources and of what goes with its layers that are looked
+/// at.
+inline constexpr int psdChannels = 56;
+inline constexpr std::size_t psdBlocks = 4096;
 /// Longest picture file.
 inline constexpr std::size_t pictureFileBytes = std::size_t{512} << 20;
+
+/// All values of one picture's metadata together, and the directories of a TIFF file that are looked into; a long
+/// history of edits reaches some MiB. A directory has 256 entries at most: that is how far the library reads.
+inline constexpr std::uint64_t metadataBytes = std::uint64_t{16} << 20;
+inline constexpr std::size_t metadataDirectories = 64;
+inline constexpr std::size_t metadataEntries = 256;
+
+/// Longest TIFF file that is written: its offsets reach 4 GiB, other readers' often half of that.
+inline constexpr std::uint64_t writtenTiffBytes = (std::uint64_t{1} << 31) - 1;
 
 /// Longest label in bytes and lines; each costs layout time.
 inline constexpr std::size_t labelBytes = 64 * 1024;

@@ -1,0 +1,20 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "foundation/base/Bytes.h"
+#include "foundation/base/Result.h"
+#include "imaging/BitmapImageRep.h"
+
+namespace quorvane {
+
+/// Keeps the TIFF library, ours and the installed readers', from writing to standard error by itself.
+void silenceTiffMessages();
+
+/// True when the first picture of a TIFF file is of four inks (CMYK), 8 or 16 bits, in strips.
+bool isInkTiff(ByteView bytes);
+
+/// Decodes such a picture to 8-bit RGBA in sRGB, not premultiplied, through the file's profile and upright. The size is
+/// checked before anything is allocated.
+Result<BitmapImageRep> decodeInkTiff(ByteView bytes);
+
+}  // namespace quorvane
