@@ -27,11 +27,14 @@ using namespace quorvane;
 using namespace quorvane::cli;
 
 /// Hands over to the window program beside this one; returns only when that cannot be.
-int startWindow(char** argv) {
+void startWindow(char** argv) {
   std::error_code error;
   const auto self = std::filesystem::read_symlink("/proc/self/exe", error);
   const std::string window = (self.parent_path() / "quorvane-window").string();
   if (!error) ::execv(window.c_str(), argv);
+}
+
+int complainOfUse(char** argv) {
   if (argv[1] == nullptr) {
     std::fputs("Use: quorvane COMMAND ...\nTry 'quorvane --help'.\n", stderr);
   } else {
@@ -43,10 +46,19 @@ int startWindow(char** argv) {
   return exitWrongUse;
 }
 
+/// An option or a command; all else is for the window, or wrong.
+bool isForProgram(std::string_view first) {
+  return first.starts_with("-") || std::ranges::find(commandWords(), first) != commandWords().end();
+}
+
 bool isForWindow(int argc, char** argv) {
   if (argc < 2) return true;
   const std::string_view first = argv[1];
-  return !first.starts_with("-") && std::ranges::find(commandWords(), first) == commandWords().end();
+  if (isForProgram(first)) return false;
+  // Any other single word that names nothing is a command that was mistyped.
+  std::error_code error;
+  return first.find('/') != std::string_view::npos || first.starts_with("file:") ||
+         std::filesystem::exists(std::filesystem::symlink_status(first, error));
 }
 
 /// The exit code of a run whose results may not have reached standard output: no success then. A closed pipe is the
@@ -87,7 +99,8 @@ std::unique_ptr<QGuiApplication> makeGuiApplication(int& argc, char** argv) {
 
 int main(int argc, char** argv) {
   if (isThumbnailCall(argc, argv)) return writeThumbnail(argv, AppleDoubleForkStore());
-  if (isForWindow(argc, argv)) return startWindow(argv);
+  if (isForWindow(argc, argv)) startWindow(argv);
+  if (argc < 2 || !isForProgram(argv[1])) return complainOfUse(argv);
   const auto parsed = parseArguments(argc, argv);
   if (const auto* finished = std::get_if<Finished>(&parsed)) return codeAfterOutput(finished->exitCode);
   const auto& arguments = std::get<Arguments>(parsed);

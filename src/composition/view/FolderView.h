@@ -52,6 +52,8 @@ class FolderView : public ImageView {
   [[nodiscard]] std::optional<Image> iconImage() const { return _composition.iconImage(); }
   void reset() { _composition.reset(); }
   [[nodiscard]] const IconComposition& composition() const { return _composition; }
+  /// For what edits several values at once, undo for instance; this view stays its listener.
+  [[nodiscard]] IconComposition& composition() { return _composition; }
 
   /// nullopt shows the placeholder "DropFolderHere" instead. Sets the tool tip as well.
   void setImage(std::optional<Image> image) override;

@@ -1,0 +1,149 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Making the controller, its start and its end.
+#include "app/AppController.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QEventLoop>
+#include <QFile>
+#include <QPushButton>
+
+#include "app/BaseColumn.h"
+#include "app/BusyIndicator.h"
+#include "app/MainMenu.h"
+#include "app/NoticeLabel.h"
+#include "app/QVWindow.h"
+#include "app/core/EditHistory.h"
+#include "app/core/FolderWork.h"
+#include "app/core/SettingsTable.h"
+#include "composition/view/DroppedFolder.h"
+#include "composition/view/FolderView.h"
+#include "composition/view/ImageView.h"
+#include "composition/view/PreviewStrip.h"
+#include "foundation/UserDefaults.h"
+#include "ui/HVTableView.h"
+#include "ui/PopUpButton.h"
+#include "ui/Slider.h"
+
+namespace quorvane {
+
+namespace {
+
+/// Short enough not to be felt; most folders have answered by then.
+constexpr int briefly = 100;
+/// A disk that takes longer at the end of the program will hardly answer at all.
+constexpr std::chrono::seconds patienceAtEnd{30};
+
+std::weak_ptr<AppController>& shared() {
+  static std::weak_ptr<AppController> controller;
+  return controller;
+}
+
+}  // namespace
+
+std::shared_ptr<AppController> AppController::init(const AppServices& services) {
+  if (auto controller = sharedController()) return controller;
+  std::shared_ptr<AppController> controller(new AppController(services));
+  shared() = controller;
+  services.defaults.registerDefaults(settings::factoryDefaults());
+  return controller;
+}
+
+std::shared_ptr<AppController> AppController::sharedController() {
+  return shared().lock();
+}
+
+AppController::AppController(const AppServices& services) : _services(services) {
+  _busyTimer.setSingleShot(true);
+  _busyTimer.setInterval(briefly);
+  connect(&_busyTimer, &QTimer::timeout, this, [this] {
+    _focusBeforeWork = _mainWindow->focusWidget();
+    _mainWindow->centralWidget()->setEnabled(false);
+    _busyIndicator->begin(_busyWords);
+    Q_EMIT stateChanged();
+  });
+}
+
+AppController::~AppController() = default;
+
+void AppController::setOutlets(const Outlets& outlets) {
+  static_cast<Outlets&>(*this) = outlets;
+  _history = std::make_unique<EditHistory>(_folderView->composition());
+  _history->setListener([this] { Q_EMIT stateChanged(); });
+  _mainWindow->setDelegate(this);
+  _labelTF->setDelegate(this);
+  _connectControls();
+}
+
+void AppController::awakeFromNib() {
+  const bool isRemembered = _mainWindow->setFrameAutosaveName(settings::mainWindowAutosaveName);
+  if (!isRemembered || settings::value(_services.defaults, settings::launchCount) == 0) _mainWindow->center();
+  setPath(std::nullopt);
+}
+
+void AppController::applicationDidFinishLaunching() {
+  _initColorPanel();
+  _initFontPanel();
+  _folderView->setImage(std::nullopt);
+  _folderView->setLineSpacing(static_cast<float>(_lineSpacingSlider->value()));
+  _effectPopUp->setAutoenablesItems(false);
+  for (int item = 0; item < _effectPopUp->count(); ++item)
+    _effectPopUp->setItemEnabled(item, _effectPopUp->tagAt(item) >= 0);
+  _services.defaults.incrementIntegerForKey(settings::launchCount.name);
+  _history->clear();
+  _appInitialized = true;
+  Q_EMIT stateChanged();
+}
+
+void AppController::applicationWillTerminate() {
+  _services.work.finish(patienceAtEnd);
+  static_cast<void>(_services.defaults.synchronize());
+}
+
+bool AppController::windowShouldClose(HVWindow& window) {
+  if (&window == _mainWindow) Q_EMIT terminateRequested();
+  return true;
+}
+
+void AppController::_notice(const QString& words) {
+  _noticeLabel->notice(words);
+}
+
+void AppController::_beginWork(const QString& words) {
+  _busyWords = words;
+  if (_busyCount++ == 0) _busyTimer.start();
+  Q_EMIT stateChanged();
+}
+
+void AppController::_endWork() {
+  if (--_busyCount > 0) return;
+  _busyTimer.stop();
+  if (!_mainWindow->centralWidget()->isEnabled()) {
+    _mainWindow->centralWidget()->setEnabled(true);
+    if (_focusBeforeWork) _focusBeforeWork->setFocus();
+  }
+  _busyIndicator->end();
+  Q_EMIT stateChanged();
+}
+
+void AppController::_waitBriefly(const std::function<bool()>& done) {
+  if (done()) return;
+  QEventLoop loop;
+  QTimer end;
+  end.setSingleShot(true);
+  connect(&end, &QTimer::timeout, &loop, &QEventLoop::quit);
+  end.start(briefly);
+  while (!done() && end.isActive())
+    loop.processEvents(QEventLoop::ExcludeUserInputEvents | QEventLoop::WaitForMoreEvents);
+}
+
+QString abbreviatedPath(const std::filesystem::path& path) {
+  const QString whole = QFile::decodeName(path.c_str());
+  const QString home = QDir::homePath();
+  if (whole == home) return QStringLiteral("~");
+  if (home != QLatin1String("/") && whole.startsWith(home + QLatin1Char('/')))
+    return QLatin1Char('~') + whole.mid(home.size());
+  return whole;
+}
+
+}  // namespace quorvane

@@ -1,0 +1,188 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QColor>
+#include <QObject>
+#include <QPointer>
+#include <QTimer>
+#include <filesystem>
+#include <functional>
+#include <memory>
+#include <optional>
+#include <vector>
+
+#include "app/AppServices.h"
+#include "app/Outlets.h"
+#include "composition/core/LabelValues.h"
+#include "foundation/base/Result.h"
+#include "imaging/Image.h"
+#include "ui/LabelTextField.h"
+#include "ui/WindowDelegate.h"
+
+class QAction;
+
+namespace quorvane {
+
+class EditHistory;
+enum class MenuCommand;
+struct BrandingResult;
+struct LoadedFolder;
+struct BaseReference;
+
+/// The one controller of the window: takes a folder in, lets its icon be edited, writes it, puts the old one back. One
+/// folder at a time; opening another replaces it.
+///
+/// What touches folders is done by FolderWork. Its answer is waited for a moment, without taking in what the user does;
+/// from then on the window goes on painting, with its controls disabled, until the answer comes.
+class AppController : public QObject, public HVWindowDelegate, public LabelTextFieldDelegate, private Outlets {
+  Q_OBJECT
+ public:
+  using Path = std::filesystem::path;
+
+  /// The shared controller: made by the first call, and given again by later ones for as long as anybody holds it.
+  static std::shared_ptr<AppController> init(const AppServices& services);
+  /// Null before the first init().
+  static std::shared_ptr<AppController> sharedController();
+  ~AppController() override;
+
+  /// Joins the window's parts to their actions; once, before all else.
+  void setOutlets(const Outlets& outlets);
+  [[nodiscard]] const Outlets& outlets() const { return *this; }
+  [[nodiscard]] QVWindow* mainWindow() const { return _mainWindow; }
+
+  // Life. In this order.
+  void awakeFromNib();
+  void applicationDidFinishLaunching();
+  /// Saves what is kept over runs and waits, for a bounded time, for what is being written.
+  void applicationWillTerminate();
+  [[nodiscard]] bool isInitialized() const { return _appInitialized; }
+
+  // The folder.
+  void open();
+  /// False for what is no folder, and before the launch is over: then it is opened later.
+  bool applicationOpenFile(const Path& path);
+  void _openFile(const Path& path) { applicationOpenFile(path); }
+  /// Makes a folder the current one. nullopt: none; the canvas, the tables and the drawer are left alone.
+  void setPath(const std::optional<Path>& path);
+  [[nodiscard]] const std::optional<Path>& path() const { return _path; }
+  void _setOrigIcon(const std::optional<Image>& image);
+  void apply();
+  void revert();
+  /// There is something to apply.
+  [[nodiscard]] bool _isIconModified() const;
+  void closeFolder();
+  void showFirstStep(QWidget* sender);
+  /// Counts a successful apply.
+  void incrementUsageCount();
+  /// Whether the answer to something that touches the folder is still to come.
+  [[nodiscard]] bool isBusy() const { return _busyCount > 0; }
+
+  // Editing. Actions take the control that sends them.
+  void setColor(const QColor& color);
+  void setFontSize(Slider& sender);
+  void setFont(const LabelFont& font);
+  void showFont(QPushButton& sender);
+  void setLineSpacing(Slider& sender);
+  void setEffect(PopUpButton& sender);
+  void _setEffect(int tag);
+  void setShearFactor(Slider& sender);
+  void setRotation(Slider& sender);
+  void setOpacity(Slider& sender);
+  void resetTransform();
+  void setBaseIcon(const std::optional<Image>& image);
+  void setLabel(const std::optional<QString>& label);
+  void setIgnoreChangeColor(bool ignore) { _ignoreChangeColor = ignore; }
+  void _initColorPanel();
+  void _initFontPanel();
+  void centerLabel();
+  void undo();
+  void redo();
+  // Looks. They need a store.
+  void saveLook();
+  void manageLooks();
+  /// Everything but what the label says, as one step.
+  void applyLook(const QString& name);
+
+  /// Any picture file as the base icon; without a folder the first step is shown.
+  void chooseBasePicture();
+  void setBasePicture(const Path& path);
+
+  // Menus.
+  [[nodiscard]] bool validateMenuItem(MenuCommand command) const;
+  /// Does what a menu item stands for.
+  void perform(MenuCommand command);
+  void help(int tag);
+  void pasteFolderPath();
+  void showInFileManager();
+  [[nodiscard]] EditHistory& history() { return *_history; }
+
+  // LabelTextFieldDelegate
+  void showFirstStep(LabelTextField& field) override;
+  void controlTextDidChange(LabelTextField& field) override;
+  bool controlTextViewDoCommandBySelector(LabelTextField& control, LabelTextField& textView,
+                                          TextCommand command) override;
+  // HVWindowDelegate
+  bool windowShouldClose(HVWindow& window) override;
+  /// Of the shared font panel: the font button goes off.
+  void fontPanelWillClose();
+
+ Q_SIGNALS:
+  /// Whatever menus and such show may have changed.
+  void stateChanged();
+  /// So many applies have succeeded by now.
+  void usageCounted(qint64 count);
+  /// The main window closes: the application ends.
+  void terminateRequested();
+
+ protected:
+  /// Undo and redo of the label field are those of the window.
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
+ private:
+  explicit AppController(const AppServices& services);
+
+  void _connectControls();
+  void _connectSlider(Slider& slider, void (AppController::*action)(Slider&));
+  void _updateApplyButton();
+  void _updateFontToolTip();
+  /// The controls show the canvas's values; sends no actions.
+  void _showValues();
+  void _canvasChanged();
+  void _showLoaded(const Result<LoadedFolder>& loaded);
+  void _applied(const Path& path, const Result<BrandingResult>& result);
+  void _reverted(const Path& path, const Result<BrandingResult>& result);
+  void _notice(const QString& words);
+  void _connectMenu();
+  void _fillRecentMenu();
+  void _fillLooksMenu();
+  void _setBaseReference(const BaseReference& reference);
+  /// Cut, copy and the like go to the text that has the focus; copy goes to the canvas otherwise.
+  void _edit(MenuCommand command);
+  void _endSliderStep();
+
+  /// Busy from here until _endWork(); after a moment the window shows it.
+  void _beginWork(const QString& words);
+  void _endWork();
+  /// Takes in everything but what the user does until `done` says so, for a moment at most.
+  void _waitBriefly(const std::function<bool()>& done);
+
+  AppServices _services;
+  std::unique_ptr<EditHistory> _history;
+  std::optional<Path> _path;
+  bool _appInitialized = false;
+  bool _ignoreChangeColor = false;
+  bool _isLoading = false;
+  unsigned _opening = 0;  ///< counts setPath() calls, to tell one from a later one
+  int _busyCount = 0;
+  QString _busyWords;
+  QTimer _busyTimer;
+  QPointer<QWidget> _focusBeforeWork;
+  std::optional<Path> _basePicture;    ///< the file that the base icon was read from, when it was one
+  std::vector<QAction*> _lookActions;  ///< in the menu
+  Slider* _heldSlider = nullptr;       ///< whose run of changes is one step of the history
+};
+
+/// The path as people read it: the home folder shortened to "~".
+QString abbreviatedPath(const std::filesystem::path& path);
+
+}  // namespace quorvane

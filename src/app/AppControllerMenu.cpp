@@ -1,0 +1,206 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// What the menus do.
+#include <QApplication>
+#include <QClipboard>
+#include <QDir>
+#include <QLineEdit>
+#include <QMenu>
+#include <QMimeData>
+#include <QPushButton>
+
+#include "app/AppController.h"
+#include "app/Drawer.h"
+#include "app/MainMenu.h"
+#include "app/QVWindow.h"
+#include "app/ShortcutsSheet.h"
+#include "app/core/EditHistory.h"
+#include "composition/view/DroppedFolder.h"
+#include "composition/view/FolderView.h"
+#include "ui/ElidedLabel.h"
+#include "ui/HVColorWell.h"
+#include "ui/SharedPanels.h"
+
+namespace quorvane {
+
+void AppController::_connectMenu() {
+  connect(_mainMenu, &MainMenu::chosen, this, &AppController::perform);
+  connect(this, &AppController::stateChanged, _mainMenu, [this] {
+    _mainMenu->validate([this](MenuCommand command) { return validateMenuItem(command); });
+    _mainMenu->setUndoTexts(_history->undoText(), _history->redoText());
+    _mainMenu->setOriginalIconShown(_origIconDrawer->isOpen());
+  });
+  connect(_origIconDrawer, &Drawer::openChanged, this, &AppController::stateChanged);
+  connect(_fontBtn, &QPushButton::toggled, _mainMenu, &MainMenu::setFontShown);
+  connect(_folderView, &ImageView::magnificationChanged, this, [this](int magnification) {
+    _mainMenu->setMagnification(magnification);
+    _mainWindow->growBy(_folderView->minimumSizeHint() - _folderView->size());
+  });
+  _mainMenu->setMagnification(_folderView->magnification());
+  connect(_mainMenu->recentMenu(), &QMenu::aboutToShow, this, &AppController::_fillRecentMenu);
+  connect(_mainMenu->looksMenu(), &QMenu::aboutToShow, this, &AppController::_fillLooksMenu);
+}
+
+bool AppController::validateMenuItem(MenuCommand command) const {
+  const bool isIdle = !isBusy();
+  switch (command) {
+    case MenuCommand::Apply:
+      return isIdle && _isIconModified() && !_isLoading;
+    case MenuCommand::Revert:
+      return isIdle && _origIconView->image().has_value();
+    case MenuCommand::ToggleOriginalIcon:
+      return _origIconView->image().has_value();
+    case MenuCommand::Undo:
+      return isIdle && _history->canUndo();
+    case MenuCommand::Redo:
+      return isIdle && _history->canRedo();
+    case MenuCommand::ShowInFileManager:
+      return _path && _services.revealInFileManager;
+    case MenuCommand::SaveLook:
+    case MenuCommand::ManageLooks:
+    case MenuCommand::Looks:
+      return _services.looks != nullptr;
+    case MenuCommand::OpenRecent:
+      return isIdle && _services.recentFolders;
+    case MenuCommand::Open:
+    case MenuCommand::CloseFolder:
+    case MenuCommand::PasteFolderPath:
+      return isIdle;
+    default:
+      return true;
+  }
+}
+
+void AppController::help(int tag) {
+  struct Page {
+    int tag;
+    const char* path;
+  };
+  static constexpr Page pages[] = {{0, "/quorvane/help/"}, {2, "forum"},        {3, "blog"},        {4, ""},
+                                   {5, "quorvane/faq/"},   {6, "quorvane/fb/"}, {7, "quorvane/mu/"}};
+  for (const Page& page : pages) {
+    if (page.tag == tag && _services.visitPage) _services.visitPage(page.path);
+  }
+}
+
+void AppController::pasteFolderPath() {
+  const QMimeData* data = QApplication::clipboard()->mimeData();
+  std::optional<Path> path = data ? firstLocalPath(*data) : std::nullopt;
+  if (!path && data && data->hasText()) {
+    QString text = data->text().trimmed();
+    if (text == QLatin1String("~") || text.startsWith(QLatin1String("~/"))) text.replace(0, 1, QDir::homePath());
+    const QUrl address(text);
+    path = address.isLocalFile() ? localPath(address) : std::optional<Path>(QFile::encodeName(text).toStdString());
+    if (path && !path->is_absolute()) path.reset();
+  }
+  if (!path || !applicationOpenFile(*path)) _notice(tr("The clipboard holds no path of a folder."));
+}
+
+void AppController::showInFileManager() {
+  if (_path && _services.revealInFileManager) _services.revealInFileManager(*_path);
+}
+
+void AppController::perform(MenuCommand command) {
+  switch (command) {
+    case MenuCommand::Open:
+      return open();
+    case MenuCommand::ShowInFileManager:
+      return showInFileManager();
+    case MenuCommand::CloseFolder:
+      return closeFolder();
+    case MenuCommand::Apply:
+      return apply();
+    case MenuCommand::Revert:
+      return revert();
+    case MenuCommand::Quit:
+      return static_cast<void>(_mainWindow->close());
+    case MenuCommand::Undo:
+      return undo();
+    case MenuCommand::Redo:
+      return redo();
+    case MenuCommand::Cut:
+    case MenuCommand::Copy:
+    case MenuCommand::Paste:
+    case MenuCommand::SelectAll:
+      return _edit(command);
+    case MenuCommand::PasteFolderPath:
+      return pasteFolderPath();
+    case MenuCommand::CenterLabel:
+      return centerLabel();
+    case MenuCommand::ShowFont:
+      _fontBtn->toggle();
+      return showFont(*_fontBtn);
+    case MenuCommand::ShowColor:
+      return _services.panels.colorPanel().showPanel();
+    case MenuCommand::SaveLook:
+      return saveLook();
+    case MenuCommand::ManageLooks:
+      return manageLooks();
+    case MenuCommand::ResetTransform:
+      return resetTransform();
+    case MenuCommand::Magnify1:
+      return _folderView->setMagnification(1);
+    case MenuCommand::Magnify2:
+      return _folderView->setMagnification(2);
+    case MenuCommand::Magnify3:
+      return _folderView->setMagnification(3);
+    case MenuCommand::ToggleOriginalIcon:
+      return _origIconDrawer->isOpen() ? _origIconDrawer->close() : _origIconDrawer->open();
+    case MenuCommand::Shortcuts: {
+      ShortcutsSheet sheet(*_mainMenu);
+      _mainWindow->runPromptSheet(sheet);
+      return;
+    }
+    case MenuCommand::Help:
+      return help(0);
+    case MenuCommand::Forum:
+      return help(2);
+    case MenuCommand::Blog:
+      return help(3);
+    case MenuCommand::HomePage:
+      return help(4);
+    case MenuCommand::Questions:
+      return help(5);
+    default:
+      return;
+  }
+}
+
+void AppController::_edit(MenuCommand command) {
+  QWidget* focus = QApplication::focusWidget();
+  const bool isText = qobject_cast<QLineEdit*>(focus) || qobject_cast<QPlainTextEdit*>(focus);
+  if (!isText) {
+    // The icon as it would be written, for other programs.
+    if (command != MenuCommand::Copy) return;
+    const auto icon = _folderView->iconImage();
+    const auto bitmap = icon ? icon->bitmapForPixels(512, 512) : std::nullopt;
+    if (bitmap) QApplication::clipboard()->setImage(bitmap->toImage());
+    return;
+  }
+  const char* slot = command == MenuCommand::Cut     ? "cut"
+                     : command == MenuCommand::Copy  ? "copy"
+                     : command == MenuCommand::Paste ? "paste"
+                                                     : "selectAll";
+  QMetaObject::invokeMethod(focus, slot);
+}
+
+void AppController::_fillRecentMenu() {
+  QMenu& menu = *_mainMenu->recentMenu();
+  menu.clear();
+  const auto folders = _services.recentFolders ? _services.recentFolders() : std::vector<RecentFolder>();
+  for (const auto& folder : folders) {
+    QString shown = visibleText(abbreviatedPath(folder.path)).replace(QLatin1Char('&'), QLatin1String("&&"));
+    shown = menu.fontMetrics().elidedText(shown, Qt::ElideMiddle, 480);
+    QAction* action = menu.addAction(folder.isMissing ? tr("%1 (missing)").arg(shown) : shown);
+    action->setEnabled(!folder.isMissing);
+    connect(action, &QAction::triggered, this, [this, path = folder.path] {
+      if (!applicationOpenFile(path)) _notice(tr("The folder is not there any more."));
+    });
+  }
+  if (folders.empty()) menu.addAction(tr("No Recent Folders"))->setEnabled(false);
+  menu.addSeparator();
+  QAction* clear = menu.addAction(tr("&Clear List"));
+  clear->setEnabled(!folders.empty());
+  connect(clear, &QAction::triggered, this, [this] { _services.clearRecentFolders(); });
+}
+
+}  // namespace quorvane

@@ -1,0 +1,44 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <filesystem>
+#include <functional>
+#include <optional>
+#include <vector>
+
+#include "system/RecentFolders.h"
+
+class QWidget;
+
+namespace quorvane {
+
+class FolderWork;
+class LookStore;
+class SharedPanels;
+class UserDefaults;
+class UserPrompts;
+
+/// What the controller needs of the world, chosen once by the main function or a test. Nothing is owned; all must
+/// outlive the controller.
+struct AppServices {
+  using Path = std::filesystem::path;
+  /// Asks for one path and tells it; tells nothing when the user gives up. May return at once.
+  using Chooser = std::function<void(QWidget& window, std::function<void(const Path&)> chosen)>;
+
+  UserDefaults& defaults;
+  UserPrompts& prompts;
+  SharedPanels& panels;
+  FolderWork& work;
+  LookStore* looks = nullptr;  ///< none: looks cannot be kept
+
+  Chooser chooseFolder = {};
+  Chooser choosePicture = {};
+  std::function<void(const Path& folder)> noteRecentFolder = {};
+  std::function<std::vector<RecentFolder>()> recentFolders = {};  ///< the last one first
+  std::function<void()> clearRecentFolders = {};
+  std::function<void(const Path& folder)> revealInFileManager = {};
+  /// Opens a page of the program's web site.
+  std::function<void(const char* page)> visitPage = {};
+};
+
+}  // namespace quorvane

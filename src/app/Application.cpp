@@ -1,0 +1,172 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/Application.h"
+
+#include <QApplication>
+#include <QIcon>
+#include <cstdio>
+
+#include "app/AppController.h"
+#include "app/Choosers.h"
+#include "app/DefaultsFrameStore.h"
+#include "app/MainWindowLayout.h"
+#include "app/QVWindow.h"
+#include "app/RecentList.h"
+#include "app/SheetPrompts.h"
+#include "app/TerminationSignals.h"
+#include "app/WindowArguments.h"
+#include "app/core/FolderWork.h"
+#include "app/core/LookStore.h"
+#include "app/core/SettingsTable.h"
+#include "composition/view/FolderView.h"
+#include "foundation/FileManagerExtras.h"
+#include "foundation/SettingsFile.h"
+#include "foundation/UserDefaults.h"
+#include "foundation/base/Log.h"
+#include "foundation/base/Text.h"
+#include "foundation/base/Version.h"
+#include "iconfamily/AppleDoubleForkStore.h"
+#include "system/FileManagerNotices.h"
+#include "system/FolderMarks.h"
+#include "system/KindIcons.h"
+#include "system/Links.h"
+#include "system/Reveal.h"
+#include "system/SingleInstance.h"
+#include "ui/DesktopAppearance.h"
+#include "ui/SharedPanels.h"
+#include "ui/Theme.h"
+
+namespace quorvane {
+
+namespace {
+
+/// What touches folders, as on the command line.
+struct FolderServices {
+  AppleDoubleForkStore forks;
+  std::unique_ptr<KindIcons> kinds = makeDesktopKindIcons();
+  StampingNotices notices;
+  std::unique_ptr<FolderMetadata> metadata = makeDesktopMetadata();
+  std::unique_ptr<FolderMarks> marks = makeDesktopMarks(*metadata);
+  FamilyCache families;
+  IconServices services{
+      .forks = forks, .kinds = *kinds, .notices = notices, .families = &families, .marks = marks.get()};
+};
+
+/// The user's settings; kept for this run only when there is no place for them.
+std::unique_ptr<SettingsStorage> openSettings() {
+  auto path = SettingsFile::usualPath();
+  if (path) return std::make_unique<SettingsFile>(*path);
+  logMessage("window", path.error().message());
+  return std::make_unique<MemorySettings>();
+}
+
+}  // namespace
+
+int runApplication(int argc, char** argv) {
+  const WindowArguments arguments =
+      parseWindowArguments(std::vector<std::string>(argv + std::min(argc, 1), argv + argc));
+  if (arguments.words) {
+    std::fputs(arguments.words->c_str(), arguments.exitCode == 0 ? stdout : stderr);
+    return arguments.exitCode;
+  }
+
+  if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM") && qEnvironmentVariableIsEmpty("DISPLAY") &&
+      qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY")) {
+    std::fputs(
+        "quorvane-window: there is no display to open the window on\nFor scripts there is the command \"quorvane\".\n",
+        stderr);
+    return 1;
+  }
+  QApplication application(argc, argv);
+  QCoreApplication::setApplicationName(QStringLiteral("Quorvane"));
+  QCoreApplication::setApplicationVersion(QStringLiteral(QUORVANE_VERSION));
+  QGuiApplication::setDesktopFileName(QStringLiteral(QUORVANE_APP_ID));
+  QGuiApplication::setWindowIcon(QIcon::fromTheme(QStringLiteral(QUORVANE_APP_ID)));
+  // The panels are windows too: the main one alone decides.
+  QGuiApplication::setQuitOnLastWindowClosed(false);
+
+  const OpenRequest request = OpenRequest::fromArguments(arguments.folders);
+  SingleInstance instance(QStringLiteral(QUORVANE_APP_ID));
+  if (instance.start(request) == SingleInstance::Role::Second) return 0;
+
+  DesktopAppearance appearance;
+  appearance.start();
+  Theme theme(&appearance);
+  theme.apply();
+
+  const auto storage = openSettings();
+  UserDefaults defaults(*storage);
+  FolderServices folders;
+  FolderWork work(folders.services);
+  SharedPanels panels;
+  DefaultsFrameStore frames(defaults);
+  QVWindow window(defaults);
+  window.setFrameStore(&frames);
+  SheetPrompts prompts(window);
+
+  std::optional<SharedRecentList> sharedRecent;
+  if (auto file = SharedRecentList::usualFile()) {
+    sharedRecent.emplace(*file, recentlist::Application{.name = "Quorvane", .exec = "quorvane-window %u"});
+  }
+  RecentList recent(defaults, std::move(sharedRecent));
+  // What is missing is known by the time that the menu is opened.
+  static_cast<void>(recent.folders());
+  const auto lookFolder = LookStore::usualFolder();
+  std::optional<LookStore> looks;
+  if (lookFolder) looks.emplace(*lookFolder);
+  const auto revealWays = makeDesktopRevealWays();
+  DesktopAddressOpener opener;
+  Reveal reveal(*revealWays, opener);
+  HVWebsite website(QStringLiteral(QUORVANE_HOMEPAGE), opener);
+
+  const auto controller =
+      AppController::init({.defaults = defaults,
+                           .prompts = prompts,
+                           .panels = panels,
+                           .work = work,
+                           .looks = looks ? &*looks : nullptr,
+                           .chooseFolder = chooseFolder,
+                           .choosePicture = choosePicture,
+                           .noteRecentFolder = [&](const auto& folder) { recent.add(folder); },
+                           .recentFolders = [&] { return recent.folders(); },
+                           .clearRecentFolders = [&] { recent.clear(); },
+                           .revealInFileManager = [&](const auto& folder) { reveal.show(folder); },
+                           .visitPage = [&](const char* page) { website.visitPage(QString::fromLatin1(page)); }});
+  controller->setOutlets(layOutMainWindow(window, panels));
+  window.setOutlets(controller->outlets()._folderView, controller.get());
+  // Not quit(): that would ask every window once more.
+  QObject::connect(
+      controller.get(), &AppController::terminateRequested, &application, [] { QCoreApplication::exit(0); },
+      Qt::QueuedConnection);
+  TerminationSignals signals_;
+  QObject::connect(&signals_, &TerminationSignals::received, &window, [&window] {
+    window.cancelSheets();
+    // Those who waited for an answer get to know first. Closing saves the frame.
+    QTimer::singleShot(0, &window, [&window] {
+      if (!window.close()) QCoreApplication::exit(0);
+    });
+  });
+
+  controller->awakeFromNib();
+  controller->outlets()._folderView->awakeFromNib(settings::startFont(defaults));
+  window.show();
+  const auto open = [&](const OpenRequest& wish) {
+    for (const auto& folder : wish.paths) controller->applicationOpenFile(folder);
+  };
+  for (const auto& folder : request.paths) {
+    if (!isDirectory(folder))
+      std::fprintf(stderr, "quorvane-window: %s: this is no folder\n", printable(folder).c_str());
+  }
+  open(request);
+  instance.setHandler([&](const OpenRequest& wish) {
+    // What the desktop gave the other process lets this window come to the front.
+    if (!wish.activationToken.empty()) qputenv("XDG_ACTIVATION_TOKEN", QByteArray::fromStdString(wish.activationToken));
+    window.bringToFront();
+    open(wish);
+  });
+  QTimer::singleShot(0, controller.get(), &AppController::applicationDidFinishLaunching);
+  const int code = QApplication::exec();
+  controller->applicationWillTerminate();
+  return code;
+}
+
+}  // namespace quorvane

@@ -1,0 +1,99 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/MainWindowLayout.h"
+
+#include <QCoreApplication>
+#include <QHBoxLayout>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+#include "app/BaseColumn.h"
+#include "app/BusyIndicator.h"
+#include "app/LayoutPieces.h"
+#include "app/MainMenu.h"
+#include "app/NoticeLabel.h"
+#include "app/QVWindow.h"
+#include "composition/view/FolderView.h"
+#include "ui/ActionIcons.h"
+#include "ui/ElidedLabel.h"
+#include "ui/HVColorWell.h"
+#include "ui/HVTableView.h"
+#include "ui/LabelTextField.h"
+#include "ui/PopUpButton.h"
+#include "ui/Slider.h"
+
+namespace quorvane {
+
+namespace {
+
+QString tr(const char* text) {
+  return QCoreApplication::translate("MainWindow", text);
+}
+
+/// Tab goes as one reads: the canvas before what changes it, the buttons that end the work last.
+void setTabOrder(const Outlets& outlets) {
+  QWidget* const order[] = {
+      outlets._openBtn,       outlets._baseTableView, outlets._customTableView, outlets._folderView,
+      outlets._labelTF,       outlets._fontBtn,       outlets._fontSizeSlider,  outlets._lineSpacingSlider,
+      outlets._colorWell,     outlets._effectPopUp,   outlets._shearSlider,     outlets._rotationSlider,
+      outlets._opacitySlider, outlets._resetBtn,      outlets._revertBtn,       outlets._applyBtn};
+  for (std::size_t i = 1; i < std::size(order); ++i) QWidget::setTabOrder(order[i - 1], order[i]);
+}
+
+}  // namespace
+
+QWidget* makeHeader(Outlets& outlets) {
+  auto* header = new QWidget;
+  auto* layout = new QHBoxLayout(header);
+  layout->setContentsMargins({});
+  layout->setSpacing(10);
+  outlets._pathTF = new ElidedLabel;
+  outlets._pathTF->setAccessibleName(tr("Path of the folder"));
+  outlets._noticeLabel = new NoticeLabel;
+  outlets._noticeLabel->setAlignment(Qt::AlignTrailing | Qt::AlignVCenter);
+  outlets._busyIndicator = new BusyIndicator;
+  outlets._revertBtn = new QPushButton(tr("Re&vert"));
+  outlets._revertBtn->setToolTip(tr("Put the icon from before the first Apply back"));
+  outlets._applyBtn = new QPushButton(tr("&Apply"));
+  outlets._applyBtn->setToolTip(tr("Give the folder this icon"));
+  outlets._applyBtn->setDefault(true);
+  outlets._openBtn = new QPushButton(actionIcon(QStringLiteral("open")), tr("Ope&n…"));
+  outlets._openBtn->setToolTip(tr("Choose the folder to give an icon to"));
+  layout->addWidget(outlets._openBtn);
+  layout->addWidget(outlets._pathTF, 3);
+  layout->addWidget(outlets._noticeLabel, 2);
+  layout->addWidget(outlets._busyIndicator);
+  layout->addSpacing(6);
+  layout->addWidget(outlets._revertBtn);
+  layout->addWidget(outlets._applyBtn);
+  return header;
+}
+
+Outlets layOutMainWindow(QVWindow& window, SharedPanels& panels) {
+  Outlets outlets;
+  outlets._mainWindow = &window;
+  window.setTitle(QCoreApplication::applicationName());
+  outlets._mainMenu = new MainMenu(window);
+
+  auto* content = new QWidget;
+  auto* rows = new QVBoxLayout(content);
+  rows->setContentsMargins(windowMargin, 4, windowMargin, windowMargin);
+  rows->setSpacing(layoutGap);
+  rows->addWidget(makeHeader(outlets));
+  auto* columns = new QHBoxLayout;
+  columns->setSpacing(windowMargin);
+  outlets._baseColumn = new BaseColumn;
+  outlets._baseColumn->setFixedWidth(baseColumnWidth);
+  outlets._baseTableView = outlets._baseColumn->baseTableView();
+  outlets._customTableView = outlets._baseColumn->customTableView();
+  columns->addWidget(outlets._baseColumn);
+  columns->addWidget(makeCanvasColumn(outlets), 1);
+  columns->addWidget(makeInspector(outlets, panels));
+  rows->addLayout(columns, 1);
+  window.setCentralWidget(content);
+  setTabOrder(outlets);
+  window.setInitialFirstResponder(outlets._folderView);
+  window.resize(1180, 680);
+  return outlets;
+}
+
+}  // namespace quorvane

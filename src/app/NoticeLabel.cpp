@@ -1,0 +1,41 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/NoticeLabel.h"
+
+#include <QAccessible>
+
+namespace quorvane {
+
+NoticeLabel::NoticeLabel(QWidget* parent) : QLabel(parent), _opacity(new QGraphicsOpacityEffect(this)) {
+  setObjectName(QStringLiteral("notice"));
+  setTextFormat(Qt::PlainText);
+  setWordWrap(true);
+  setAccessibleName(tr("Notice"));
+  setGraphicsEffect(_opacity);
+  _opacity->setEnabled(false);
+  _stay.setSingleShot(true);
+  _fade.setDuration(600);
+  _fade.setStartValue(1.0);
+  _fade.setEndValue(0.0);
+  connect(&_stay, &QTimer::timeout, this, [this] {
+    _opacity->setEnabled(true);
+    _fade.start();
+  });
+  connect(&_fade, &QVariantAnimation::valueChanged, this,
+          [this](const QVariant& value) { _opacity->setOpacity(value.toDouble()); });
+  connect(&_fade, &QVariantAnimation::finished, this, [this] {
+    _opacity->setEnabled(false);
+    clear();
+  });
+}
+
+void NoticeLabel::notice(const QString& words) {
+  _fade.stop();
+  _opacity->setEnabled(false);
+  setText(words);
+  setToolTip(words);
+  _stay.start(5000 + static_cast<int>(words.size()) * 30);
+  QAccessibleEvent alert(this, QAccessible::Alert);
+  QAccessible::updateAccessibility(&alert);
+}
+
+}  // namespace quorvane

@@ -1,0 +1,13 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+namespace quorvane {
+
+/// The format with its places ("%@", "%d", "%.0f") taken by the arguments in their order. What looks like a place in an
+/// argument stays as it is; places without an argument too.
+QString filled(const QString& format, const QStringList& arguments);
+
+}  // namespace quorvane

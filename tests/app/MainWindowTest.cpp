@@ -1,0 +1,206 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The window as such: reached by keys and by assistive tools, translated, dropped on, remembered.
+#include <gtest/gtest.h>
+
+#include <QAbstractButton>
+#include <QAccessible>
+#include <QApplication>
+#include <QClipboard>
+#include <QDragEnterEvent>
+#include <QLabel>
+#include <QMenu>
+#include <QMenuBar>
+#include <QMimeData>
+#include <QTest>
+#include <QTranslator>
+#include <set>
+
+#include "TestWindow.h"
+#include "app/NoticeLabel.h"
+#include "app/Texts.h"
+#include "app/WindowArguments.h"
+#include "iconfamily/CustomIcon.h"
+#include "ui/HVColorWell.h"
+#include "ui/LabelTextField.h"
+
+namespace quorvane::test {
+namespace {
+
+/// Marks every text that was looked up.
+class Marker : public QTranslator {
+ public:
+  [[nodiscard]] bool isEmpty() const override { return false; }
+  [[nodiscard]] QString translate(const char*, const char* text, const char*, int) const override {
+    return QStringLiteral("\u00b6") + QString::fromUtf8(text);
+  }
+};
+
+TEST(MainWindowTest, AWholeBrandingGoesByKeyboardAlone) {
+  TestWindow test;
+  test.launch();
+  EXPECT_TRUE(QTest::qWaitForWindowActive(&test.window));
+  test.choice = test.folder;
+  const auto press = [&](int key, Qt::KeyboardModifiers modifiers = {}) {
+    QTest::keyClick(QApplication::focusWidget() ? QApplication::focusWidget() : &test.window, Qt::Key(key), modifiers);
+  };
+  press(Qt::Key_O, Qt::ControlModifier);
+  ASSERT_EQ(test.controller->path(), test.folder);
+  QTest::keyClicks(QApplication::focusWidget(), QStringLiteral("Tax"));
+  press(Qt::Key_S, Qt::AltModifier);
+  press(Qt::Key_Right);
+  EXPECT_GT(test.ui()._shearSlider->value(), 0);
+  while (QApplication::focusWidget() != test.ui()._folderView) press(Qt::Key_Backtab, Qt::ShiftModifier);
+  press(Qt::Key_Up, Qt::ShiftModifier);
+  EXPECT_EQ(test.ui()._folderView->canvasLabelCenter(), (Point{64, 74}));
+  press(Qt::Key_Return, Qt::ControlModifier);
+  QCoreApplication::processEvents();
+  EXPECT_TRUE(test.hasBackup());
+  press(Qt::Key_R, Qt::ControlModifier);
+  EXPECT_FALSE(test.hasBackup());
+}
+
+TEST(MainWindowTest, TabComesByEveryControlAndBack) {
+  TestWindow test;
+  test.launch();
+  test.controller->applicationOpenFile(test.folder);
+  test.controller->setLabel(QStringLiteral("Tax"));
+  EXPECT_TRUE(QTest::qWaitForWindowActive(&test.window));
+  std::vector<QWidget*> met;
+  while (met.size() < 60 && (met.empty() || QApplication::focusWidget() != met.front())) {
+    met.push_back(QApplication::focusWidget());
+    QTest::keyClick(met.back(), Qt::Key_Tab);
+  }
+  EXPECT_EQ(QApplication::focusWidget(), met.front());
+  const Outlets& ui = test.ui();
+  for (QWidget* control : std::initializer_list<QWidget*>{
+           ui._openBtn, ui._folderView, ui._labelTF, ui._fontBtn, ui._fontSizeSlider->track(), ui._colorWell,
+           ui._effectPopUp, ui._opacitySlider->track(), ui._resetBtn, ui._revertBtn, ui._applyBtn})
+    EXPECT_NE(std::ranges::find(met, control), met.end()) << control->accessibleName().toStdString();
+}
+
+TEST(MainWindowTest, EveryControlHasANameAndNoKeyIsTakenTwice) {
+  TestWindow test;
+  test.launch();
+  std::map<QString, QString> keys;
+  const auto take = [&](const QString& key, const QString& who) {
+    if (key.isEmpty()) return;
+    EXPECT_TRUE(keys.emplace(key, who).second)
+        << key.toStdString() << ": " << who.toStdString() << " and " << keys[key].toStdString();
+  };
+  for (QWidget* widget : test.window.findChildren<QWidget*>()) {
+    if (const auto* button = qobject_cast<QAbstractButton*>(widget))
+      take(QKeySequence::mnemonic(button->text()).toString(), button->text());
+    if (const auto* label = qobject_cast<QLabel*>(widget); label && label->buddy())
+      take(QKeySequence::mnemonic(label->text()).toString(), label->text());
+    if (widget->focusPolicy() == Qt::NoFocus || widget->window() != &test.window || qobject_cast<QMenu*>(widget))
+      continue;
+    if (widget->objectName().startsWith(QLatin1String("qt_"))) continue;
+    const QAccessibleInterface* accessible = QAccessible::queryAccessibleInterface(widget);
+    ASSERT_TRUE(accessible);
+    EXPECT_FALSE(accessible->text(QAccessible::Name).isEmpty()) << widget->metaObject()->className();
+  }
+  for (const QAction* menu : test.window.menuBar()->actions()) {
+    take(QKeySequence::mnemonic(menu->text()).toString(), menu->text());
+    std::set<QString> letters;
+    for (const QAction* action : menu->menu()->actions()) {
+      const QString letter = QKeySequence::mnemonic(action->text()).toString();
+      EXPECT_TRUE(letter.isEmpty() || letters.insert(letter).second) << action->text().toStdString();
+    }
+  }
+  for (const QAction* action : test.window.findChildren<QAction*>())
+    for (const QKeySequence& shortcut : action->shortcuts()) take(shortcut.toString(), action->text());
+  EXPECT_TRUE(keys.contains(QStringLiteral("Ctrl+Shift+Z")));
+}
+
+TEST(MainWindowTest, EveryTextIsLookedUp) {
+  Marker marker;
+  QCoreApplication::installTranslator(&marker);
+  TestWindow test;
+  test.launch();
+  QCoreApplication::removeTranslator(&marker);
+  int count = 0;
+  const auto check = [&](const QString& text) {
+    ++count;
+    EXPECT_TRUE(text.isEmpty() || text.startsWith(QChar(0xb6))) << text.toStdString();
+  };
+  for (const QWidget* widget : test.window.findChildren<QWidget*>()) {
+    if (widget == test.ui()._fontBtn || widget == test.ui()._colorWell) continue;  // they say a font and a colour
+    if (const auto* button = qobject_cast<const QAbstractButton*>(widget)) check(button->text());
+    if (const auto* label = qobject_cast<const QLabel*>(widget)) check(label->text());
+    check(widget->toolTip());
+  }
+  for (const QAction* action : test.window.findChildren<QAction*>())
+    if (!action->isSeparator() && !action->property("plainName").isNull()) check(action->text());
+  for (int item = 0; item < test.ui()._effectPopUp->count(); ++item) check(test.ui()._effectPopUp->itemText(item));
+  EXPECT_GT(count, 60);
+}
+
+TEST(MainWindowTest, FoldersAreTakenAnywhereAndPicturesInTheirColumn) {
+  TestWindow test;
+  test.launch();
+  const std::filesystem::path picture = test.tree / "base.png";
+  ASSERT_TRUE(plainImage(Qt::red).rendered(64, 64).toImage().save(QString::fromStdString(picture.string())));
+  const auto drop = [](QWidget& widget, const std::filesystem::path& path) {
+    QMimeData data;
+    data.setUrls({QUrl::fromLocalFile(QString::fromStdString(path.string()))});
+    QDragEnterEvent enter(QPoint(9, 9), Qt::CopyAction, &data, Qt::LeftButton, {});
+    QApplication::sendEvent(&widget, &enter);
+    if (!enter.isAccepted()) return false;
+    QDropEvent event(QPoint(9, 9), Qt::CopyAction, &data, Qt::LeftButton, {});
+    QApplication::sendEvent(&widget, &event);
+    QCoreApplication::processEvents();
+    return true;
+  };
+  EXPECT_FALSE(drop(test.window, picture));
+  EXPECT_FALSE(test.controller->path());
+  EXPECT_TRUE(drop(test.window, test.folder));
+  EXPECT_EQ(test.controller->path(), test.folder);
+  EXPECT_TRUE(drop(*test.ui()._baseColumn, picture));
+  EXPECT_TRUE(test.ui()._folderView->baseIcon());
+  EXPECT_TRUE(test.ui()._applyBtn->isEnabled());
+
+  QApplication::clipboard()->setText(QStringLiteral("/nowhere/at/all"));
+  test.controller->pasteFolderPath();
+  EXPECT_FALSE(test.ui()._noticeLabel->text().isEmpty());
+  test.controller->closeFolder();
+  QApplication::clipboard()->setText(QString::fromStdString(test.folder.string()) + QLatin1Char('\n'));
+  test.controller->pasteFolderPath();
+  EXPECT_EQ(test.controller->path(), test.folder);
+}
+
+TEST(MainWindowTest, TheFrameIsRememberedAndMended) {
+  TestWindow test;
+  test.launch();
+  test.window.setGeometry(40, 50, 1200, 700);
+  test.window.close();
+  EXPECT_TRUE(test.frames.frameForName(settings::mainWindowAutosaveName));
+  test.window.resize(1000, 690);
+  test.controller->awakeFromNib();
+  EXPECT_EQ(test.window.width(), 1200);
+  test.window.move(-5000, -5000);
+  test.window.show();
+  EXPECT_TRUE(test.window.screen()->availableGeometry().intersects(test.window.frameGeometry()));
+}
+
+TEST(MainWindowTest, PagesAreOpenedByTheirTags) {
+  TestWindow test;
+  test.launch();
+  for (const int tag : {-1, 0, 1, 2, 3, 4, 5, 6, 7, 8}) test.controller->help(tag);
+  EXPECT_EQ(test.pages, (std::vector<std::string>{"/quorvane/help/", "forum", "blog", "", "quorvane/faq/",
+                                                  "quorvane/fb/", "quorvane/mu/"}));
+}
+
+TEST(WindowTextsTest, PlacesAreFilledInTheirOrderOnly) {
+  EXPECT_EQ(filled(QStringLiteral("%@ %.0f"), {QStringLiteral("100%@ %d"), QStringLiteral("36")}),
+            QStringLiteral("100%@ %d 36"));
+  EXPECT_EQ(filled(QStringLiteral("%d %"), {}), QStringLiteral("%d %"));
+}
+
+TEST(WindowArgumentsTest, OptionsAndFoldersAreToldApart) {
+  EXPECT_EQ(parseWindowArguments({"a", "--", "--help"}).folders, (std::vector<std::string>{"a", "--help"}));
+  EXPECT_EQ(parseWindowArguments({"--help"}).exitCode, 0);
+  EXPECT_EQ(parseWindowArguments({"--nonsense"}).exitCode, 2);
+}
+
+}  // namespace
+}  // namespace quorvane::test

@@ -1,0 +1,100 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QPushButton>
+#include <memory>
+
+#include "app/AppController.h"
+#include "app/BaseColumn.h"
+#include "app/DefaultsFrameStore.h"
+#include "app/Drawer.h"
+#include "app/MainMenu.h"
+#include "app/MainWindowLayout.h"
+#include "app/QVWindow.h"
+#include "app/core/EditHistory.h"
+#include "app/core/FolderWork.h"
+#include "app/core/LookStore.h"
+#include "app/core/ScriptedPrompts.h"
+#include "app/core/SettingsTable.h"
+#include "composition/view/FolderView.h"
+#include "support/BrandingFixture.h"
+#include "support/TemporaryFolder.h"
+#include "ui/ElidedLabel.h"
+#include "ui/PopUpButton.h"
+#include "ui/SharedPanels.h"
+#include "ui/Slider.h"
+
+namespace quorvane::test {
+
+/// The whole window on a folder of its own: the real parts, save that prompts are answered from a script, choosers give
+/// what they are told to, settings are in memory, and folders are worked on within the call unless asked otherwise.
+struct TestWindow {
+  struct Options {
+    WorkQueue::Mode mode = WorkQueue::Mode::AtOnce;
+    UserPrompts* prompts = nullptr;         ///< in place of the scripted ones
+    FileManagerNotices* notices = nullptr;  ///< in place of the recording ones
+  };
+
+  TestWindow() : TestWindow(Options()) {}
+  explicit TestWindow(const Options& options)
+      : services{.forks = forks,
+                 .kinds = kinds,
+                 .notices = options.notices ? *options.notices : notices,
+                 .families = nullptr,
+                 .marks = marks.get()},
+        work(services, options.mode),
+        window(defaults) {
+    std::filesystem::create_directory(folder);
+    window.setFrameStore(&frames);
+    const auto choose = [this](QWidget&, const std::function<void(const std::filesystem::path&)>& chosen) {
+      if (choice) chosen(*choice);
+    };
+    controller = AppController::init({.defaults = defaults,
+                                      .prompts = options.prompts ? *options.prompts : prompts,
+                                      .panels = panels,
+                                      .work = work,
+                                      .looks = &looks,
+                                      .chooseFolder = choose,
+                                      .choosePicture = choose,
+                                      .revealInFileManager = [this](const auto& path) { revealed.push_back(path); },
+                                      .visitPage = [this](const char* page) { pages.emplace_back(page); }});
+    controller->setOutlets(layOutMainWindow(window, panels));
+    window.setOutlets(controller->outlets()._folderView, controller.get());
+  }
+
+  void launch() {
+    controller->awakeFromNib();
+    ui()._folderView->awakeFromNib(LabelFont{QStringLiteral("DejaVu Sans"), QStringLiteral("Bold"), 30});
+    controller->applicationDidFinishLaunching();
+    controller->setFont({QStringLiteral("DejaVu Sans"), QStringLiteral("Bold"), 30});
+    controller->history().clear();
+    window.show();
+    window.activateWindow();
+  }
+
+  [[nodiscard]] const Outlets& ui() const { return controller->outlets(); }
+  [[nodiscard]] bool hasBackup() const { return std::filesystem::exists(folder / FolderBranding::backupName); }
+
+  TemporaryFolder tree;
+  std::filesystem::path folder = std::filesystem::canonical(tree.path()) / "Invoices";
+  AppleDoubleForkStore forks;
+  OwnKindIcons kinds;
+  RecordingNotices notices;
+  MemoryMetadata metadata;
+  std::unique_ptr<FolderMarks> marks = makeDesktopMarks(metadata);
+  IconServices services;
+  MemorySettings storage;
+  UserDefaults defaults{storage};
+  LookStore looks{tree / "looks"};
+  DefaultsFrameStore frames{defaults};
+  ScriptedPrompts prompts;
+  std::optional<std::filesystem::path> choice;
+  std::vector<std::filesystem::path> revealed;
+  std::vector<std::string> pages;
+  SharedPanels panels;
+  FolderWork work;
+  QVWindow window;
+  std::shared_ptr<AppController> controller;
+};
+
+}  // namespace quorvane::test
