@@ -40,6 +40,7 @@ TEST(PictureFiles, ColoursOfEveryKindBecomeOurs) {
       {"grey-profile.png", {168, 168, 168, 255}, 1},
       {"grey-profile.tif", {168, 168, 168, 255}, 1},
       {"la-profile.png", {84, 84, 84, 128}, 1},
+      {"primaries.png", {40, 40, 40, 255}, 0},
       {"g4.tif", {0, 0, 0, 255}, 0},
       {"bit.tif", {0, 0, 0, 255}, 0},
       {"grey4.tif", {51, 51, 51, 255}, 0},
