@@ -41,6 +41,8 @@ TEST(PictureFiles, ColoursOfEveryKindBecomeOurs) {
       {"grey-profile.tif", {168, 168, 168, 255}, 1},
       {"la-profile.png", {84, 84, 84, 128}, 1},
       {"primaries.png", {40, 40, 40, 255}, 0},
+      {"la.tif", {50, 50, 50, 128}, 0},
+      {"cmyka16.tif", {73, 36, 18, 128}, 1},
       {"g4.tif", {0, 0, 0, 255}, 0},
       {"bit.tif", {0, 0, 0, 255}, 0},
       {"grey4.tif", {51, 51, 51, 255}, 0},
