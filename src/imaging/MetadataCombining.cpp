@@ -18,10 +18,18 @@ struct Kinds {
   bool xmp = true;
 };
 
+/// Of a camera maker's own block.
+bool isMakers(const Exiv2::Exifdatum& property) {
+  const std::string group = property.groupName();
+  return group == "MakerNote" || property.key() == "Exif.Photo.MakerNote" || Exiv2::ExifTags::isMakerGroup(group);
+}
+
 void mergeExif(const Exiv2::ExifData& from, Exiv2::Image& picture) {
   Exiv2::ExifData& to = picture.exifData();
+  // With such a block a TIFF would not be read again, and all else be lost with it.
+  const bool isTiff = picture.imageType() == Exiv2::ImageType::tiff;
   for (const Exiv2::Exifdatum& property : from) {
-    if (metadata::describesPixels(property)) continue;
+    if (metadata::describesPixels(property) || (isTiff && isMakers(property))) continue;
     if (const auto old = to.findKey(Exiv2::ExifKey(property.key())); old != to.end()) to.erase(old);
     to.add(property);
   }

@@ -109,6 +109,16 @@ TEST(ImageMetadata, WhatCannotBeCarriedLeavesAWholePictureAndSaysSo) {
   EXPECT_TRUE(cut.missing) << "the library leaves long values out without a word";
   EXPECT_EQ(ImageMetadata::metadataOfData(cut.data).value().value("Exif.Image.Artist"), "Ada");
   EXPECT_FALSE(Image::combineData(encoded()[1].second, large).missing) << "a TIFF has room";
+  // As cameras have them; JPEG and PNG take them, a TIFF everything but them.
+  ImageMetadata camera = sample();
+  ASSERT_TRUE(camera.setValue("Exif.Image.Make", "Canon").ok() && camera.setValue("Exif.Canon.OwnerName", "Me").ok());
+  for (const auto& [name, data] : encoded()) {
+    const CombinedData combined = Image::combineData(data, camera);
+    EXPECT_EQ(combined.missing.has_value(), name == "TIFF");
+    const ImageMetadata found = ImageMetadata::metadataOfData(combined.data).value();
+    EXPECT_EQ(found.value("Exif.Photo.ExposureTime"), "1/125") << name;
+    EXPECT_EQ(found.value("Exif.Canon.OwnerName").has_value(), name != "TIFF") << name;
+  }
   // Metadata into many pages would lose some of them.
   Image many = picture();
   for (int side = 8; side < 16; ++side) many.addRepresentation(test::filledBitmap(side, side));
