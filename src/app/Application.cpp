@@ -18,7 +18,6 @@
 #include "app/core/LookStore.h"
 #include "app/core/SettingsTable.h"
 #include "composition/view/FolderView.h"
-#include "foundation/FileManagerExtras.h"
 #include "foundation/SettingsFile.h"
 #include "foundation/UserDefaults.h"
 #include "foundation/base/Log.h"
@@ -153,10 +152,10 @@ int runApplication(int argc, char** argv) {
     for (const auto& folder : wish.paths) controller->applicationOpenFile(folder);
   };
   for (const auto& folder : request.paths) {
-    if (!isDirectory(folder))
+    controller->applicationOpenFile(folder, [folder] {
       std::fprintf(stderr, "quorvane-window: %s: this is no folder\n", printable(folder).c_str());
+    });
   }
-  open(request);
   instance.setHandler([&](const OpenRequest& wish) {
     // What the desktop gave the other process lets this window come to the front.
     if (!wish.activationToken.empty()) qputenv("XDG_ACTIVATION_TOKEN", QByteArray::fromStdString(wish.activationToken));
