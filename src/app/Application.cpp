@@ -2,7 +2,6 @@
 #include "app/Application.h"
 
 #include <QApplication>
-#include <QIcon>
 #include <cstdio>
 
 #include "app/AppController.h"
@@ -30,6 +29,7 @@
 #include "system/Links.h"
 #include "system/Reveal.h"
 #include "system/SingleInstance.h"
+#include "ui/ApplicationIcon.h"
 #include "ui/DesktopAppearance.h"
 #include "ui/SharedPanels.h"
 #include "ui/Theme.h"
@@ -79,7 +79,7 @@ int runApplication(int argc, char** argv) {
   QCoreApplication::setApplicationName(QStringLiteral("Quorvane"));
   QCoreApplication::setApplicationVersion(QStringLiteral(QUORVANE_VERSION));
   QGuiApplication::setDesktopFileName(QStringLiteral(QUORVANE_APP_ID));
-  QGuiApplication::setWindowIcon(QIcon::fromTheme(QStringLiteral(QUORVANE_APP_ID)));
+  QGuiApplication::setWindowIcon(applicationIcon(QStringLiteral(QUORVANE_APP_ID)));
   // The panels are windows too: the main one alone decides.
   QGuiApplication::setQuitOnLastWindowClosed(false);
 
