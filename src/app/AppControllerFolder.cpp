@@ -2,6 +2,7 @@
 // The folder: in, applied to, put back, and gone.
 #include <QFile>
 #include <QPushButton>
+#include <utility>
 
 #include "app/AppController.h"
 #include "app/Drawer.h"
@@ -12,7 +13,6 @@
 #include "app/core/SettingsTable.h"
 #include "app/core/UserPrompts.h"
 #include "composition/view/FolderView.h"
-#include "foundation/FileManagerExtras.h"
 #include "foundation/UserDefaults.h"
 #include "foundation/base/Log.h"
 #include "ui/ElidedLabel.h"
@@ -26,26 +26,56 @@ void AppController::open() {
   });
 }
 
-bool AppController::applicationOpenFile(const Path& path) {
-  if (!_appInitialized || _isWriting()) {
+bool AppController::applicationOpenFile(const Path& path, const std::function<void()>& refused) {
+  if (!_appInitialized || _isWriting() || _briefWaits > 0) {
     // Not a moment too soon, but not in a tight circle either.
-    QTimer::singleShot(_appInitialized ? 50 : 0, this, [this, path] { _openFile(path); });
+    QTimer::singleShot(_appInitialized ? 50 : 0, this, [this, path, refused] { _openFile(path, refused); });
     return false;
   }
-  if (!isDirectory(path)) return false;
-  _folderView->centerLabel();
-  setPath(path);
-  return true;
+  _cancelLook();
+  struct Answer {
+    std::optional<bool> isFolder;
+    bool isLate = false;
+  };
+  const auto answer = std::make_shared<Answer>();
+  const auto take = [this, path, refused](bool isFolder) {
+    if (isFolder) {
+      _folderView->centerLabel();
+      setPath(path);
+    } else if (refused) {
+      refused();
+    }
+    return isFolder;
+  };
+  const unsigned look = ++_look;
+  _isLooking = true;
+  _beginWork(tr("Looking at the folder…"));
+  _services.work.look(path, [this, self = QPointer(this), answer, take, look](bool isFolder) {
+    if (!self || look != _look) return;
+    _isLooking = false;
+    _endWork();
+    answer->isFolder = isFolder;
+    if (answer->isLate) take(isFolder);
+  });
+  _waitBriefly([&] { return answer->isFolder || look != _look; });
+  answer->isLate = true;
+  return answer->isFolder && look == _look && take(*answer->isFolder);
+}
+
+void AppController::_cancelLook() {
+  ++_look;
+  _services.work.cancelLook();
+  if (!std::exchange(_isLooking, false)) return;
+  _endWork();
 }
 
 void AppController::setPath(const std::optional<Path>& path) {
   const unsigned opening = ++_opening;
   _endSliderStep();
   _services.work.cancelLoad();
-  if (_isLoading) {
-    _isLoading = false;
-    _endWork();
-  }
+  if (std::exchange(_isLoading, false)) _endWork();
+  _cancelLook();
+  _cancelPicture();
   _path = path;
   if (!path) {
     _pathTF->setText(QString());
