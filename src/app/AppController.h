@@ -162,6 +162,8 @@ class AppController : public QObject, public HVWindowDelegate, public LabelTextF
 
   /// Busy from here until _endWork(); after a moment the window shows it.
   void _beginWork(const QString& words);
+  /// Busy with more than looking: nothing may come between.
+  [[nodiscard]] bool _isWriting() const { return _busyCount > (_isLoading ? 1 : 0); }
   void _endWork();
   /// Takes in everything but what the user does until `done` says so, for a moment at most.
   void _waitBriefly(const std::function<bool()>& done);

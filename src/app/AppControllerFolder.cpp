@@ -27,7 +27,7 @@ void AppController::open() {
 }
 
 bool AppController::applicationOpenFile(const Path& path) {
-  if (!_appInitialized || isBusy()) {
+  if (!_appInitialized || _isWriting()) {
     // Not a moment too soon, but not in a tight circle either.
     QTimer::singleShot(_appInitialized ? 50 : 0, this, [this, path] { _openFile(path); });
     return false;
@@ -76,8 +76,9 @@ void AppController::setPath(const std::optional<Path>& path) {
   const auto answer = std::make_shared<Answer>();
   _isLoading = true;
   _beginWork(tr("Looking at the folder…"));
-  _services.work.load(*path, [this, answer, opening](Result<LoadedFolder> loaded) {
-    if (opening != _opening) return;
+  // The program may end before a disk answers.
+  _services.work.load(*path, [this, self = QPointer(this), answer, opening](Result<LoadedFolder> loaded) {
+    if (!self || opening != _opening) return;
     _isLoading = false;
     _endWork();
     if (answer->isLate) {
@@ -131,7 +132,8 @@ void AppController::apply() {
   const auto answer = std::make_shared<std::optional<Result<BrandingResult>>>();
   _beginWork(tr("Applying the icon…"));
   _services.work.apply([composition = std::move(composition)] { return composition.iconImage(); }, path,
-                       [this, path, answer](Result<BrandingResult> result) {
+                       [this, self = QPointer(this), path, answer](Result<BrandingResult> result) {
+                         if (!self) return;
                          _endWork();
                          *answer = result;
                          // After this delivery: what follows may show a sheet.
@@ -167,7 +169,8 @@ void AppController::revert() {
   const Path path = *_path;
   const auto isAnswered = std::make_shared<bool>(false);
   _beginWork(tr("Putting the former icon back…"));
-  _services.work.revert(path, [this, path, isAnswered](Result<BrandingResult> result) {
+  _services.work.revert(path, [this, self = QPointer(this), path, isAnswered](Result<BrandingResult> result) {
+    if (!self) return;
     _endWork();
     *isAnswered = true;
     _reverted(path, result);
@@ -186,8 +189,8 @@ void AppController::_reverted(const Path& path, const Result<BrandingResult>& re
   const unsigned opening = _opening;
   _isLoading = true;
   _beginWork(tr("Looking at the folder…"));
-  _services.work.load(path, [this, answer, opening](const Result<LoadedFolder>& loaded) {
-    if (opening != _opening) return;
+  _services.work.load(path, [this, self = QPointer(this), answer, opening](const Result<LoadedFolder>& loaded) {
+    if (!self || opening != _opening) return;
     *answer = true;
     _isLoading = false;
     _endWork();
@@ -207,7 +210,7 @@ bool AppController::_isIconModified() const {
 }
 
 void AppController::closeFolder() {
-  if (isBusy() && !_isLoading) return;
+  if (_isWriting()) return;
   _baseTableView->clearSelection();
   setPath(std::nullopt);
   _labelTF->setStringValue(QString());

@@ -60,11 +60,11 @@ bool AppController::validateMenuItem(MenuCommand command) const {
     case MenuCommand::Looks:
       return _services.looks != nullptr;
     case MenuCommand::OpenRecent:
-      return isIdle && _services.recentFolders;
+      return !_isWriting() && _services.recentFolders;
     case MenuCommand::Open:
     case MenuCommand::CloseFolder:
     case MenuCommand::PasteFolderPath:
-      return isIdle;
+      return !_isWriting();
     default:
       return true;
   }
