@@ -35,6 +35,10 @@ RULES = """<openbox_config xmlns="http://openbox.org/3.4/rc"><focus><focusNew>ye
 <size><width>470</width><height>880</height></size></application>
 </applications></openbox_config>
 """
+# Every label that always stands in the window.
+QUIET = {"Notice", "Base Picture", "The folder’s own icon", "Original Icon", "Revert puts this icon back.", "Label",
+         "Text", "Font", "Colour", "Size", "Line Spacing", "Effect", "Transform", "Shear", "Rotation", "Opacity",
+         "The label is drawn on it. To draw on something else, choose a picture or drop one here."}
 
 
 def manager():
@@ -51,6 +55,14 @@ class Program:
 
     def __init__(self, test, process, log):
         self.test, self.process, self.log, self._application = test, process, log, None
+
+    def __enter__(self):
+        return self
+
+    def __exit__(self, *_):
+        if self.process.poll() is None:
+            self.process.kill()
+        self.process.wait()
 
     @property
     def application(self):
@@ -74,6 +86,11 @@ class Program:
 
     def wait_title(self, part):
         self.test.wait(lambda: self.find("frame", re.escape(part)), f"{part!r} in the title")
+
+    def notice(self):
+        """What the words beside the path say, if anything."""
+        names = (widget.name for widget in self.application.walk() if widget.role == "label")
+        return next((name for name in names if name not in QUIET), None)
 
     def wait_open(self, folder):
         self.wait_title("– " + os.path.basename(folder))
@@ -126,14 +143,9 @@ class WindowTest(EndToEndTest):
         with open(log, "ab") as file:
             process = subprocess.Popen([*command, WINDOW, *arguments], env={**self.environment(), **(env or {})},
                                        cwd=self.work, stdin=subprocess.DEVNULL, stdout=file, stderr=file)
-        self.addCleanup(self._kill, process)
-        return Program(self, process, log)
-
-    @staticmethod
-    def _kill(process):
-        if process.poll() is None:
-            process.kill()
-        process.wait()
+        program = Program(self, process, log)
+        self.addCleanup(program.__exit__)
+        return program
 
     def wait(self, condition, what, patience=PATIENCE):
         end = time.monotonic() + patience
