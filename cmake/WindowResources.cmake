@@ -2,7 +2,8 @@
 # quorvane_window_resources(TARGET)
 #
 # Embeds resources/cursors/*.svg as :/cursors/NAME.svg and resources/actions/*.svg as :/actions/NAME.svg. They stay
-# vectors: the program draws them at the density of the screen and in the colours of its palette.
+# vectors: the program draws them at the density of the screen and in the colours of its palette. The program's own
+# icon is embedded as :/application/SIZE.png, for where the desktop's theme has it not.
 function(quorvane_window_resources target)
   set(output ${CMAKE_BINARY_DIR}/window-resources)
   set(files)
@@ -14,6 +15,20 @@ function(quorvane_window_resources target)
       list(APPEND files ${picture})
       string(APPEND entries "<file alias=\"${folder}/${name}\">${picture}</file>\n")
     endforeach()
+  endforeach()
+  foreach(size 16 32 48 128)
+    set(source ${CMAKE_SOURCE_DIR}/resources/icons/quorvane-${size}.svg)
+    if(NOT EXISTS ${source})
+      set(source ${CMAKE_SOURCE_DIR}/resources/icons/quorvane.svg)
+    endif()
+    set(picture ${output}/application-${size}.png)
+    add_custom_command(OUTPUT ${picture}
+      COMMAND ${CMAKE_COMMAND} -E make_directory ${output}
+      COMMAND quorvane_svg2png ${source} ${size} ${size} ${picture}
+      DEPENDS quorvane_svg2png ${source}
+      COMMENT "Rendering the window's icon at ${size} pixels" VERBATIM)
+    list(APPEND files ${picture})
+    string(APPEND entries "<file alias=\"application/${size}.png\">${picture}</file>\n")
   endforeach()
   file(CONFIGURE OUTPUT ${output}/window.qrc CONTENT
     "<RCC><qresource prefix=\"/\">\n${entries}</qresource></RCC>\n" @ONLY)

@@ -56,12 +56,7 @@ std::shared_ptr<AppController> AppController::sharedController() {
 AppController::AppController(const AppServices& services) : _services(services) {
   _busyTimer.setSingleShot(true);
   _busyTimer.setInterval(briefly);
-  connect(&_busyTimer, &QTimer::timeout, this, [this] {
-    _focusBeforeWork = _mainWindow->focusWidget();
-    _mainWindow->centralWidget()->setEnabled(false);
-    _busyIndicator->begin(_busyWords);
-    Q_EMIT stateChanged();
-  });
+  connect(&_busyTimer, &QTimer::timeout, this, &AppController::_showBusy);
 }
 
 AppController::~AppController() = default;
@@ -111,23 +106,39 @@ void AppController::_notice(const QString& words) {
 
 void AppController::_beginWork(const QString& words) {
   _busyWords = words;
-  if (_busyCount++ == 0) _busyTimer.start();
+  ++_busyCount;
+  if (!_busyTimer.isActive()) _busyTimer.start();
+  Q_EMIT stateChanged();
+}
+
+void AppController::_showBusy() {
+  _busyIndicator->begin(_busyWords);
+  if (_isReading && _busyCount == 1) {
+    _applyBtn->setEnabled(false);
+    _revertBtn->setEnabled(false);
+  } else if (_mainWindow->centralWidget()->isEnabled()) {
+    _focusBeforeWork = _mainWindow->focusWidget();
+    _mainWindow->centralWidget()->setEnabled(false);
+  }
   Q_EMIT stateChanged();
 }
 
 void AppController::_endWork() {
-  if (--_busyCount > 0) return;
-  _busyTimer.stop();
+  --_busyCount;
+  if (_busyCount > int{_isReading}) return;
   if (!_mainWindow->centralWidget()->isEnabled()) {
     _mainWindow->centralWidget()->setEnabled(true);
     if (_focusBeforeWork) _focusBeforeWork->setFocus();
   }
+  if (_busyCount > 0) return _busyTimer.start();
+  _busyTimer.stop();
   _busyIndicator->end();
   Q_EMIT stateChanged();
 }
 
 void AppController::_waitBriefly(const std::function<bool()>& done) {
   if (done()) return;
+  ++_briefWaits;
   QEventLoop loop;
   QTimer end;
   end.setSingleShot(true);
@@ -135,6 +146,7 @@ void AppController::_waitBriefly(const std::function<bool()>& done) {
   end.start(briefly);
   while (!done() && end.isActive())
     loop.processEvents(QEventLoop::ExcludeUserInputEvents | QEventLoop::WaitForMoreEvents);
+  --_briefWaits;
 }
 
 QString abbreviatedPath(const std::filesystem::path& path) {

@@ -59,9 +59,15 @@ class AppController : public QObject, public HVWindowDelegate, public LabelTextF
 
   // The folder.
   void open();
-  /// False for what is no folder, and before the launch is over: then it is opened later.
-  bool applicationOpenFile(const Path& path);
-  void _openFile(const Path& path) { applicationOpenFile(path); }
+  /// Opens the folder. False for what is no folder, and when it is opened later: before the launch is over, and while
+  /// the disk does not answer. A later call replaces one that waits for its disk. `refused` is told when there is no
+  /// folder at the path, be it later.
+  bool applicationOpenFile(const Path& path, const std::function<void()>& refused = {});
+  void _openFile(const Path& path, const std::function<void()>& refused = {}) { applicationOpenFile(path, refused); }
+  /// What the program was started with: says why it cannot be opened when it cannot.
+  void openArgument(const Path& path);
+  /// The same with the address of what lies elsewhere, which never can.
+  void refuseAddress(const QString& address);
   /// Makes a folder the current one. nullopt: none; the canvas, the tables and the drawer are left alone.
   void setPath(const std::optional<Path>& path);
   [[nodiscard]] const std::optional<Path>& path() const { return _path; }
@@ -105,6 +111,7 @@ class AppController : public QObject, public HVWindowDelegate, public LabelTextF
 
   /// Any picture file as the base icon; without a folder the first step is shown.
   void chooseBasePicture();
+  /// Reads it and shows it, be it later; another picture, or another folder, replaces one that has not been read yet.
   void setBasePicture(const Path& path);
 
   // Menus.
@@ -156,12 +163,20 @@ class AppController : public QObject, public HVWindowDelegate, public LabelTextF
   void _fillRecentMenu();
   void _fillLooksMenu();
   void _setBaseReference(const BaseReference& reference);
+  void _showBaseReference(const BaseReference& reference, const Result<Image>& picture);
+  void _cancelLook();
+  void _cancelPicture();
+  void _endReading();
   /// Cut, copy and the like go to the text that has the focus; copy goes to the canvas otherwise.
   void _edit(MenuCommand command);
   void _endSliderStep();
 
   /// Busy from here until _endWork(); after a moment the window shows it.
   void _beginWork(const QString& words);
+  /// Busy with more than looking: nothing may come between.
+  [[nodiscard]] bool _isWriting() const { return _busyCount > int{_isLooking} + int{_isLoading} + int{_isReading}; }
+  /// The window shows what is being waited for. Only while a picture is read may the label be changed on.
+  void _showBusy();
   void _endWork();
   /// Takes in everything but what the user does until `done` says so, for a moment at most.
   void _waitBriefly(const std::function<bool()>& done);
@@ -171,8 +186,14 @@ class AppController : public QObject, public HVWindowDelegate, public LabelTextF
   std::optional<Path> _path;
   bool _appInitialized = false;
   bool _ignoreChangeColor = false;
-  bool _isLoading = false;
-  unsigned _opening = 0;  ///< counts setPath() calls, to tell one from a later one
+  bool _isLooking = false;  ///< whether there is a folder at the path to open
+  bool _isLoading = false;  ///< what the folder shows
+  bool _isReading = false;  ///< a base picture
+  int _briefWaits = 0;      ///< how many calls of _waitBriefly() are under way
+  // Each counts the calls of the like, to tell one from a later one.
+  unsigned _look = 0;     ///< applicationOpenFile()
+  unsigned _opening = 0;  ///< setPath()
+  unsigned _reading = 0;  ///< _setBaseReference()
   int _busyCount = 0;
   QString _busyWords;
   QTimer _busyTimer;

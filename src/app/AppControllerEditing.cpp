@@ -5,11 +5,13 @@
 
 #include "app/AppController.h"
 #include "app/BaseColumn.h"
+#include "app/BusyIndicator.h"
 #include "app/QVWindow.h"
 #include "app/Texts.h"
 #include "app/core/BasePicture.h"
 #include "app/core/EditHistory.h"
 #include "app/core/EffectPresets.h"
+#include "app/core/FolderWork.h"
 #include "composition/view/FolderView.h"
 #include "composition/view/PreviewStrip.h"
 #include "ui/ElidedLabel.h"
@@ -92,6 +94,7 @@ void AppController::resetTransform() {
 }
 
 void AppController::setBaseIcon(const std::optional<Image>& image) {
+  _cancelPicture();
   if (!image) _baseTableView->clearSelection();
   _basePicture.reset();
   _folderView->setBaseIcon(_path ? image : std::nullopt);
@@ -106,7 +109,8 @@ void AppController::setLabel(const std::optional<QString>& label) {
 }
 
 void AppController::_updateApplyButton() {
-  _applyBtn->setEnabled(_isIconModified());
+  // While the busy sign tells of a picture that is being read, nothing is written.
+  _applyBtn->setEnabled(_isIconModified() && !(_isReading && _busyIndicator->isShown()));
   Q_EMIT stateChanged();
 }
 
@@ -192,7 +196,43 @@ void AppController::setBasePicture(const Path& path) {
 }
 
 void AppController::_setBaseReference(const BaseReference& reference) {
-  auto picture = readBasePicture(reference);
+  _cancelPicture();
+  struct Answer {
+    std::optional<Result<Image>> picture;
+    bool isLate = false;
+  };
+  const auto answer = std::make_shared<Answer>();
+  const unsigned reading = _reading;
+  _isReading = true;
+  _beginWork(tr("Reading the picture…"));
+  _services.work.readPicture([read = _services.readPicture, reference] { return read(reference); },
+                             [this, self = QPointer(this), answer, reference, reading](Result<Image> picture) {
+                               if (!self || reading != _reading) return;
+                               _endReading();
+                               if (answer->isLate)
+                                 _showBaseReference(reference, picture);
+                               else
+                                 answer->picture = std::move(picture);
+                             });
+  _waitBriefly([&] { return answer->picture || reading != _reading; });
+  answer->isLate = true;
+  if (answer->picture && reading == _reading) _showBaseReference(reference, *answer->picture);
+}
+
+void AppController::_endReading() {
+  _isReading = false;
+  _endWork();
+  _revertBtn->setEnabled(_path.has_value());
+  _updateApplyButton();
+}
+
+void AppController::_cancelPicture() {
+  ++_reading;
+  _services.work.cancelPicture();
+  if (_isReading) _endReading();
+}
+
+void AppController::_showBaseReference(const BaseReference& reference, const Result<Image>& picture) {
   const QString name = visibleText(QFile::decodeName(reference.shown().filename().c_str()));
   if (!picture) {
     _notice(tr("“%1” cannot be used: %2").arg(name, visibleText(QString::fromStdString(picture.error().why()))));

@@ -2,6 +2,7 @@
 // The folder: in, applied to, put back, and gone.
 #include <QFile>
 #include <QPushButton>
+#include <utility>
 
 #include "app/AppController.h"
 #include "app/Drawer.h"
@@ -12,7 +13,6 @@
 #include "app/core/SettingsTable.h"
 #include "app/core/UserPrompts.h"
 #include "composition/view/FolderView.h"
-#include "foundation/FileManagerExtras.h"
 #include "foundation/UserDefaults.h"
 #include "foundation/base/Log.h"
 #include "ui/ElidedLabel.h"
@@ -26,26 +26,69 @@ void AppController::open() {
   });
 }
 
-bool AppController::applicationOpenFile(const Path& path) {
-  if (!_appInitialized || isBusy()) {
+bool AppController::applicationOpenFile(const Path& path, const std::function<void()>& refused) {
+  if (!_appInitialized || _isWriting() || _briefWaits > 0) {
     // Not a moment too soon, but not in a tight circle either.
-    QTimer::singleShot(_appInitialized ? 50 : 0, this, [this, path] { _openFile(path); });
+    QTimer::singleShot(_appInitialized ? 50 : 0, this, [this, path, refused] { _openFile(path, refused); });
     return false;
   }
-  if (!isDirectory(path)) return false;
-  _folderView->centerLabel();
-  setPath(path);
-  return true;
+  _cancelLook();
+  struct Answer {
+    std::optional<bool> isFolder;
+    bool isLate = false;
+  };
+  const auto answer = std::make_shared<Answer>();
+  const auto take = [this, path, refused](bool isFolder) {
+    if (isFolder) {
+      _folderView->centerLabel();
+      setPath(path);
+    } else if (refused) {
+      refused();
+    }
+    return isFolder;
+  };
+  const unsigned look = ++_look;
+  _isLooking = true;
+  _beginWork(tr("Looking at the folder…"));
+  _services.work.look(path, [this, self = QPointer(this), answer, take, look](bool isFolder) {
+    if (!self || look != _look) return;
+    _isLooking = false;
+    _endWork();
+    answer->isFolder = isFolder;
+    if (answer->isLate) take(isFolder);
+  });
+  _waitBriefly([&] { return answer->isFolder || look != _look; });
+  answer->isLate = true;
+  return answer->isFolder && look == _look && take(*answer->isFolder);
+}
+
+void AppController::_cancelLook() {
+  ++_look;
+  _services.work.cancelLook();
+  if (!std::exchange(_isLooking, false)) return;
+  _endWork();
+}
+
+void AppController::openArgument(const Path& path) {
+  applicationOpenFile(path, [this, path] {
+    std::error_code ignored;
+    const QString shown = visibleText(QFile::decodeName(path.filename().c_str()));
+    _notice(std::filesystem::exists(path, ignored) ? tr("“%1” is no folder.").arg(shown)
+                                                   : tr("“%1” is not there.").arg(shown));
+  });
+}
+
+void AppController::refuseAddress(const QString& address) {
+  _notice(tr("“%1” cannot be opened: only folders on this computer can.").arg(visibleText(address.left(200))));
 }
 
 void AppController::setPath(const std::optional<Path>& path) {
   const unsigned opening = ++_opening;
   _endSliderStep();
   _services.work.cancelLoad();
-  if (_isLoading) {
-    _isLoading = false;
-    _endWork();
-  }
+  if (std::exchange(_isLoading, false)) _endWork();
+  _cancelLook();
+  _cancelPicture();
   _path = path;
   if (!path) {
     _pathTF->setText(QString());
@@ -76,8 +119,9 @@ void AppController::setPath(const std::optional<Path>& path) {
   const auto answer = std::make_shared<Answer>();
   _isLoading = true;
   _beginWork(tr("Looking at the folder…"));
-  _services.work.load(*path, [this, answer, opening](Result<LoadedFolder> loaded) {
-    if (opening != _opening) return;
+  // The program may end before a disk answers.
+  _services.work.load(*path, [this, self = QPointer(this), answer, opening](Result<LoadedFolder> loaded) {
+    if (!self || opening != _opening) return;
     _isLoading = false;
     _endWork();
     if (answer->isLate) {
@@ -131,7 +175,8 @@ void AppController::apply() {
   const auto answer = std::make_shared<std::optional<Result<BrandingResult>>>();
   _beginWork(tr("Applying the icon…"));
   _services.work.apply([composition = std::move(composition)] { return composition.iconImage(); }, path,
-                       [this, path, answer](Result<BrandingResult> result) {
+                       [this, self = QPointer(this), path, answer](Result<BrandingResult> result) {
+                         if (!self) return;
                          _endWork();
                          *answer = result;
                          // After this delivery: what follows may show a sheet.
@@ -167,7 +212,8 @@ void AppController::revert() {
   const Path path = *_path;
   const auto isAnswered = std::make_shared<bool>(false);
   _beginWork(tr("Putting the former icon back…"));
-  _services.work.revert(path, [this, path, isAnswered](Result<BrandingResult> result) {
+  _services.work.revert(path, [this, self = QPointer(this), path, isAnswered](Result<BrandingResult> result) {
+    if (!self) return;
     _endWork();
     *isAnswered = true;
     _reverted(path, result);
@@ -186,8 +232,8 @@ void AppController::_reverted(const Path& path, const Result<BrandingResult>& re
   const unsigned opening = _opening;
   _isLoading = true;
   _beginWork(tr("Looking at the folder…"));
-  _services.work.load(path, [this, answer, opening](const Result<LoadedFolder>& loaded) {
-    if (opening != _opening) return;
+  _services.work.load(path, [this, self = QPointer(this), answer, opening](const Result<LoadedFolder>& loaded) {
+    if (!self || opening != _opening) return;
     *answer = true;
     _isLoading = false;
     _endWork();
@@ -207,7 +253,7 @@ bool AppController::_isIconModified() const {
 }
 
 void AppController::closeFolder() {
-  if (isBusy() && !_isLoading) return;
+  if (_isWriting()) return;
   _baseTableView->clearSelection();
   setPath(std::nullopt);
   _labelTF->setStringValue(QString());

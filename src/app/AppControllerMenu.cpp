@@ -60,11 +60,11 @@ bool AppController::validateMenuItem(MenuCommand command) const {
     case MenuCommand::Looks:
       return _services.looks != nullptr;
     case MenuCommand::OpenRecent:
-      return isIdle && _services.recentFolders;
+      return !_isWriting() && _services.recentFolders;
     case MenuCommand::Open:
     case MenuCommand::CloseFolder:
     case MenuCommand::PasteFolderPath:
-      return isIdle;
+      return !_isWriting();
     default:
       return true;
   }
@@ -92,7 +92,9 @@ void AppController::pasteFolderPath() {
     path = address.isLocalFile() ? localPath(address) : std::optional<Path>(QFile::encodeName(text).toStdString());
     if (path && !path->is_absolute()) path.reset();
   }
-  if (!path || !applicationOpenFile(*path)) _notice(tr("The clipboard holds no path of a folder."));
+  const auto refuse = [this] { _notice(tr("The clipboard holds no path of a folder.")); };
+  if (!path) return refuse();
+  applicationOpenFile(*path, refuse);
 }
 
 void AppController::showInFileManager() {
@@ -193,7 +195,7 @@ void AppController::_fillRecentMenu() {
     QAction* action = menu.addAction(folder.isMissing ? tr("%1 (missing)").arg(shown) : shown);
     action->setEnabled(!folder.isMissing);
     connect(action, &QAction::triggered, this, [this, path = folder.path] {
-      if (!applicationOpenFile(path)) _notice(tr("The folder is not there any more."));
+      applicationOpenFile(path, [this] { _notice(tr("The folder is not there any more.")); });
     });
   }
   if (folders.empty()) menu.addAction(tr("No Recent Folders"))->setEnabled(false);

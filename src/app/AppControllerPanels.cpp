@@ -76,13 +76,13 @@ void AppController::_connectControls() {
   _connectSlider(*_opacitySlider, &AppController::setOpacity);
 
   connect(_folderView, &FolderView::setPath, this, [this](const Path& path) {
-    if (!isBusy()) setPath(path);
+    if (!_isWriting()) setPath(path);
   });
   connect(_folderView, &FolderView::activationRequested, _mainWindow, &QVWindow::bringToFront);
   connect(_folderView, &FolderView::dropRefused, this, &AppController::_notice);
   connect(_folderView, &FolderView::compositionChanged, this, &AppController::_canvasChanged);
   connect(_mainWindow, &QVWindow::folderDropped, this, [this](const Path& path) {
-    if (!isBusy() && applicationOpenFile(path)) _mainWindow->bringToFront();
+    if (!_isWriting() && applicationOpenFile(path)) _mainWindow->bringToFront();
   });
   connect(_mainWindow, &QVWindow::dropRefused, this, &AppController::_notice);
   connect(_baseColumn, &BaseColumn::choosePicture, this, &AppController::chooseBasePicture);

@@ -6,6 +6,7 @@
 #include <optional>
 #include <vector>
 
+#include "app/core/BasePicture.h"
 #include "system/RecentFolders.h"
 
 class QWidget;
@@ -31,6 +32,8 @@ struct AppServices {
   FolderWork& work;
   LookStore* looks = nullptr;  ///< none: looks cannot be kept
 
+  /// Called on a thread of its own.
+  std::function<Result<Image>(const BaseReference&)> readPicture = readBasePicture;
   Chooser chooseFolder = {};
   Chooser choosePicture = {};
   std::function<void(const Path& folder)> noteRecentFolder = {};

@@ -2,7 +2,6 @@
 #include "app/Application.h"
 
 #include <QApplication>
-#include <QIcon>
 #include <cstdio>
 
 #include "app/AppController.h"
@@ -18,7 +17,6 @@
 #include "app/core/LookStore.h"
 #include "app/core/SettingsTable.h"
 #include "composition/view/FolderView.h"
-#include "foundation/FileManagerExtras.h"
 #include "foundation/SettingsFile.h"
 #include "foundation/UserDefaults.h"
 #include "foundation/base/Log.h"
@@ -31,6 +29,7 @@
 #include "system/Links.h"
 #include "system/Reveal.h"
 #include "system/SingleInstance.h"
+#include "ui/ApplicationIcon.h"
 #include "ui/DesktopAppearance.h"
 #include "ui/SharedPanels.h"
 #include "ui/Theme.h"
@@ -80,7 +79,7 @@ int runApplication(int argc, char** argv) {
   QCoreApplication::setApplicationName(QStringLiteral("Quorvane"));
   QCoreApplication::setApplicationVersion(QStringLiteral(QUORVANE_VERSION));
   QGuiApplication::setDesktopFileName(QStringLiteral(QUORVANE_APP_ID));
-  QGuiApplication::setWindowIcon(QIcon::fromTheme(QStringLiteral(QUORVANE_APP_ID)));
+  QGuiApplication::setWindowIcon(applicationIcon(QStringLiteral(QUORVANE_APP_ID)));
   // The panels are windows too: the main one alone decides.
   QGuiApplication::setQuitOnLastWindowClosed(false);
 
@@ -150,13 +149,14 @@ int runApplication(int argc, char** argv) {
   controller->outlets()._folderView->awakeFromNib(settings::startFont(defaults));
   window.show();
   const auto open = [&](const OpenRequest& wish) {
-    for (const auto& folder : wish.paths) controller->applicationOpenFile(folder);
+    for (const auto& folder : wish.paths) controller->openArgument(folder);
+    for (const auto& address : wish.otherAddresses) controller->refuseAddress(QString::fromStdString(address));
   };
   for (const auto& folder : request.paths) {
-    if (!isDirectory(folder))
+    controller->applicationOpenFile(folder, [folder] {
       std::fprintf(stderr, "quorvane-window: %s: this is no folder\n", printable(folder).c_str());
+    });
   }
-  open(request);
   instance.setHandler([&](const OpenRequest& wish) {
     // What the desktop gave the other process lets this window come to the front.
     if (!wish.activationToken.empty()) qputenv("XDG_ACTIVATION_TOKEN", QByteArray::fromStdString(wish.activationToken));

@@ -81,13 +81,10 @@ QWidget* makeCanvasColumn(Outlets& outlets) {
   layout->addWidget(outlets._labelTF);
 
   outlets._previewStrip = new PreviewStrip(writtenForms);
-  // Without a folder there is nothing to preview; its place stays.
   // The two grounds stand side by side at every width: one above the other they would push the canvas away.
   column->setMinimumWidth(outlets._previewStrip->sizeHint().width());
   outlets._previewStrip->setFixedHeight(outlets._previewStrip->sizeHint().height());
-  QSizePolicy policy = outlets._previewStrip->sizePolicy();
-  policy.setRetainSizeWhenHidden(true);
-  outlets._previewStrip->setSizePolicy(policy);
+  // Without a folder there is nothing to preview: then the canvas has its place.
   outlets._previewStrip->hide();
   layout->addSpacing(layoutGap / 2);
   layout->addWidget(outlets._previewStrip);

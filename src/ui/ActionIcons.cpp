@@ -74,7 +74,7 @@ class ActionIconEngine : public QIconEngine {
 }  // namespace
 
 QIcon actionIcon(const QString& name, QPalette::ColorRole role) {
-  QByteArray drawing = windowResource(QStringLiteral("actions/") + name);
+  QByteArray drawing = windowResource(QStringLiteral("actions/") + name + QLatin1String(".svg"));
   return drawing.isEmpty() ? QIcon() : QIcon(new ActionIconEngine(name, std::move(drawing), role));
 }
 

@@ -17,7 +17,7 @@ constexpr int side = 16;
 constexpr int hotSpot = 8;
 
 QCursor cursorNamed(const char* name) {
-  QSvgRenderer drawing(windowResource(QStringLiteral("cursors/") + QLatin1String(name)));
+  QSvgRenderer drawing(windowResource(QStringLiteral("cursors/") + QLatin1String(name) + QLatin1String(".svg")));
   const double ratio = std::ceil(qGuiApp->devicePixelRatio());
   const int pixels = static_cast<int>(side * ratio);
   QImage image(pixels, pixels, QImage::Format_ARGB32_Premultiplied);

@@ -16,7 +16,7 @@ QByteArray windowResource(const QString& name) {
     initialiseWindowResources();
     return true;
   }();
-  QFile file(QStringLiteral(":/%1.svg").arg(name));
+  QFile file(QStringLiteral(":/%1").arg(name));
   return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 

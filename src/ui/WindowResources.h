@@ -6,8 +6,8 @@
 
 namespace quorvane {
 
-/// The bytes of an embedded vector picture, `name` being "actions/open" or "cursors/cursor_cross"; empty when there is
-/// none of that name.
+/// The bytes of an embedded picture, `name` being "actions/open.svg", "cursors/cursor_cross.svg" or
+/// "application/48.png"; empty when there is none of that name.
 QByteArray windowResource(const QString& name);
 
 }  // namespace quorvane

@@ -7,6 +7,8 @@
 #include <latch>
 
 #include "TestWindow.h"
+#include "app/BusyIndicator.h"
+#include "app/NoticeLabel.h"
 #include "app/core/EditHistory.h"
 #include "app/core/EffectPresets.h"
 #include "composition/view/ImageView.h"
@@ -285,6 +287,61 @@ TEST(AppControllerBusyTest, ASlowDiskLeavesTheWindowAliveAndItsControlsDisabled)
   EXPECT_FALSE(test.ui()._mainMenu->action(MenuCommand::Apply)->isEnabled());
   slow.go.count_down();
   EXPECT_TRUE(QTest::qWaitFor([&] { return state(test) == "-rl-Rdfp-"; })) << state(test);
+}
+
+TEST(AppControllerBusyTest, OfWhatADiskStillOwesTheLastChoiceIsShown) {
+  /// Answers for "stuck" when it is let go, for all else at once.
+  struct SlowKinds : OwnKindIcons {
+    std::latch go{1};
+    [[nodiscard]] std::optional<Image> iconForKindOfFile(const std::filesystem::path& path) const override {
+      if (path.filename() == "stuck") go.wait();
+      return OwnKindIcons::iconForKindOfFile(path);
+    }
+  } slow;
+  std::latch picturesGo{1};
+  TestWindow test({.mode = WorkQueue::Mode::InBackground,
+                   .kinds = &slow,
+                   .readPicture = [&](const BaseReference& wanted) -> Result<Image> {
+                     picturesGo.wait();
+                     if (wanted.path == "none") return Error::invalidInput("the file holds no picture");
+                     return plainImage(wanted.path == "last" ? Qt::red : Qt::green);
+                   }});
+  test.launch();
+  EXPECT_TRUE(QTest::qWaitForWindowActive(&test.window));
+  AppController& controller = *test.controller;
+  const Outlets& ui = test.ui();
+  const auto isShown = [&](const char* wanted) {
+    EXPECT_TRUE(QTest::qWaitFor([&] { return state(test) == wanted; })) << wanted << " is " << state(test);
+  };
+
+  // A folder hangs; whether the next ones are folders cannot be told until it is let go.
+  std::filesystem::create_directory(test.tree / "stuck");
+  controller.applicationOpenFile(test.tree / "stuck");
+  isShown("-------p-");
+  int refused = 0;
+  EXPECT_FALSE(controller.applicationOpenFile(test.tree / "nowhere", [&] { ++refused; }));
+  EXPECT_FALSE(controller.applicationOpenFile(test.folder, [&] { ++refused; }));
+  EXPECT_TRUE(ui._busyIndicator->isShown());
+  EXPECT_EQ(controller.path(), test.tree / "stuck");
+  slow.go.count_down();
+  EXPECT_TRUE(QTest::qWaitFor([&] { return controller.path() == test.folder && !controller.isBusy(); }));
+  isShown("-rl---fp-");
+  EXPECT_EQ(refused, 0);
+  EXPECT_FALSE(controller.applicationOpenFile(test.tree / "nowhere", [&] { ++refused; }));
+  EXPECT_EQ(refused, 1);
+
+  // Pictures hang: the label can be typed on, and nothing is written.
+  QTest::keyClicks(ui._labelTF, QStringLiteral("Tax"));
+  for (const char* name : {"first", "none", "last"}) controller.setBasePicture(name);
+  EXPECT_TRUE(QTest::qWaitFor([&] { return ui._busyIndicator->isShown(); }));
+  QTest::keyClicks(ui._labelTF, QStringLiteral("es"));
+  isShown("--l---fpt");
+  EXPECT_FALSE(ui._folderView->baseIcon());
+  picturesGo.count_down();
+  isShown("arlA--fpt");
+  ASSERT_TRUE(ui._folderView->baseIcon());
+  EXPECT_EQ(ui._folderView->baseIcon()->rendered(8, 8).toImage().pixelColor(4, 4), QColor(Qt::red));
+  EXPECT_TRUE(ui._noticeLabel->text().isEmpty());
 }
 
 }  // namespace

@@ -33,12 +33,14 @@ struct TestWindow {
     WorkQueue::Mode mode = WorkQueue::Mode::AtOnce;
     UserPrompts* prompts = nullptr;         ///< in place of the scripted ones
     FileManagerNotices* notices = nullptr;  ///< in place of the recording ones
+    KindIcons* kinds = nullptr;             ///< in place of the program's own
+    std::function<Result<Image>(const BaseReference&)> readPicture = readBasePicture;
   };
 
   TestWindow() : TestWindow(Options()) {}
   explicit TestWindow(const Options& options)
       : services{.forks = forks,
-                 .kinds = kinds,
+                 .kinds = options.kinds ? *options.kinds : kinds,
                  .notices = options.notices ? *options.notices : notices,
                  .families = nullptr,
                  .marks = marks.get()},
@@ -54,6 +56,7 @@ struct TestWindow {
                                       .panels = panels,
                                       .work = work,
                                       .looks = &looks,
+                                      .readPicture = options.readPicture,
                                       .chooseFolder = choose,
                                       .choosePicture = choose,
                                       .revealInFileManager = [this](const auto& path) { revealed.push_back(path); },

@@ -8,6 +8,7 @@
 #include <QImage>
 
 #include "ui/ActionIcons.h"
+#include "ui/ApplicationIcon.h"
 #include "ui/ColorText.h"
 #include "ui/DesktopAppearance.h"
 
@@ -97,6 +98,7 @@ TEST(ActionIconsTest, AllAreThereAndFillTheirSquare) {
     }
   }
   EXPECT_TRUE(actionIcon(QStringLiteral("nonesuch")).isNull());
+  EXPECT_EQ(applicationIcon(QStringLiteral("nonesuch")).availableSizes().size(), 4);
 }
 
 }  // namespace

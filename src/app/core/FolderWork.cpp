@@ -3,6 +3,7 @@
 
 #include <utility>
 
+#include "foundation/FileManagerExtras.h"
 #include "foundation/Folder.h"
 #include "foundation/base/Limits.h"
 #include "foundation/base/Log.h"
@@ -43,12 +44,28 @@ Result<LoadedFolder> loadFolder(const FolderBranding& branding, const std::files
   return loaded;
 }
 
+void cancel(WorkQueue& queue, std::optional<WorkQueue::Ticket>& ticket) {
+  if (ticket) queue.cancel(*ticket);
+  ticket.reset();
+}
+
 }  // namespace
 
 FolderWork::FolderWork(const IconServices& services, WorkQueue::Mode mode)
     : _branding(services, [this](std::chrono::milliseconds delay,
                                  std::function<void()> what) { _queue.addLater(delay, std::move(what)); }),
+      _pictures(mode),
       _queue(mode) {}
+
+void FolderWork::look(const std::filesystem::path& path, Answer<bool> answer) {
+  cancelLook();
+  _look = _queue.add(WorkQueue::Importance::MayBeDropped,
+                     [path, answer = std::move(answer)] { return [is = isDirectory(path), answer] { answer(is); }; });
+}
+
+void FolderWork::cancelLook() {
+  cancel(_queue, _look);
+}
 
 void FolderWork::load(const std::filesystem::path& path, Answer<Result<LoadedFolder>> answer) {
   cancelLoad();
@@ -58,8 +75,26 @@ void FolderWork::load(const std::filesystem::path& path, Answer<Result<LoadedFol
 }
 
 void FolderWork::cancelLoad() {
-  if (_load) _queue.cancel(*_load);
-  _load.reset();
+  cancel(_queue, _load);
+}
+
+void FolderWork::readPicture(PictureReader reader, Answer<Result<Image>> answer) {
+  cancelPicture();
+  _picture =
+      _pictures.add(WorkQueue::Importance::MayBeDropped, [reader = std::move(reader), answer = std::move(answer)] {
+        auto picture = reader();
+        if (picture) decode(*picture);
+        return [picture = std::move(picture), answer] { answer(picture); };
+      });
+}
+
+void FolderWork::cancelPicture() {
+  cancel(_pictures, _picture);
+}
+
+bool FolderWork::finish(std::chrono::milliseconds patience) {
+  cancelPicture();
+  return _queue.finish(patience);
 }
 
 void FolderWork::change(std::function<Result<BrandingResult>()> work, Answer<Result<BrandingResult>> answer) {

@@ -21,9 +21,9 @@ constexpr int gap = 16;
 constexpr int spacing = 12;
 constexpr double cornerRadius = 10;
 
-/// Places of the icons within a ground, in the order of previewSizes: the largest, then two columns of two that stand
-/// on common lines.
-constexpr std::array iconPlaces{
+/// Places of the icons within the smallest ground, in the order of previewSizes: the largest, then two columns of two
+/// that stand on common lines.
+constexpr std::array iconOrigins{
     QPoint(padding, padding),
     QPoint(padding + 128 + gap, padding),
     QPoint(padding + 128 + gap, padding + 128 - 48),
@@ -31,7 +31,7 @@ constexpr std::array iconPlaces{
     QPoint(padding + 128 + gap + 64 + gap, padding + 128 - 16),
 };
 constexpr QSize groundSize(padding + 128 + gap + 64 + gap + 32 + padding, padding + 128 + padding);
-static_assert(iconPlaces.size() == previewSizes.size());
+static_assert(iconOrigins.size() == previewSizes.size());
 
 // Not the palette's: they stand for the windows of file managers, light and dark, whatever ours is.
 struct Ground {
@@ -131,9 +131,19 @@ QSize PreviewStrip::minimumSizeHint() const {
 }
 
 std::array<QRect, 2> PreviewStrip::grounds() const {
-  const QRect first(QPoint(), groundSize);
-  return {first, fitsSideBySide(width()) ? first.translated(groundSize.width() + spacing, 0)
-                                         : first.translated(0, groundSize.height() + spacing)};
+  const int high = groundSize.height();
+  if (!fitsSideBySide(width())) return {QRect(0, 0, width(), high), QRect(0, high + spacing, width(), high)};
+  // An odd pixel goes into the gap.
+  const int wide = (width() - spacing) / 2;
+  return {QRect(0, 0, wide, high), QRect(width() - wide, 0, wide, high)};
+}
+
+std::array<QRect, previewSizes.size()> PreviewStrip::iconPlaces(const QRect& ground) {
+  const QPoint left = ground.topLeft() + QPoint((ground.width() - groundSize.width()) / 2, 0);
+  std::array<QRect, previewSizes.size()> places;
+  for (std::size_t i = 0; i < places.size(); ++i)
+    places[i] = QRect(left + iconOrigins[i], QSize(previewSizes[i], previewSizes[i]));
+  return places;
 }
 
 QRect PreviewStrip::hintRect() const {
@@ -166,8 +176,9 @@ void PreviewStrip::drawIcons(QPainter& painter) {
   painter.save();
   enterPixels(painter);
   for (const QRect& ground : grounds()) {
-    for (std::size_t i = 0; i < previewSizes.size(); ++i) {
-      const QPointF place = QPointF(ground.topLeft() + iconPlaces[i]) * density;
+    const auto places = iconPlaces(ground);
+    for (std::size_t i = 0; i < places.size(); ++i) {
+      const QPointF place = QPointF(places[i].topLeft()) * density;
       const double side = std::round(previewSizes[i] * density);
       if (!_icons.icons[i].isNull())
         painter.drawImage(QRectF(QPointF(place.toPoint()), QSizeF(side, side)), _icons.icons[i]);
@@ -180,10 +191,9 @@ bool PreviewStrip::event(QEvent* event) {
   if (event->type() != QEvent::ToolTip) return QWidget::event(event);
   const auto* help = static_cast<QHelpEvent*>(event);
   for (const QRect& ground : grounds()) {
-    for (std::size_t i = 0; i < previewSizes.size(); ++i) {
-      const QRect place(ground.topLeft() + iconPlaces[i], QSize(previewSizes[i], previewSizes[i]));
+    for (const QRect& place : iconPlaces(ground)) {
       if (!place.contains(help->pos())) continue;
-      QToolTip::showText(help->globalPos(), tr("%1 × %1 pixels").arg(locale().toString(previewSizes[i])), this, place);
+      QToolTip::showText(help->globalPos(), tr("%1 × %1 pixels").arg(locale().toString(place.width())), this, place);
       return true;
     }
   }

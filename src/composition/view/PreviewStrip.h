@@ -14,8 +14,8 @@ namespace quorvane {
 class IconComposition;
 
 /// Shows the icon as it will look in file managers: at 128, 64, 48, 32 and 16 pixels, on a light and on a dark ground,
-/// and in a line below what would make its label hard to read. The two grounds stand side by side where there is room,
-/// else one below the other.
+/// and in a line below what would make its label hard to read. The two grounds share the width side by side where there
+/// is room, else one stands below the other.
 ///
 /// All is computed in a thread of its own. While one preview is being made only the latest wish is kept, so that
 /// showing a composition anew at every step of a drag costs the caller next to nothing.
@@ -50,6 +50,8 @@ class PreviewStrip : public QWidget {
 
  private:
   [[nodiscard]] std::array<QRect, 2> grounds() const;
+  /// Where the icons stand, in the order of previewSizes: in the middle of the ground.
+  [[nodiscard]] static std::array<QRect, previewSizes.size()> iconPlaces(const QRect& ground);
   [[nodiscard]] QRect hintRect() const;
   void drawIcons(QPainter& painter);
   void start(PreviewSubject subject);

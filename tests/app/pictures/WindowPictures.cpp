@@ -59,7 +59,7 @@ void type(const TestWindow& test, const QString& text) {
 
 void edit(TestWindow& test) {
   test.controller->applicationOpenFile(test.folder);
-  test.controller->setFont({QStringLiteral("Noto Sans"), QStringLiteral("Bold"), 27});
+  test.controller->setFont({QStringLiteral("Noto Sans"), QStringLiteral("Bold"), 24});
   test.controller->setColor(Qt::white);
   test.controller->_setEffect(2);
   test.ui()._folderView->setCanvasLabelCenter({64, 55});
@@ -73,6 +73,9 @@ void takeAll(Pictures& pictures) {
   test.launch();
   test.window.resize(1180, 690);
   pictures.take(test.window, QStringLiteral("1-empty"));
+  test.window.resize(1920, 1080);
+  pictures.take(test.window, QStringLiteral("1-empty-large"));
+  test.window.resize(1180, 690);
 
   QMimeData dragged;
   dragged.setUrls({QUrl::fromLocalFile(QString::fromStdString(test.folder.string()))});
@@ -84,6 +87,9 @@ void takeAll(Pictures& pictures) {
 
   edit(test);
   pictures.take(test.window, QStringLiteral("3-editing"));
+  test.window.resize(1920, 1080);
+  pictures.take(test.window, QStringLiteral("3-editing-large"));
+  test.window.resize(1180, 690);
   test.controller->apply();
   settle();
   edit(test);
@@ -92,6 +98,12 @@ void takeAll(Pictures& pictures) {
   test.controller->setBaseIcon(plainImage(QColor(QStringLiteral("#3a9d5d")), 512));
   test.ui()._folderView->setMagnification(3);
   pictures.take(test.window, QStringLiteral("5-base-picture"));
+
+  test.panels.colorPanel().showPanel();
+  pictures.take(test.panels.colorPanel(), QStringLiteral("11-color-panel"));
+  test.panels.colorPanel().hidePanel();
+  test.panels.fontPanel().showPanel();
+  pictures.take(test.panels.fontPanel(), QStringLiteral("12-font-panel"));
 }
 
 void takeSheets(Pictures& pictures) {
