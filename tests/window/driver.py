@@ -28,7 +28,6 @@ TOOLS = {"Xvfb": "xvfb", "openbox": "openbox", "xdotool": "xdotool", "import": "
          "dbus-daemon": "dbus-daemon", "/usr/libexec/at-spi-bus-launcher": "at-spi2-core"}
 RULES = """<openbox_config xmlns="http://openbox.org/3.4/rc"><focus><focusNew>yes</focusNew></focus><applications>
 <application class="*" type="normal"><decor>no</decor></application>
-<application class="quorvane*" title="Quorvane*"><position force="no"><x>480</x><y>20</y></position></application>
 <application class="pcmanfm-qt"><position force="yes"><x>0</x><y>0</y></position>
 <size><width>470</width><height>880</height></size></application>
 <application class="Thunar"><position force="yes"><x>0</x><y>0</y></position>
@@ -84,6 +83,13 @@ class Program:
     def is_enabled(self, role, name):
         return self.get(role, name).has(accessible.ENABLED)
 
+    def move_aside(self):
+        """So that nothing of the file manager is covered."""
+        self.wait_title("")
+        found = self.test.xdotool("search", "--onlyvisible", "--pid", self.process.pid, "--name", "Quorvane")
+        self.test.xdotool("windowmove", found[0], 480, 60)
+        self.test.wait(lambda: abs(self.get("frame").extents[0] - 480) < 9, "the window to move")
+
     def wait_title(self, part):
         self.test.wait(lambda: self.find("frame", re.escape(part)), f"{part!r} in the title")
 
@@ -94,7 +100,7 @@ class Program:
 
     def wait_open(self, folder):
         self.wait_title("– " + os.path.basename(folder))
-        self.test.wait(lambda: self.get("text", "^Label$").has(accessible.ENABLED), "the label field")
+        self.test.wait(lambda: self.get("text", "^Label$").has(accessible.FOCUSED), "the label field")
 
     def end(self, with_signal=signal.SIGTERM):
         """Asks it to end; the exit code."""

@@ -63,7 +63,7 @@ class StartsTest(WindowTest):
                 self.hand_over(argument)
                 said = self.wait(lambda: program.notice(), "a word about it")
                 self.assertIn(os.path.basename(argument), said)
-                program.wait_open(one)
+                program.wait_title("– one")
                 self.hand_over(one)  # so that the next word is a new one
                 self.wait(lambda: not program.notice(), "the notice to go", patience=30)
         self.assertEqual(program.end(), 0)
