@@ -23,14 +23,12 @@ from support import BUILD, EndToEndTest
 WINDOW = os.environ.get("QUORVANE_WINDOW", "")
 PATIENCE = float(os.environ.get("QUORVANE_PATIENCE", "10"))
 SIZE = (1680, 900)
-MANAGERS = ("pcmanfm-qt", "thunar")  # whichever is there
+MANAGER = "pcmanfm-qt"
 TOOLS = {"Xvfb": "xvfb", "openbox": "openbox", "xdotool": "xdotool", "import": "imagemagick", "xclip": "xclip",
-         "dbus-daemon": "dbus-daemon", "/usr/libexec/at-spi-bus-launcher": "at-spi2-core"}
+         "dbus-daemon": "dbus-daemon", MANAGER: MANAGER, "/usr/libexec/at-spi-bus-launcher": "at-spi2-core"}
 RULES = """<openbox_config xmlns="http://openbox.org/3.4/rc"><focus><focusNew>yes</focusNew></focus><applications>
 <application class="*" type="normal"><decor>no</decor></application>
 <application class="pcmanfm-qt"><position force="yes"><x>0</x><y>0</y></position>
-<size><width>470</width><height>880</height></size></application>
-<application class="Thunar"><position force="yes"><x>0</x><y>0</y></position>
 <size><width>470</width><height>880</height></size></application>
 </applications></openbox_config>
 """
@@ -40,13 +38,8 @@ QUIET = {"Notice", "Base Picture", "The folder’s own icon", "Original Icon", "
          "The label is drawn on it. To draw on something else, choose a picture or drop one here."}
 
 
-def manager():
-    return next((name for name in MANAGERS if shutil.which(name)), None)
-
-
 def missing():
-    packages = [package for program, package in TOOLS.items() if not shutil.which(program)]
-    return packages + ([] if manager() else ["one of " + ", ".join(MANAGERS)])
+    return [package for program, package in TOOLS.items() if not shutil.which(program)]
 
 
 class Program:
@@ -201,10 +194,9 @@ class WindowTest(EndToEndTest):
 
     def open_manager(self, folder):
         """A file manager beside the window; what gives its items' places."""
-        chosen = manager()
-        self.desktop.open(chosen, folder)
-        self.addCleanup(self.desktop.end_manager, chosen)
-        pids = [pid for pid in session.descendants(os.getpid()) if session.name_of(pid).lower() == chosen]
+        self.desktop.open(MANAGER, folder)
+        self.addCleanup(self.desktop.end_manager, MANAGER)
+        pids = [pid for pid in session.descendants(os.getpid()) if session.name_of(pid) == MANAGER]
         shown = accessible.application(self.accessibility, pids[0])
         return lambda name: self.wait(lambda: next((w for w in shown.walk() if w.name == name), None), name).extents
 

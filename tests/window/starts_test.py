@@ -61,11 +61,8 @@ class StartsTest(WindowTest):
         for argument in ("sftp://host/folder", "smb://host/share", self.work + "/not there", one + "/letter.txt"):
             with self.subTest(argument=argument):
                 self.hand_over(argument)
-                said = self.wait(lambda: program.notice(), "a word about it")
-                self.assertIn(os.path.basename(argument), said)
+                self.wait(lambda: os.path.basename(argument) in (program.notice() or ""), "a word about it")
                 program.wait_title("– one")
-                self.hand_over(one)  # so that the next word is a new one
-                self.wait(lambda: not program.notice(), "the notice to go", patience=30)
         self.assertEqual(program.end(), 0)
 
     def test_without_a_bus_it_works_and_ends(self):
