@@ -17,7 +17,7 @@ namespace {
 using Bytes = std::vector<std::uint8_t>;
 
 // Places in a file at which it is cut and changed; larger files are tried at that many, evenly spread.
-constexpr std::size_t places = 400;
+constexpr std::size_t places = 120;
 
 // From the heap and no longer than the input, so that a read behind its end is seen.
 void feed(const Bytes& bytes) {

@@ -69,6 +69,19 @@ void AppController::_cancelLook() {
   _endWork();
 }
 
+void AppController::openArgument(const Path& path) {
+  applicationOpenFile(path, [this, path] {
+    std::error_code ignored;
+    const QString shown = visibleText(QFile::decodeName(path.filename().c_str()));
+    _notice(std::filesystem::exists(path, ignored) ? tr("“%1” is no folder.").arg(shown)
+                                                   : tr("“%1” is not there.").arg(shown));
+  });
+}
+
+void AppController::refuseAddress(const QString& address) {
+  _notice(tr("“%1” cannot be opened: only folders on this computer can.").arg(visibleText(address.left(200))));
+}
+
 void AppController::setPath(const std::optional<Path>& path) {
   const unsigned opening = ++_opening;
   _endSliderStep();

@@ -149,7 +149,8 @@ int runApplication(int argc, char** argv) {
   controller->outlets()._folderView->awakeFromNib(settings::startFont(defaults));
   window.show();
   const auto open = [&](const OpenRequest& wish) {
-    for (const auto& folder : wish.paths) controller->applicationOpenFile(folder);
+    for (const auto& folder : wish.paths) controller->openArgument(folder);
+    for (const auto& address : wish.otherAddresses) controller->refuseAddress(QString::fromStdString(address));
   };
   for (const auto& folder : request.paths) {
     controller->applicationOpenFile(folder, [folder] {

@@ -25,6 +25,7 @@ NoticeLabel::NoticeLabel(QWidget* parent) : QLabel(parent), _opacity(new QGraphi
   connect(&_fade, &QVariantAnimation::finished, this, [this] {
     _opacity->setEnabled(false);
     clear();
+    setAccessibleName(tr("Notice"));
   });
 }
 
@@ -33,6 +34,8 @@ void NoticeLabel::notice(const QString& words) {
   _opacity->setEnabled(false);
   setText(words);
   setToolTip(words);
+  // The name is all that assistive tools read out of a label.
+  setAccessibleName(words);
   _stay.start(5000 + static_cast<int>(words.size()) * 30);
   QAccessibleEvent alert(this, QAccessible::Alert);
   QAccessible::updateAccessibility(&alert);

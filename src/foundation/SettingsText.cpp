@@ -166,7 +166,9 @@ bool SettingsText::apply(const SettingsChanges& changes) {
 }
 
 Result<Bytes> SettingsText::text() const {
-  const QByteArray json = QJsonDocument(_whole).toJson(QJsonDocument::Indented);
+  QByteArray json = QJsonDocument(_whole).toJson(QJsonDocument::Indented);
+  // Readers drop this one at the beginning of a text, taking it for a mark.
+  json.replace("\xEF\xBB\xBF", "\\ufeff");
   if (static_cast<std::size_t>(json.size()) > limits::settingsFileBytes)
     return Error::tooLarge("the settings are longer than " + std::to_string(limits::settingsFileBytes) + " bytes");
   return Bytes(json.begin(), json.end());

@@ -2,6 +2,7 @@
 #include "foundation/UserDefaults.h"
 
 #include <algorithm>
+#include <cmath>
 
 #include "foundation/SettingsText.h"
 #include "foundation/base/Limits.h"
@@ -12,12 +13,18 @@ namespace quorvane {
 
 namespace {
 
+/// What is no number equals itself here, or observers that write would be told of it without end.
+bool isSame(const QVariant& a, const QVariant& b) {
+  if (a.typeId() != b.typeId()) return false;
+  return a == b || (a.typeId() == QMetaType::Double && std::isnan(a.toDouble()) && std::isnan(b.toDouble()));
+}
+
 /// Keys that are in one only, or have other values in the other.
 QStringList differentKeys(const QVariantMap& before, const QVariantMap& after) {
   QStringList keys;
   for (auto item = after.begin(); item != after.end(); ++item) {
     const auto old = before.find(item.key());
-    if (old == before.end() || old->typeId() != item->typeId() || *old != *item) keys.append(item.key());
+    if (old == before.end() || !isSame(*old, *item)) keys.append(item.key());
   }
   for (auto item = before.begin(); item != before.end(); ++item)
     if (!after.contains(item.key())) keys.append(item.key());
@@ -80,10 +87,17 @@ std::shared_ptr<void> UserDefaults::observe(Observer observer) {
 }
 
 void UserDefaults::_change(const QString& key, const SettingsChange& change) {
-  SettingsChange& pending = _pending[key];
-  pending = pending.then(change);
-  if (_write().ok())
+  const auto known = _pending.find(key);
+  const auto former = known == _pending.end() ? std::nullopt : std::optional(known->second);
+  _pending[key] = former.value_or(SettingsChange()).then(change);
+  if (const auto written = _write(); written.ok()) {
     if (const auto settled = _storage.settle(); !settled.ok()) _noteFailure(settled.error());
+  } else if (written.error().kind() == ErrorKind::TooLarge) {
+    // There is no room for it, and kept for later it would keep all others from being written as well.
+    _pending.erase(key);
+    if (former) _pending[key] = *former;
+    _adopt(_stored);
+  }
 }
 
 Result<void> UserDefaults::_write() {

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <algorithm>
+#include <array>
 #include <mutex>
 #include <string_view>
 #include <utility>
@@ -21,6 +22,17 @@ namespace quorvane {
 
 namespace {
 
+/// Whether a chunk of white point and primaries names those of sRGB (IEC 61966-2-1), as near as libpng asks for.
+bool areOurPrimaries(ByteView chunk) {
+  constexpr std::array<std::uint32_t, 8> ours = {31270, 32900, 64000, 33000, 30000, 60000, 15000, 6000};
+  constexpr std::uint32_t near = 1000;  // hundred-thousandths, as all of them
+  ByteReader reader(chunk);
+  return std::ranges::all_of(ours, [&](std::uint32_t wanted) {
+    const auto value = reader.readU32();
+    return value && *value + near >= wanted && *value <= wanted + near;
+  });
+}
+
 /// True when a chunk before the pixels says that the colours are not sRGB; our own decoder knows no other.
 bool hasForeignColors(ByteView png) {
   ByteReader reader(png);
@@ -30,11 +42,12 @@ bool hasForeignColors(ByteView png) {
     const auto type = reader.readCode();
     if (!type || *type == FourCharCode("IDAT")) break;
     if (*type == FourCharCode("sRGB")) return false;
-    if (*type == FourCharCode("iCCP") || *type == FourCharCode("cHRM")) isForeign = true;
+    const ByteView content = reader.slice(reader.position(), *length).value_or(ByteView());
+    if (*type == FourCharCode("iCCP")) isForeign = true;
+    if (*type == FourCharCode("cHRM") && !areOurPrimaries(content)) isForeign = true;
     if (*type == FourCharCode("gAMA")) {
       // The reciprocal of the display's exponent, times 100000; what is near sRGB's means sRGB, as libpng sees it too.
-      const auto gamma = reader.slice(reader.position(), 4);
-      const auto value = gamma ? ByteReader(*gamma).readU32() : std::nullopt;
+      const auto value = ByteReader(content).readU32();
       if (value && (*value < 43182 || *value > 47727)) isForeign = true;
     }
     if (!reader.skip(std::size_t{*length} + 4)) break;

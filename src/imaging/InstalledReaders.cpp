@@ -5,9 +5,11 @@
 #include <QImageReader>
 #include <algorithm>
 #include <array>
+#include <optional>
 #include <string_view>
 #include <utility>
 
+#include "foundation/base/ByteReader.h"
 #include "foundation/base/Limits.h"
 #include "imaging/PngCodec.h"
 #include "imaging/SvgCheck.h"
@@ -25,13 +27,16 @@ Error tooManyPixels(QSize size) {
                          " pixels");
 }
 
-/// Index of the largest picture in an icon file's directory, of the deepest among equals.
+// An icon file's directory.
+constexpr std::size_t iconHeaderBytes = 6;
+constexpr std::size_t iconEntryBytes = 16;
+
+/// Index of the largest picture in it, of the deepest among equals.
 int bestIcon(ByteView bytes) {
-  constexpr std::size_t headerBytes = 6;
-  constexpr std::size_t entryBytes = 16;
   std::pair<int, int> best;  // area and bits a pixel
   int bestIndex = 0;
-  for (std::size_t at = headerBytes, index = 0; at + entryBytes <= bytes.size(); at += entryBytes, ++index) {
+  for (std::size_t at = iconHeaderBytes, index = 0; at + iconEntryBytes <= bytes.size();
+       at += iconEntryBytes, ++index) {
     if (index >= (std::size_t{bytes[4]} | std::size_t{bytes[5]} << 8)) break;
     // A side of 256 does not fit its byte and is written as 0.
     const auto side = [&](std::size_t offset) { return bytes[at + offset] == 0 ? 256 : int{bytes[at + offset]}; };
@@ -43,9 +48,43 @@ int bestIcon(ByteView bytes) {
   return bestIndex;
 }
 
+/// The PNG file that a picture of an icon file is, or nullopt.
+std::optional<ByteView> pngInIcon(ByteView bytes, int index) {
+  const std::size_t entry = iconHeaderBytes + static_cast<std::size_t>(index) * iconEntryBytes;
+  if (entry + iconEntryBytes > bytes.size()) return std::nullopt;
+  const auto number = [&](std::size_t at) {
+    std::size_t value = 0;
+    for (std::size_t i = 4; i-- > 0;) value = value << 8 | bytes[entry + at + i];
+    return value;
+  };
+  const auto png = ByteReader(bytes).slice(number(12), number(8));
+  return png && isPng(*png) ? png : std::nullopt;
+}
+
+/// A PNG file without its texts. The reader unpacks them all, to a thousand times their length, and none is shown.
+Bytes withoutTexts(ByteView png) {
+  constexpr std::size_t signatureBytes = 8;
+  Bytes kept(png.begin(), png.begin() + signatureBytes);
+  ByteReader reader(png);
+  if (!reader.skip(signatureBytes)) return kept;
+  while (const auto length = reader.readU32()) {
+    const std::size_t start = reader.position() - 4;
+    const auto type = reader.readCode();
+    if (!type) break;
+    const bool isWhole = reader.skip(std::size_t{*length} + 4);
+    const ByteView chunk = png.subspan(start, isWhole ? reader.position() - start : png.size() - start);
+    if (*type != FourCharCode("tEXt") && *type != FourCharCode("zTXt") && *type != FourCharCode("iTXt"))
+      kept.insert(kept.end(), chunk.begin(), chunk.end());
+    if (!isWhole) break;
+  }
+  return kept;
+}
+
 }  // namespace
 
 Result<BitmapImageRep> readWithInstalledReaders(ByteView bytes, PictureChoice choice) {
+  const Bytes lean = isPng(bytes) ? withoutTexts(bytes) : Bytes();
+  if (!lean.empty()) bytes = lean;
   QByteArray view =
       QByteArray::fromRawData(reinterpret_cast<const char*>(bytes.data()), static_cast<qsizetype>(bytes.size()));
   QBuffer buffer(&view);
@@ -68,7 +107,11 @@ Result<BitmapImageRep> readWithInstalledReaders(ByteView bytes, PictureChoice ch
   // Asking a vector picture for its size already follows its references.
   if (format == "svg") TRY_VOID(checkSvg(bytes));
   if (format == "png") TRY_VOID(checkPngData(bytes));
-  if (choice == PictureChoice::Best && (format == "ico" || format == "cur")) reader.jumpToImage(bestIcon(bytes));
+  if (format == "ico" || format == "cur") {
+    const int index = choice == PictureChoice::Best ? bestIcon(bytes) : 0;
+    if (const auto png = pngInIcon(bytes, index)) return readWithInstalledReaders(*png, choice);
+    reader.jumpToImage(index);
+  }
   QSize size = reader.size();
   if (format == "svg") {
     if (size.isEmpty()) size = QSize(1, 1);

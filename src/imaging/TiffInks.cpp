@@ -1,13 +1,16 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The installed readers turn inks into light without asking the profile, so files of inks are decoded here.
+// The installed readers turn inks into light without asking the profile, and forget the transparency of grey pictures:
+// such files are decoded here.
 #include "imaging/TiffInks.h"
 
 #include <tiffio.h>
 
 #include <algorithm>
 #include <cstring>
+#include <limits>
 #include <memory>
 #include <mutex>
+#include <span>
 #include <string>
 #include <vector>
 
@@ -56,21 +59,34 @@ class InkTiff {
     _tiff.reset(TIFFClientOpen("picture", "rm", &_source, Source::read, Source::write, Source::seek, Source::close,
                                Source::size, nullptr, nullptr));
     if (!_tiff) return;
-    std::uint16_t photometric = 0;
     std::uint16_t bits = 0;
-    std::uint16_t inks = 0;
-    _isInk = TIFFGetField(get(), TIFFTAG_PHOTOMETRIC, &photometric) == 1 && photometric == PHOTOMETRIC_SEPARATED &&
-             TIFFGetFieldDefaulted(get(), TIFFTAG_INKSET, &inks) == 1 && inks == INKSET_CMYK &&
-             TIFFGetFieldDefaulted(get(), TIFFTAG_BITSPERSAMPLE, &bits) == 1 && (bits == 8 || bits == 16) &&
-             TIFFGetFieldDefaulted(get(), TIFFTAG_SAMPLESPERPIXEL, &samples) == 1 && samples >= 4 &&
-             samples <= limits::psdChannels && TIFFGetFieldDefaulted(get(), TIFFTAG_PLANARCONFIG, &_planes) == 1 &&
-             TIFFGetField(get(), TIFFTAG_IMAGEWIDTH, &width) == 1 &&
-             TIFFGetField(get(), TIFFTAG_IMAGELENGTH, &height) == 1 && TIFFIsTiled(get()) == 0;
+    std::uint16_t kind = 0;
+    const bool isRead = TIFFGetField(get(), TIFFTAG_PHOTOMETRIC, &_photometric) == 1 &&
+                        TIFFGetFieldDefaulted(get(), TIFFTAG_BITSPERSAMPLE, &bits) == 1 && (bits == 8 || bits == 16) &&
+                        TIFFGetFieldDefaulted(get(), TIFFTAG_SAMPLEFORMAT, &kind) == 1 && kind == SAMPLEFORMAT_UINT &&
+                        TIFFGetFieldDefaulted(get(), TIFFTAG_SAMPLESPERPIXEL, &samples) == 1 &&
+                        samples <= limits::psdChannels &&
+                        TIFFGetFieldDefaulted(get(), TIFFTAG_PLANARCONFIG, &_planes) == 1 &&
+                        TIFFGetField(get(), TIFFTAG_IMAGEWIDTH, &width) == 1 &&
+                        TIFFGetField(get(), TIFFTAG_IMAGELENGTH, &height) == 1 && TIFFIsTiled(get()) == 0;
+    if (!isRead) return;
     bytesPerSample = bits / 8;
+    findTransparency();
+    std::uint16_t inks = 0;
+    _isOurs = isInk()
+                  ? TIFFGetFieldDefaulted(get(), TIFFTAG_INKSET, &inks) == 1 && inks == INKSET_CMYK && samples >= 4
+                  : alpha != 0 && (_photometric == PHOTOMETRIC_MINISBLACK || _photometric == PHOTOMETRIC_MINISWHITE);
   }
 
   [[nodiscard]] TIFF* get() const { return _tiff.get(); }
-  [[nodiscard]] bool isInk() const { return _isInk; }
+  /// Whether the picture is of a kind that is decoded here.
+  [[nodiscard]] bool isOurs() const { return _isOurs; }
+  [[nodiscard]] bool isInk() const { return _photometric == PHOTOMETRIC_SEPARATED; }
+  /// The highest value is darkest.
+  [[nodiscard]] bool isInverted() const { return _photometric != PHOTOMETRIC_MINISBLACK; }
+  [[nodiscard]] PixelFormat format() const {
+    return {isInk() ? ColorModel::Cmyk : ColorModel::Grey, bytesPerSample * 8, alpha != 0};
+  }
   /// Each sample has rows of its own.
   [[nodiscard]] bool isPlanar() const { return _planes == PLANARCONFIG_SEPARATE; }
 
@@ -78,12 +94,28 @@ class InkTiff {
   std::uint32_t height = 0;
   std::uint16_t samples = 0;
   int bytesPerSample = 0;
+  int alpha = 0;              ///< the sample that is transparency; 0 when there is none
+  bool isMultiplied = false;  ///< into the colours
 
  private:
+  void findTransparency() {
+    const int colors = isInk() ? 4 : 1;
+    std::uint16_t count = 0;
+    std::uint16_t* kinds = nullptr;
+    if (TIFFGetField(get(), TIFFTAG_EXTRASAMPLES, &count, &kinds) != 1) return;
+    const std::span extra(kinds, count);
+    const auto found = std::ranges::find_if(
+        extra, [](std::uint16_t kind) { return kind == EXTRASAMPLE_ASSOCALPHA || kind == EXTRASAMPLE_UNASSALPHA; });
+    if (found == extra.end() || colors + (found - extra.begin()) >= samples) return;
+    alpha = colors + static_cast<int>(found - extra.begin());
+    isMultiplied = *found == EXTRASAMPLE_ASSOCALPHA;
+  }
+
   Source _source;
   std::unique_ptr<TIFF, TiffDeleter> _tiff;
   std::uint16_t _planes = 0;
-  bool _isInk = false;
+  std::uint16_t _photometric = 0;
+  bool _isOurs = false;
 };
 
 ByteView profileOf(const InkTiff& file) {
@@ -93,12 +125,32 @@ ByteView profileOf(const InkTiff& file) {
   return {static_cast<const std::uint8_t*>(data), length};
 }
 
-/// Rows of four inks, each sample counting from full ink.
+/// Takes the alpha out of colours that it is multiplied into, and turns inverted ones over.
+template <typename Sample>
+void straighten(std::span<std::uint8_t> row, const PixelFormat& format, bool isMultiplied, bool isInverted) {
+  constexpr std::uint32_t highest = std::numeric_limits<Sample>::max();
+  auto* pixel = reinterpret_cast<Sample*>(row.data());
+  const Sample* const end = pixel + row.size() / sizeof(Sample);
+  for (; pixel != end; pixel += format.samples()) {
+    const std::uint32_t alpha = isMultiplied ? pixel[format.colors()] : highest;
+    for (int color = 0; color < format.colors(); ++color) {
+      std::uint32_t value = pixel[color];
+      if (alpha != 0 && alpha != highest) value = std::min((value * highest + alpha / 2) / alpha, highest);
+      pixel[color] = static_cast<Sample>(isInverted ? highest - value : value);
+    }
+  }
+}
+
+/// Rows of the colours and, where there is one, the alpha, as ColorTransform takes them.
 class InkRows {
  public:
-  InkRows(const InkTiff& file, ByteView bytes) : _file(file), _inks(std::size_t{file.width} * 4 * sampleBytes()) {
+  InkRows(const InkTiff& file, ByteView bytes) : _file(file), _format(file.format()) {
+    for (int color = 0; color < _format.colors(); ++color) _wanted.push_back(color);
+    if (_format.hasAlpha) _wanted.push_back(file.alpha);
+    _row.resize(std::size_t{file.width} * _wanted.size() * sampleBytes());
     // Planes lie apart, and a packed strip is read from its beginning: each plane has a reader of its own.
-    for (int plane = 1; file.isPlanar() && plane < 4; ++plane) _planes.push_back(std::make_unique<InkTiff>(bytes));
+    for (std::size_t plane = 1; file.isPlanar() && plane < _wanted.size(); ++plane)
+      _planes.push_back(std::make_unique<InkTiff>(bytes));
     _line.resize(static_cast<std::size_t>(std::max<tmsize_t>(TIFFScanlineSize(file.get()), 0)));
   }
 
@@ -106,30 +158,37 @@ class InkRows {
   const std::uint8_t* read(std::uint32_t y) {
     const std::size_t samples = _file.isPlanar() ? 1 : _file.samples;
     if (_line.size() < _file.width * samples * sampleBytes()) return nullptr;
-    for (std::size_t plane = 0; plane < (_file.isPlanar() ? 4 : 1); ++plane) {
-      TIFF* tiff = plane == 0 ? _file.get() : _planes[plane - 1]->get();
-      if (tiff == nullptr || TIFFReadScanline(tiff, _line.data(), y, static_cast<std::uint16_t>(plane)) != 1)
+    for (std::size_t i = 0; i < _wanted.size(); ++i) {
+      TIFF* tiff = i == 0 || !_file.isPlanar() ? _file.get() : _planes[i - 1]->get();
+      const int plane = _file.isPlanar() ? _wanted[i] : 0;
+      const bool isNew = i == 0 || _file.isPlanar();
+      if (tiff == nullptr || (isNew && TIFFReadScanline(tiff, _line.data(), y, static_cast<std::uint16_t>(plane)) != 1))
         return nullptr;
-      take(plane, _file.isPlanar() ? 1 : 4, samples);
+      take(i, _file.isPlanar() ? 0 : static_cast<std::size_t>(_wanted[i]), samples);
     }
-    for (std::uint8_t& byte : _inks) byte = static_cast<std::uint8_t>(~byte);
-    return _inks.data();
+    if (_file.bytesPerSample == 2)
+      straighten<std::uint16_t>(_row, _format, _file.isMultiplied, _file.isInverted());
+    else
+      straighten<std::uint8_t>(_row, _format, _file.isMultiplied, _file.isInverted());
+    return _row.data();
   }
 
  private:
   [[nodiscard]] std::size_t sampleBytes() const { return static_cast<std::size_t>(_file.bytesPerSample); }
 
-  /// `count` samples of each pixel of the line, of `stride` that it has there, to the inks from `first` on.
-  void take(std::size_t first, std::size_t count, std::size_t stride) {
+  /// The sample at `from` of each pixel of the line, which has `stride` of them there, to place `to` in the row.
+  void take(std::size_t to, std::size_t from, std::size_t stride) {
     const std::size_t size = sampleBytes();
     for (std::size_t x = 0; x < _file.width; ++x)
-      std::memcpy(_inks.data() + (x * 4 + first) * size, _line.data() + x * stride * size, count * size);
+      std::memcpy(_row.data() + (x * _wanted.size() + to) * size, _line.data() + (x * stride + from) * size, size);
   }
 
   const InkTiff& _file;
+  PixelFormat _format;
+  std::vector<int> _wanted;  ///< samples of the file
   std::vector<std::unique_ptr<InkTiff>> _planes;
   Bytes _line;
-  Bytes _inks;
+  Bytes _row;
 };
 
 }  // namespace
@@ -144,19 +203,19 @@ void silenceTiffMessages() {
 
 bool isInkTiff(ByteView bytes) {
   if (bytes.size() < 8 || bytes[0] != bytes[1] || (bytes[0] != 'I' && bytes[0] != 'M')) return false;
-  return InkTiff(bytes).isInk();
+  return InkTiff(bytes).isOurs();
 }
 
 Result<BitmapImageRep> decodeInkTiff(ByteView bytes) {
   const InkTiff file(bytes);
-  if (!file.isInk()) return Error::invalidInput("not a TIFF picture of four inks");
+  if (!file.isOurs()) return Error::invalidInput("not a TIFF picture of inks or with transparent greys");
   if (file.width > std::uint32_t{limits::picturePixels} || file.height > std::uint32_t{limits::picturePixels} ||
       std::int64_t{file.width} * file.height > limits::pictureArea)
     return Error::tooLarge("picture of " + std::to_string(file.width) + " x " + std::to_string(file.height) +
                            " pixels");
   // No compression that is in use packs tighter (LZW comes near), so the rest is missing.
   constexpr std::int64_t largestExpansion = 2048;
-  if (std::int64_t{file.width} * file.height * 4 * file.bytesPerSample / largestExpansion >
+  if (std::int64_t{file.width} * file.height * file.format().samples() * file.bytesPerSample / largestExpansion >
       static_cast<std::int64_t>(bytes.size()))
     return Error::invalidInput("TIFF picture is damaged or cut off");
   BitmapLayout layout = BitmapLayout::rgba(static_cast<int>(file.width), static_cast<int>(file.height));
@@ -164,8 +223,7 @@ Result<BitmapImageRep> decodeInkTiff(ByteView bytes) {
   auto bitmap = BitmapImageRep::bitmapImageRepWithLayout(layout);
   if (!bitmap) return Error::invalidInput("TIFF picture has no pixels");
 
-  const ColorTransform transform({ColorModel::Cmyk, file.bytesPerSample * 8, false}, profileOf(file),
-                                 std::int64_t{file.width} * file.height);
+  const ColorTransform transform(file.format(), profileOf(file), std::int64_t{file.width} * file.height);
   InkRows rows(file, bytes);
   for (int y = 0; y < layout.pixelsHigh; ++y) {
     const std::uint8_t* row = rows.read(static_cast<std::uint32_t>(y));

@@ -27,6 +27,7 @@ OPENBOX = """<openbox_config xmlns="http://openbox.org/3.4/rc"><applications>
 """
 GTK = ("nautilus", "nemo", "caja", "thunar", "thunar-thumbnails")
 WIDTH, HEIGHT = 900, 640
+ACCESSIBILITY = ("at-spi-bus-laun", "at-spi2-registr")
 TOOLS = {"Xvfb": "xvfb", "dbus-daemon": "dbus-daemon", "openbox": "openbox", "xdotool": "xdotool",
          "import": "imagemagick", "gio": "libglib2.0-bin"}
 
@@ -62,11 +63,14 @@ def descendants(pid):
 
 
 class Session:
-    def __init__(self):
+    def __init__(self, size=(WIDTH, HEIGHT), rules=OPENBOX):
+        """The size of the screen; what the window manager does with windows, as it reads it."""
+        self._size, self._rules = size, rules
         if ctypes.CDLL(None, use_errno=True).prctl(PR_SET_CHILD_SUBREAPER, 1, 0, 0, 0) != 0:
             raise Trouble("the kernel does not let us look after orphans")
         self.place = tempfile.mkdtemp(prefix="quorvane-desktop-")
         self.home = os.path.join(self.place, "home")
+        self._launched = []  # kept, as _reap() learns of their end
         self._outside = set(descendants(os.getpid()))
         self._settings()
         kept = {key: value for key, value in os.environ.items() if key in ("PATH", "LOCPATH")}
@@ -95,7 +99,7 @@ class Session:
                  "gtk-4.0/settings.ini": "[Settings]\ngtk-icon-theme-name=Adwaita\ngtk-enable-animations=0\n",
                  "kdeglobals": "[Icons]\nTheme=breeze\n[KDE]\nAnimationDurationFactor=0\n",
                  "pcmanfm-qt/default/settings.conf": "[System]\nFallbackIconThemeName=breeze\n",
-                 "openbox/rc.xml": OPENBOX}
+                 "openbox/rc.xml": self._rules}
         for name, text in files.items():
             path = os.path.join(self.home, ".config", name)
             os.makedirs(os.path.dirname(path), exist_ok=True)
@@ -106,7 +110,7 @@ class Session:
     def _start(self):
         # The server picks a free display and says which, so sessions can run side by side.
         self.environment["DISPLAY"] = ":" + self._announced(
-            "Xvfb", ["Xvfb", "-displayfd", "{fd}", "-screen", "0", f"{WIDTH}x{HEIGHT}x24", "-nolisten", "tcp"])
+            "Xvfb", ["Xvfb", "-displayfd", "{fd}", "-screen", "0", "{}x{}x24".format(*self._size), "-nolisten", "tcp"])
         self.environment["DBUS_SESSION_BUS_ADDRESS"] = self._announced(
             "bus", ["dbus-daemon", "--session", "--nofork", "--print-address={fd}"])
         self._launch("openbox", ["openbox"], self.environment)
@@ -114,8 +118,10 @@ class Session:
 
     def _launch(self, name, command, environment, **options):
         with open(os.path.join(self.place, name + ".log"), "ab") as log:
-            return subprocess.Popen(command, env=environment, stdin=subprocess.DEVNULL, stdout=log, stderr=log,
-                                    cwd=self.home, start_new_session=True, **options)
+            launched = subprocess.Popen(command, env=environment, stdin=subprocess.DEVNULL, stdout=log, stderr=log,
+                                        cwd=self.home, start_new_session=True, **options)
+        self._launched.append(launched)
+        return launched
 
     def _announced(self, name, command):
         """Starts a server and returns the line that it writes to the file descriptor {fd}."""
@@ -163,7 +169,7 @@ class Session:
             if time.monotonic() > end:
                 raise Trouble(f"{manager} showed no window")
             time.sleep(0.2)
-        self.run("xdotool", "mousemove", str(WIDTH - 1), str(HEIGHT - 1))
+        self.run("xdotool", "mousemove", str(self._size[0] - 1), str(self._size[1] - 1))
 
     def screen(self):
         """The screen as a binary PPM file's bytes."""
@@ -171,13 +177,13 @@ class Session:
 
     def end_manager(self, manager):
         """Ends a file manager with all that it started or that was started for it, but not the servers."""
-        kept = ("Xvfb", "dbus-daemon", "openbox", "gvfsd", "gvfsd-metadata", "dconf-service")
+        kept = ("Xvfb", "dbus-daemon", "openbox", "gvfsd", "gvfsd-metadata", "dconf-service", *ACCESSIBILITY)
         self._end(lambda name: name not in kept)
         time.sleep(0.3)
 
     def _end(self, chosen):
         for round_signal in (signal.SIGTERM, signal.SIGTERM, signal.SIGKILL):
-            pids = [pid for pid in descendants(os.getpid()) if pid not in self._outside and chosen(_name(pid))]
+            pids = [pid for pid in descendants(os.getpid()) if pid not in self._outside and chosen(name_of(pid))]
             for pid in pids:
                 try:
                     os.kill(pid, round_signal)
@@ -194,7 +200,7 @@ class Session:
         shutil.rmtree(self.place, ignore_errors=True)
 
 
-def _name(pid):
+def name_of(pid):
     """The program's name; the kernel cuts it at 15 bytes."""
     try:
         with open(f"/proc/{pid}/comm", encoding="utf-8", errors="replace") as file:

@@ -22,30 +22,32 @@ QVariant afterRestart(const QVariant& value) {
 }
 
 TEST(UserDefaults, ValuesKeepTheirTypesOverARestart) {
-  const QVariant values[] = {true,
-                             false,
-                             5LL,
-                             std::numeric_limits<qlonglong>::min(),
-                             std::numeric_limits<qlonglong>::max(),
-                             5.0,
-                             0.1,
-                             -0.0,
-                             5e-324,
-                             1.7976931348623157e308,
-                             HUGE_VAL,
-                             QString(),
-                             QStringLiteral("5"),
-                             QStringLiteral("true"),
-                             QString::fromUtf8("\u00e4 \U0001F600 \"\\\n\u2028\uFEFF"),
-                             QString(QChar(u'\0')),
-                             QString(QChar(0xDC00)),
-                             QByteArray(),
-                             QByteArray("\0\xff\n", 3),
-                             QVariantList(),
-                             QVariantList{1LL},
-                             QVariantList{QVariantList{}, 1.0, true},
-                             QVariantMap(),
-                             QVariantMap{{QStringLiteral("real"), 1LL}, {QString(QChar(0xD800)), 2LL}}};
+  const QVariant values[] = {
+      true,
+      false,
+      5LL,
+      std::numeric_limits<qlonglong>::min(),
+      std::numeric_limits<qlonglong>::max(),
+      5.0,
+      0.1,
+      -0.0,
+      5e-324,
+      1.7976931348623157e308,
+      HUGE_VAL,
+      QString(),
+      QStringLiteral("5"),
+      QStringLiteral("true"),
+      QString::fromUtf8("\u00e4 \U0001F600 \"\\\n\u2028\uFEFF"),
+      QString(QChar(u'\0')),
+      QString(QChar(0xFEFF)) + QLatin1Char('x'),
+      QString(QChar(0xDC00)),
+      QByteArray(),
+      QByteArray("\0\xff\n", 3),
+      QVariantList(),
+      QVariantList{1LL},
+      QVariantList{QVariantList{}, 1.0, true},
+      QVariantMap(),
+      QVariantMap{{QStringLiteral("real"), 1LL}, {QString(QChar(0xD800)), 2LL}, {QString(QChar(0xFEFF)), 3LL}}};
   for (const QVariant& value : values) {
     const QVariant back = afterRestart(value);
     EXPECT_EQ(back.typeId(), value.typeId()) << value.toString().toStdString();
@@ -167,11 +169,16 @@ TEST(UserDefaults, WhatCannotBeWrittenHoldsAndIsWrittenLaterOnTopOfWhatOthersDid
   EXPECT_TRUE(defaults.synchronize().ok());
   EXPECT_EQ(storage.values,
             (QVariantMap{{QStringLiteral("count"), 22LL}, {key, true}, {QStringLiteral("theirs"), 1LL}}));
-  // What can never be kept must not keep the rest from being written.
+  // What can never be kept must not keep the rest from being written: one by one, and together with what there is.
+  storage.failure = Error::tooLarge("all of it");
+  defaults.setBool(false, key);
+  storage.failure.reset();
+  EXPECT_TRUE(defaults.synchronize().ok());
+  EXPECT_EQ(storage.values[key], QVariant(true));
   defaults.setData(QByteArray(1 << 20, 'x'), key);
   defaults.setObject(QVariant::fromValue(QDate()), key);
   EXPECT_EQ(storage.values[key], QVariant(true));
-  EXPECT_EQ(log.size(), 3);
+  EXPECT_EQ(log.size(), 4);
   setLogSink(before);
 }
 
@@ -192,6 +199,8 @@ TEST(UserDefaults, ObserversHearOfOwnAndForeignChanges) {
   heard.clear();
   EXPECT_TRUE(defaults.refresh());
   EXPECT_EQ(heard.first(3), (QStringList{QStringLiteral("follows"), QStringLiteral("theirs"), key}));
+  defaults.setDouble(std::nan(""), key);
+  EXPECT_EQ(heard.count(key), 2) << "no number equals itself";
   observation.reset();
   heard.clear();
   defaults.setInteger(2, key);

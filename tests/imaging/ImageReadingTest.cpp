@@ -1,12 +1,15 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+#include <libdeflate.h>
+#include <sys/resource.h>
 #include <sys/stat.h>
 
 #include <QBuffer>
 #include <QColorSpace>
 #include <QImageReader>
 #include <QImageWriter>
+#include <QtEndian>
 #include <fstream>
 
 #include "foundation/base/Limits.h"
@@ -107,6 +110,30 @@ TEST(ImageReading, ColoursAreConvertedToOurs) {
   const Bytes chunk = {0, 0, 0, 4, 'i', 'C', 'C', 'P', 'x', 0, 0, 7, 1, 2, 3, 4};
   png.insert(png.begin() + 33, chunk.begin(), chunk.end());
   expectPixel(read(png).value(), 0, 0, {255, 0, 0, 255});
+}
+
+TEST(ImageReading, TextsOfAPngAreNotUnpacked) {
+  // Each becomes 7 million letters. The brightness keeps our own decoder, which reads no texts, from taking the file.
+  const QByteArray packed = qCompress(QByteArray(7'000'000, 'a'), 9).mid(4);
+  const auto chunk = [](const QByteArray& typed) {
+    QByteArray bytes(8, '\0');
+    qToBigEndian(static_cast<quint32>(typed.size() - 4), bytes.data());
+    qToBigEndian(::libdeflate_crc32(0, typed.constData(), static_cast<std::size_t>(typed.size())), bytes.data() + 4);
+    return bytes.first(4) + typed + bytes.sliced(4);
+  };
+  QByteArray chunks = chunk(QByteArray("gAMA\0\1\x86\xA0", 8));
+  for (int i = 0; i < 40; ++i) chunks += chunk("zTXtkey" + QByteArray(2, '\0') + packed);
+  Bytes png = written(testImage(), "png");
+  png.insert(png.begin() + 33, chunks.begin(), chunks.end());
+  // The same as the picture of an icon file.
+  Bytes icon = {0, 0, 1, 0, 1, 0, 6, 4, 0, 0, 1, 0, 32, 0, 0, 0, 0, 0, 22, 0, 0, 0};
+  qToLittleEndian(static_cast<quint32>(png.size()), icon.data() + 14);
+  icon.insert(icon.end(), png.begin(), png.end());
+  rusage before{}, after{};
+  ::getrusage(RUSAGE_SELF, &before);
+  for (const Bytes& bytes : {png, icon}) expectPixel(read(bytes).value(), 0, 0, {255, 0, 0, 255});
+  ::getrusage(RUSAGE_SELF, &after);
+  EXPECT_LT(after.ru_maxrss - before.ru_maxrss, 100'000) << "kilobytes";
 }
 
 TEST(ImageReading, TheContentDecidesNotTheName) {

@@ -7,6 +7,7 @@
 #include <optional>
 
 #include "foundation/BaseDirectories.h"
+#include "foundation/FileReading.h"
 #include "foundation/Folder.h"
 #include "foundation/base/Limits.h"
 #include "foundation/base/Text.h"
@@ -131,9 +132,10 @@ std::vector<AutostartItems::Item> AutostartItems::items() const {
   std::vector<Item> items;
   for (const std::string& name : *names) {
     if (!name.ends_with(ending)) continue;
-    const auto bytes = folder->readFile(name, limits::desktopEntryBytes);
-    if (!bytes.ok() || !*bytes) continue;
-    const auto file = parse(**bytes);
+    // Links as well: entries that lead to those of installed programs start them like any other.
+    const auto bytes = readPlainFile(_folder / name, limits::desktopEntryBytes);
+    if (!bytes) continue;
+    const auto file = parse(*bytes);
     if (!file || !isOn(*file)) continue;
     if (std::string program = programOf(value(*file, "Exec")); !program.empty())
       items.push_back({name.substr(0, name.size() - std::string_view(ending).size()), std::move(program),

@@ -1,0 +1,170 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
+"""Starting and ending: with every kind of name, once more, without a bus, with a signal in each state; and what the
+program touches and speaks to meanwhile."""
+import base64
+import json
+import os
+import re
+import shutil
+import signal
+import struct
+import unittest
+
+from driver import SIZE, WindowTest
+from support import BACKUP, read, tree, write
+
+FRAME = "Window Frame MainWindowAutosave"
+NO_BUS = {"DBUS_SESSION_BUS_ADDRESS": "unix:path=/nowhere"}
+
+
+class StartsTest(WindowTest):
+    def windows(self):
+        return self.xdotool("search", "--onlyvisible", "--class", "quorvane")
+
+    def hand_over(self, *arguments):
+        """A second start; it has to end by itself."""
+        second = self.start(*arguments)
+        self.assertEqual(second.wait_end(), 0, second.said())
+
+    def test_a_second_start_hands_its_folder_to_the_first_and_brings_it_to_the_front(self):
+        one, two = self.folder("one"), self.folder("two")
+        self.open_manager(self.work)
+        program = self.start(one)
+        program.wait_open(one)
+        window = self.windows()
+        self.assertEqual(len(window), 1)
+        self.click((200, 870))  # the file manager's
+        self.wait(lambda: self.xdotool("getactivewindow") != window, "the file manager in front")
+        self.hand_over(two)
+        program.wait_open(two)
+        self.wait(lambda: self.xdotool("getactivewindow") == window, "the window in front")
+        self.xdotool("windowminimize", *window)
+        self.wait(lambda: not self.windows(), "the window to go")
+        self.hand_over()
+        self.wait(lambda: self.windows() == window, "the one window")
+        program.wait_title("– two")
+
+        names = ["a space", "per%20cent", "hash # mark", "Übergrößenträger", "-dash", "sftp:name", "question?", "a&b",
+                 "two\nlines", "日本語"]
+        for name in names:
+            folder = self.folder(name)
+            address = "file://" + re.sub("[^A-Za-z0-9/._-]", lambda found: "".join(
+                f"%{byte:02X}" for byte in found[0].encode()), folder)
+            for argument in ([folder], [address], ["--", os.path.relpath(folder, self.work)]):
+                with self.subTest(name=name, argument=argument):
+                    self.hand_over(*argument)
+                    shown = re.escape(name).replace("\\\n", ".*")
+                    self.wait(lambda: program.find("frame", shown), "it in the title")
+            self.hand_over(one)
+            program.wait_open(one)
+
+        for argument in ("sftp://host/folder", "smb://host/share", self.work + "/not there", one + "/letter.txt"):
+            with self.subTest(argument=argument):
+                self.hand_over(argument)
+                said = self.wait(lambda: program.notice(), "a word about it")
+                self.assertIn(os.path.basename(argument), said)
+                program.wait_open(one)
+                self.hand_over(one)  # so that the next word is a new one
+                self.wait(lambda: not program.notice(), "the notice to go", patience=30)
+        self.assertEqual(program.end(), 0)
+
+    def test_without_a_bus_it_works_and_ends(self):
+        folder = self.folder("per%20cent #1")
+        program = self.start(folder, env=NO_BUS)
+        self.wait(lambda: self.xdotool("search", "--onlyvisible", "--name", "per%20cent"), "the window")
+        self.wait(lambda: self._typed(folder), "an icon", patience=30)
+        self.assert_branded(folder)
+        other = self.start(folder, env=NO_BUS)
+        self.wait(lambda: len(self.windows()) == 2, "a window of its own for each")
+        self.assertEqual(other.end(), 0)
+        self.assertEqual(program.end(), 0)
+
+    def _typed(self, folder):
+        self.type("bus")
+        self.key("ctrl+Return")
+        return os.path.exists(os.path.join(folder, BACKUP))
+
+    def test_a_signal_ends_it_in_each_state(self):
+        folder = self.folder()
+        self.expect(0, "apply", "--label", "x", folder)
+        states = {
+            "nothing open": (False, lambda program: None),
+            "a folder open": (True, lambda program: None),
+            "being edited": (True, lambda program: self.type("half a la")),
+            "a sheet": (False, lambda program: self.click(program.get("push button", "Choose Picture"))),
+            "the chooser": (True, lambda program: self.key("ctrl+o")),
+            "a menu": (True, lambda program: self.click(program.get("menu item", "File"))),
+            "the effects": (True, lambda program: self.click(program.get("combo box"))),
+            "the font panel": (True, lambda program: self.key("ctrl+t")),
+            "the colour panel": (True, lambda program: self.key("ctrl+shift+c")),
+            "the shortcuts": (True, lambda program: self.key("ctrl+question")),
+            "a drag": (True, lambda program: self.xdotool("mousemove", *self.canvas(program), "mousedown", 1,
+                                                         "mousemove_relative", "--", 30, 30)),
+        }
+        for number, (state, (with_folder, arrange)) in enumerate(states.items()):
+            for kind in (signal.SIGTERM, signal.SIGINT) if number < 4 else (signal.SIGTERM,):
+                with self.subTest(state=state, signal=kind), self.start(*([folder] if with_folder else [])) as program:
+                    if with_folder:
+                        program.wait_open(folder)
+                    rows = len(list(program.application.walk()))
+                    arrange(program)
+                    if state not in ("nothing open", "a folder open", "being edited", "a drag"):
+                        self.wait(lambda: len(list(program.application.walk())) != rows, state)
+                    self.picture("signal-" + state.replace(" ", "-"))
+                    self.assertEqual(program.end(kind), 0)
+                    self.assertEqual(program.said(), "")
+                    self.xdotool("mouseup", 1)
+
+    @staticmethod
+    def canvas(program):
+        x, y, width, height = program.get("canvas").extents
+        return x + width // 2, y + height // 2
+
+    def test_it_touches_and_speaks_to_nothing_else(self):
+        if not shutil.which("strace"):
+            self.skipTest("there is no strace")
+        folder = self.folder()
+        write(os.path.join(self.home, "mine"), b"mine")
+        trace = os.path.join(self.place, "trace")
+        before = tree(self.home)
+        program = self.start(folder, command=["strace", "-f", "-qq", "-e", "trace=connect,sendto,bind", "-o", trace])
+        self.wait(lambda: self.xdotool("search", "--onlyvisible", "--name", "Invoices"), "the window")
+        self.wait(lambda: self._typed(folder), "an icon", patience=60)
+        self.key("ctrl+q")
+        self.assertEqual(program.wait_end(), 0)
+        calls = [line for line in read(trace).decode().splitlines() if "sa_family" in line]
+        self.assertTrue(calls, "it speaks to the display at least")
+        self.assertEqual([line for line in calls if not re.search("sa_family=AF_(UNIX|NETLINK)", line)], [])
+        after = tree(self.home)
+        new = {name.split("/")[1] for name in set(after) - set(before)}
+        self.assertLessEqual(new, {"config", "data", "cache", "state"})
+        self.assertEqual({name: after[name] for name in before if name != "."},
+                         {name: before[name] for name in before if name != "."})
+
+    def test_a_window_that_cannot_be_seen_is_brought_back(self):
+        with self.start() as program:
+            program.wait_title("Quorvane")
+            self.key("ctrl+q")
+            self.assertEqual(program.wait_end(), 0)
+        settings = os.path.join(self.home, "config/quorvane/settings.json")
+        kept = json.loads(read(settings))
+        frame = base64.b64decode(kept["values"][FRAME]["data"])
+        # Frame, normal frame and inside, each as left, top, right, bottom, from bytes 8, 24 and 50 on.
+        away = bytearray(frame)
+        for place in (8, 24, 50):
+            moved = [number + 5000 for number in struct.unpack(">4i", frame[place:place + 16])]
+            away[place:place + 16] = struct.pack(">4i", *moved)
+        for damage in ({"data": base64.b64encode(away).decode()}, {"data": base64.b64encode(frame[:20]).decode()},
+                       {"data": "////" * 22}, {"data": 7}, "text", 7, [1, 2]):
+            kept["values"][FRAME] = damage
+            write(settings, json.dumps(kept).encode())
+            with self.subTest(damage=damage), self.start() as program:
+                program.wait_title("Quorvane")
+                x, y, width, height = program.get("frame").extents
+                self.assertTrue(0 <= x <= SIZE[0] - 200 and 0 <= y <= SIZE[1] - 100, (x, y, width, height))
+                self.assertTrue(600 < width <= SIZE[0] and 400 < height <= SIZE[1], (x, y, width, height))
+                self.assertEqual(program.end(), 0)
+
+
+if __name__ == "__main__":
+    unittest.main(verbosity=2)
