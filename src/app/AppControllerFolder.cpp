@@ -69,8 +69,9 @@ void AppController::_cancelLook() {
   _endWork();
 }
 
-void AppController::openArgument(const Path& path) {
-  applicationOpenFile(path, [this, path] {
+void AppController::openArgument(const Path& path, const std::function<void()>& refused) {
+  applicationOpenFile(path, [this, path, refused] {
+    if (refused) refused();
     std::error_code ignored;
     const QString shown = visibleText(QFile::decodeName(path.filename().c_str()));
     _notice(std::filesystem::exists(path, ignored) ? tr("“%1” is no folder.").arg(shown)
