@@ -93,7 +93,9 @@ class Program:
 
     def wait_open(self, folder):
         self.wait_title("– " + os.path.basename(folder))
-        self.test.wait(lambda: self.get("text", "^Label$").has(accessible.FOCUSED), "the label field")
+        # While the folder is being looked at for long, the field takes nothing in.
+        self.test.wait(lambda: self.find("filler", "^Preview$") and not self.find("progress bar", "Busy") and
+                       self.get("text", "^Label$").has(accessible.FOCUSED), "the folder to be looked at")
 
     def end(self, with_signal=signal.SIGTERM):
         """Asks it to end; the exit code."""
