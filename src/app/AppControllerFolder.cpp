@@ -175,7 +175,7 @@ void AppController::apply() {
   const Path path = _path.value_or(Path());
   const auto answer = std::make_shared<std::optional<Result<BrandingResult>>>();
   _beginWork(tr("Applying the icon…"));
-  _services.work.apply([composition = std::move(composition)] { return composition.iconImage(); }, path,
+  _services.work.apply([composition = std::move(composition)] { return composition.canvasIconImage(); }, path,
                        [this, self = QPointer(this), path, answer](Result<BrandingResult> result) {
                          if (!self) return;
                          _endWork();
