@@ -71,7 +71,7 @@ Result<int> searchJpegQuality(int startingQuality, ByteCount limit, const JpegAt
 Result<Bytes> encodeJpegUnderLimit(const JpegSource& source, int startingQuality, Kibibytes limit) {
   const ByteCount most = limit.bytes();
   Bytes jpeg;
-  TRY(searchJpegQuality(startingQuality, most, [&](int quality, std::uint64_t& length) -> Result<bool> {
+  TRY_VOID(searchJpegQuality(startingQuality, most, [&](int quality, std::uint64_t& length) -> Result<bool> {
     jpeg = TRY(source.encode(compressionFactor(quality)));
     length = jpeg.size();
     return most.value == 0 || length < most.value;
