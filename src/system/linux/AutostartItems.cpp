@@ -109,7 +109,7 @@ Result<void> AutostartItems::add(const std::string& path, bool hidden) {
   Folder folder = TRY(Folder::open(_folder, Folder::Access::Write));
   const auto old = TRY(folder.readFile(file, limits::desktopEntryBytes));
   if (old && !isOurs(*old)) return Error::refused("is not our login item").at(_folder / file);
-  TRY(folder.writeFile(file, entryText(name, path, hidden), old));
+  TRY_VOID(folder.writeFile(file, entryText(name, path, hidden), old));
   return {};
 }
 
