@@ -64,8 +64,8 @@ class AppController : public QObject, public HVWindowDelegate, public LabelTextF
   /// folder at the path, be it later.
   bool applicationOpenFile(const Path& path, const std::function<void()>& refused = {});
   void _openFile(const Path& path, const std::function<void()>& refused = {}) { applicationOpenFile(path, refused); }
-  /// What the program was started with: says why it cannot be opened when it cannot.
-  void openArgument(const Path& path);
+  /// What the program was started with: says why it cannot be opened when it cannot, and tells `refused`.
+  void openArgument(const Path& path, const std::function<void()>& refused = {});
   /// The same with the address of what lies elsewhere, which never can.
   void refuseAddress(const QString& address);
   /// Makes a folder the current one. nullopt: none; the canvas, the tables and the drawer are left alone.

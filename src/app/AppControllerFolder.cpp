@@ -69,8 +69,9 @@ void AppController::_cancelLook() {
   _endWork();
 }
 
-void AppController::openArgument(const Path& path) {
-  applicationOpenFile(path, [this, path] {
+void AppController::openArgument(const Path& path, const std::function<void()>& refused) {
+  applicationOpenFile(path, [this, path, refused] {
+    if (refused) refused();
     std::error_code ignored;
     const QString shown = visibleText(QFile::decodeName(path.filename().c_str()));
     _notice(std::filesystem::exists(path, ignored) ? tr("“%1” is no folder.").arg(shown)
@@ -174,7 +175,7 @@ void AppController::apply() {
   const Path path = _path.value_or(Path());
   const auto answer = std::make_shared<std::optional<Result<BrandingResult>>>();
   _beginWork(tr("Applying the icon…"));
-  _services.work.apply([composition = std::move(composition)] { return composition.iconImage(); }, path,
+  _services.work.apply([composition = std::move(composition)] { return composition.canvasIconImage(); }, path,
                        [this, self = QPointer(this), path, answer](Result<BrandingResult> result) {
                          if (!self) return;
                          _endWork();

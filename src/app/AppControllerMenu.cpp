@@ -173,7 +173,7 @@ void AppController::_edit(MenuCommand command) {
   if (!isText) {
     // The icon as it would be written, for other programs.
     if (command != MenuCommand::Copy) return;
-    const auto icon = _folderView->iconImage();
+    const auto icon = _folderView->composition().canvasIconImage();
     const auto bitmap = icon ? icon->bitmapForPixels(512, 512) : std::nullopt;
     if (bitmap) QApplication::clipboard()->setImage(bitmap->toImage());
     return;

@@ -148,20 +148,19 @@ int runApplication(int argc, char** argv) {
   controller->awakeFromNib();
   controller->outlets()._folderView->awakeFromNib(settings::startFont(defaults));
   window.show();
-  const auto open = [&](const OpenRequest& wish) {
-    for (const auto& folder : wish.paths) controller->openArgument(folder);
+  const auto open = [&](const OpenRequest& wish, const std::function<void(const std::filesystem::path&)>& refused) {
+    for (const auto& folder : wish.paths) controller->openArgument(folder, [refused, folder] { refused(folder); });
     for (const auto& address : wish.otherAddresses) controller->refuseAddress(QString::fromStdString(address));
   };
-  for (const auto& folder : request.paths) {
-    controller->applicationOpenFile(folder, [folder] {
-      std::fprintf(stderr, "quorvane-window: %s: this is no folder\n", printable(folder).c_str());
-    });
-  }
+  // Who started it from a terminal looks there.
+  open(request, [](const auto& path) {
+    std::fprintf(stderr, "quorvane-window: %s: this is no folder\n", printable(path).c_str());
+  });
   instance.setHandler([&](const OpenRequest& wish) {
     // What the desktop gave the other process lets this window come to the front.
     if (!wish.activationToken.empty()) qputenv("XDG_ACTIVATION_TOKEN", QByteArray::fromStdString(wish.activationToken));
     window.bringToFront();
-    open(wish);
+    open(wish, [](const auto&) {});
   });
   QTimer::singleShot(0, controller.get(), &AppController::applicationDidFinishLaunching);
   const int code = QApplication::exec();

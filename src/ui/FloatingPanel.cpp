@@ -3,8 +3,11 @@
 
 #include <QApplication>
 #include <QKeyEvent>
+#include <QScreen>
 #include <QVBoxLayout>
 #include <QWindow>
+#include <algorithm>
+#include <utility>
 
 namespace quorvane {
 
@@ -42,12 +45,26 @@ void FloatingPanel::_setContent(QWidget* content) {
   content->show();
 }
 
+void FloatingPanel::_placeBeside(const QWidget& window) {
+  const QRect frame = window.frameGeometry();
+  const QRect screen = window.screen()->availableGeometry();
+  const QSize size = sizeHint().expandedTo(minimumSizeHint());
+  int left = frame.right() + 9;
+  if (left + size.width() > screen.right()) left = frame.left() - size.width() - 8;
+  // With no room at either side it covers the side that has the controls, not the picture.
+  if (left < screen.left()) left = std::min(frame.right(), screen.right()) - size.width();
+  move(std::max(left, screen.left()),
+       std::clamp(frame.top(), screen.top(), std::max(screen.top(), screen.bottom() - size.height())));
+}
+
 void FloatingPanel::showPanel() {
   if (_place) return;
   const QWidget* over = QApplication::activeWindow();
   // Only then window managers keep it in front of that window.
   winId();
   if (over && over != this && over->windowHandle()) windowHandle()->setTransientParent(over->windowHandle());
+  // Only the first time: later it comes back where the user has put it.
+  if (over && over != this && !std::exchange(_isPlaced, true)) _placeBeside(*over->window());
   show();
   raise();
   activateWindow();

@@ -40,9 +40,11 @@ class FloatingPanel : public QWidget {
  private:
   class Place;
   void _takeContent();
+  void _placeBeside(const QWidget& window);
 
   QWidget* _content = nullptr;
   QPointer<QWidget> _place;
+  bool _isPlaced = false;
 };
 
 /// A standard dialog that serves as the content of a panel: Escape and Return do not hide it there.

@@ -16,7 +16,9 @@ namespace {
 constexpr int smallestSize = 1;
 constexpr int largestSize = 512;
 /// Room for a sample of the usual sizes.
-constexpr int sampleHeight = 84;
+constexpr QSize sampleRoom(330, 84);
+/// Room for the names of most families beside it, in characters.
+constexpr int panelWidth = 90;
 
 int shownSize(double size) {
   return static_cast<int>(std::lround(std::clamp(size, double{smallestSize}, double{largestSize})));
@@ -42,9 +44,17 @@ FontPanel::FontPanel() : FloatingPanel(tr("Fonts")), _dialog(new PanelContent<QF
     if (auto* effects = qobject_cast<QGroupBox*>(box->parentWidget())) effects->hide();
   }
   for (QLineEdit* field : _dialog->findChildren<QLineEdit*>()) {
-    if (qobject_cast<QGroupBox*>(field->parentWidget())) field->setMinimumHeight(sampleHeight);
+    if (!qobject_cast<QGroupBox*>(field->parentWidget())) continue;
+    field->setMinimumSize(sampleRoom);
+    // Of what does not fit the beginning is seen.
+    const auto showStart = [field] {
+      if (!field->hasFocus()) field->home(false);
+    };
+    connect(field, &QLineEdit::textChanged, field, showStart);
+    showStart();
   }
   _dialog->setSizeGripEnabled(false);
+  _dialog->setMinimumWidth(panelWidth * _dialog->fontMetrics().averageCharWidth());
   _setContent(_dialog);
   connect(_dialog, &QFontDialog::currentFontChanged, this, &FontPanel::_changed);
 }

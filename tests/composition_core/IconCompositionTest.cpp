@@ -54,6 +54,20 @@ TEST_F(IconCompositionTest, EverySetterAsksForARedrawAndSaysWhatElse) {
   EXPECT_EQ(_composition.canvasLabelCenter(), (Point{64, 64}));
 }
 
+TEST_F(IconCompositionTest, AShadowIsAsLargeInTheIconAsOnTheCanvas) {
+  const auto drawn = [this](float points) {
+    _composition.setCurrentIcon(squareBase(points, 512));
+    const auto icon = _composition.canvasIconImage();
+    EXPECT_EQ(icon->size(), (Size{128, 128}));
+    return icon->bitmapRepresentation()->toImage();
+  };
+  _composition.setFont(plainLook(30).font);
+  _composition.setLabel(QStringLiteral("A"));
+  _composition.setShadow(LabelShadow{.offsetX = 6, .offsetY = -6, .blurRadius = 4, .color = Qt::red});
+  _composition.centerLabel();
+  EXPECT_EQ(drawn(512), drawn(128));
+}
+
 TEST_F(IconCompositionTest, TheBaseIconTakesPrecedence) {
   const Image current = squareBase(32, 16);
   const Image base = squareBase(512, 8);

@@ -8,10 +8,11 @@ import re
 import shutil
 import signal
 import struct
+import time
 import unittest
 
 from driver import SIZE, WindowTest
-from support import BACKUP, read, tree, write
+from support import CUSTOM_ICON, ICON_COMPANION, folder_flags, read, tree, write
 
 FRAME = "Window Frame MainWindowAutosave"
 NO_BUS = {"DBUS_SESSION_BUS_ADDRESS": "unix:path=/nowhere"}
@@ -61,28 +62,36 @@ class StartsTest(WindowTest):
         for argument in ("sftp://host/folder", "smb://host/share", self.work + "/not there", one + "/letter.txt"):
             with self.subTest(argument=argument):
                 self.hand_over(argument)
-                said = self.wait(lambda: program.notice(), "a word about it")
-                self.assertIn(os.path.basename(argument), said)
-                program.wait_open(one)
-                self.hand_over(one)  # so that the next word is a new one
-                self.wait(lambda: not program.notice(), "the notice to go", patience=30)
+                self.wait(lambda: os.path.basename(argument) in (program.notice() or ""), "a word about it")
+                program.wait_title("– one")
         self.assertEqual(program.end(), 0)
 
     def test_without_a_bus_it_works_and_ends(self):
         folder = self.folder("per%20cent #1")
         program = self.start(folder, env=NO_BUS)
-        self.wait(lambda: self.xdotool("search", "--onlyvisible", "--name", "per%20cent"), "the window")
-        self.wait(lambda: self._typed(folder), "an icon", patience=30)
+        self._apply_blindly(folder)
         self.assert_branded(folder)
         other = self.start(folder, env=NO_BUS)
         self.wait(lambda: len(self.windows()) == 2, "a window of its own for each")
         self.assertEqual(other.end(), 0)
         self.assertEqual(program.end(), 0)
 
-    def _typed(self, folder):
-        self.type("bus")
-        self.key("ctrl+Return")
-        return os.path.exists(os.path.join(folder, BACKUP))
+    def _apply_blindly(self, folder):
+        """Where nobody can be asked what the window shows."""
+        name = os.path.basename(folder)
+        self.wait(lambda: self.xdotool("search", "--onlyvisible", "--name", name) == self.xdotool("getactivewindow"),
+                  "the window in front", patience=60)
+        begun = time.monotonic() - 10
+
+        def is_written():
+            nonlocal begun
+            if time.monotonic() > begun + 10:  # once more if that was too early
+                self.type("bus")
+                self.key("ctrl+Return")
+                begun = time.monotonic()
+            return os.path.exists(os.path.join(folder, ICON_COMPANION)) and folder_flags(folder) & CUSTOM_ICON
+
+        self.wait(is_written, "an icon", patience=60)
 
     def test_a_signal_ends_it_in_each_state(self):
         folder = self.folder()
@@ -128,8 +137,7 @@ class StartsTest(WindowTest):
         trace = os.path.join(self.place, "trace")
         before = tree(self.home)
         program = self.start(folder, command=["strace", "-f", "-qq", "-e", "trace=connect,sendto,bind", "-o", trace])
-        self.wait(lambda: self.xdotool("search", "--onlyvisible", "--name", "Invoices"), "the window")
-        self.wait(lambda: self._typed(folder), "an icon", patience=60)
+        self._apply_blindly(folder)
         self.key("ctrl+q")
         self.assertEqual(program.wait_end(), 0)
         calls = [line for line in read(trace).decode().splitlines() if "sa_family" in line]

@@ -30,7 +30,7 @@ class StoryTest(WindowTest):
         before = tree(self.work)
         item_of = self.open_manager(self.work)
         program = self.start()
-        program.wait_title("Quorvane")
+        program.move_aside()
         self.assertFalse(program.is_enabled("push button", "^Apply$"))
         self.picture("1-empty")
 

@@ -114,6 +114,12 @@ std::optional<Image> IconComposition::iconImage() const {
   return LabelRenderer(look())._iconWithBase(*picture(), _label);
 }
 
+std::optional<Image> IconComposition::canvasIconImage() const {
+  const auto displayed = displayedImage();
+  if (!displayed) return std::nullopt;
+  return LabelRenderer(look())._iconWithBase(*displayed, _label);
+}
+
 void IconComposition::changed(const CompositionChange& change) const {
   if (_listener) _listener(change);
 }

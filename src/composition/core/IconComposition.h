@@ -77,6 +77,8 @@ class IconComposition {
   [[nodiscard]] LabelLook look() const;
   /// The composed icon, as large as its picture (LabelRenderer::_iconWithBase); nullopt without a picture.
   [[nodiscard]] std::optional<Image> iconImage() const;
+  /// The same on displayedImage(), no less dense: what the canvas shows, shadows too, which do not grow with a picture.
+  [[nodiscard]] std::optional<Image> canvasIconImage() const;
 
  private:
   /// Base icon, else current icon.

@@ -65,7 +65,7 @@ PreviewStrip::~PreviewStrip() {
 }
 
 void PreviewStrip::setComposition(const IconComposition& composition) {
-  const auto& picture = composition.baseIcon() ? composition.baseIcon() : composition.currentIcon();
+  const auto picture = composition.displayedImage();
   if (!picture) {
     _wanted.reset();
     _icons = {};

@@ -59,11 +59,11 @@ void type(const TestWindow& test, const QString& text) {
 
 void edit(TestWindow& test) {
   test.controller->applicationOpenFile(test.folder);
-  test.controller->setFont({QStringLiteral("Noto Sans"), QStringLiteral("Bold"), 24});
+  test.controller->setFont({QStringLiteral("Noto Sans"), QStringLiteral("Bold"), 28});
   test.controller->setColor(Qt::white);
   test.controller->_setEffect(2);
-  test.ui()._folderView->setCanvasLabelCenter({64, 55});
-  type(test, QStringLiteral("Invoices\n2026"));
+  test.ui()._folderView->setCanvasLabelCenter({64, 56});
+  type(test, QStringLiteral("Paid\n2026"));
 }
 
 void takeAll(Pictures& pictures) {

@@ -1,0 +1,20 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// What any window of this toolkit costs: prints the moment of the first frame and the processor time by then.
+#include <QApplication>
+#include <QMainWindow>
+#include <cstdio>
+
+#include "FirstPaint.h"
+
+int main(int argc, char** argv) {
+  QApplication application(argc, argv);
+  using namespace quorvane::bench;
+  new FirstPaint([] {
+    std::printf("%.6f %.6f\n", seconds(CLOCK_MONOTONIC), seconds(CLOCK_PROCESS_CPUTIME_ID));
+    QCoreApplication::quit();
+  });
+  QMainWindow window;
+  window.resize(1180, 680);
+  window.show();
+  return QApplication::exec();
+}
