@@ -74,7 +74,9 @@ struct Outcome {
 
 Result<Outcome> combine(ByteView data, const MetadataProperties& properties, Kinds kinds) {
   return metadata::guarded(failing, [&]() -> Result<Outcome> {
-    const std::unique_ptr<Exiv2::Image> picture = TRY(metadata::openPicture(data));
+    // The library changes a TIFF where it lies, although it is given to it for reading.
+    const Bytes copy(data.begin(), data.end());
+    const std::unique_ptr<Exiv2::Image> picture = TRY(metadata::openPicture(copy));
     const bool isTiff = picture->imageType() == Exiv2::ImageType::tiff;
     if (kinds.exif) mergeExif(properties.exif, *picture);
     if (kinds.iptc) mergeIptc(properties.iptc, picture->iptcData());

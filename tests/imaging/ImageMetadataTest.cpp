@@ -60,7 +60,9 @@ TEST(ImageMetadata, CombiningCarriesEverythingAndLeavesThePixels) {
     // What the file says stays unless the metadata say otherwise.
     ImageMetadata more;
     ASSERT_TRUE(more.setValue("Exif.Image.Artist", "Bea").ok() && more.setValue("Xmp.dc.source", "here").ok());
+    const Bytes before = combined.data;
     const auto both = ImageMetadata::metadataOfData(Image::combineData(combined.data, more).data);
+    EXPECT_EQ(combined.data, before);
     EXPECT_EQ(both.value().value("Exif.Image.Artist"), "Bea");
     EXPECT_EQ(both.value().value("Xmp.dc.source"), "here");
     EXPECT_EQ(both.value().value("Iptc.Application2.Caption"), "A caption");
