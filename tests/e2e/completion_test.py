@@ -11,6 +11,7 @@ from support import BUILD, EndToEndTest, read
 DOCS = os.path.join(BUILD, "docs")
 BASH, ZSH, FISH = (os.path.join(DOCS, name) for name in ("bash/quorvane", "zsh/_quorvane", "fish/quorvane.fish"))
 MANUAL = os.path.join(DOCS, "quorvane.1")
+WINDOW_MANUAL = os.path.join(DOCS, "quorvane-window.1")
 CALL = r"""
 compopt() { printf '%s\n' "$*"; }
 source "$1" || exit 9
@@ -108,13 +109,14 @@ class CompletionTest(EndToEndTest):
             if command and not commands:
                 self.assertIn('\n.SS "\\fB' + " ".join(command), manual)
 
-    def test_the_manual_is_clean_roff(self):
+    def test_the_manuals_are_clean_roff(self):
         for program, arguments in (("man", ("-l", "--warnings", "-Tutf8")), ("groff", ("-ww", "-man", "-Tutf8"))):
-            with self.subTest(program):
-                if not shutil.which(program):
-                    self.skipTest(f"there is no {program} here")
-                lines = self.run_shell(program, *arguments, MANUAL)
-                self.assertTrue(any("Wrong use." in line for line in lines), f"{program} shows another page")
+            for manual, words in ((MANUAL, "Wrong use."), (WINDOW_MANUAL, "no display")):
+                with self.subTest(program, manual=manual):
+                    if not shutil.which(program):
+                        self.skipTest(f"there is no {program} here")
+                    lines = self.run_shell(program, *arguments, manual)
+                    self.assertTrue(any(words in line for line in lines), f"{program} shows another page")
 
 
 if __name__ == "__main__":

@@ -25,7 +25,8 @@ class InstallTest(EndToEndTest):
         files |= {"share/doc/quorvane/" + text for text in ("LICENSE", "copyright", "changelog.gz", "what-it-writes.md",
                                                             "thunar.md", "examples/quorvane-folder.thumbnailer")}
         if os.path.exists(os.path.join(BUILD, "src/app/quorvane-window")):
-            files |= {"bin/quorvane-window", f"share/applications/{APP_ID}.desktop"}
+            files |= {"bin/quorvane-window", f"share/applications/{APP_ID}.desktop",
+                      "share/man/man1/quorvane-window.1.gz"}
         return files
 
     def listed(self, top):
