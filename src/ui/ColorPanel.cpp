@@ -5,21 +5,25 @@
 
 namespace quorvane {
 
-ColorPanel::ColorPanel() : FloatingPanel(tr("Colors")), _dialog(new PanelContent<QColorDialog>), _color(Qt::white) {
+ColorPanel::ColorPanel() : FloatingPanel(tr("Colors")) {}
+
+QWidget* ColorPanel::_makeContent() {
+  _dialog = new PanelContent<QColorDialog>;
   _dialog->setOptions(QColorDialog::NoButtons | QColorDialog::DontUseNativeDialog | QColorDialog::ShowAlphaChannel);
   _dialog->setCurrentColor(_color);
-  _setContent(_dialog);
   connect(_dialog, &QColorDialog::currentColorChanged, this, [this](const QColor& color) {
     if (!color.isValid() || color == _color) return;
     _color = color;
     Q_EMIT colorChanged(color);
   });
+  return _dialog;
 }
 
 void ColorPanel::setColor(const QColor& color) {
   if (!color.isValid()) return;
   // First, so that the dialog's own signal finds nothing new.
   _color = color;
+  if (!_dialog) return;
   const QSignalBlocker quiet(_dialog);
   _dialog->setCurrentColor(color);
 }

@@ -24,8 +24,10 @@ class ColorPanel : public FloatingPanel {
   void colorChanged(const QColor& color);
 
  private:
-  QColorDialog* _dialog;
-  QColor _color;
+  QWidget* _makeContent() override;
+
+  QColorDialog* _dialog = nullptr;
+  QColor _color = Qt::white;
 };
 
 }  // namespace quorvane

@@ -37,12 +37,10 @@ FloatingPanel::~FloatingPanel() {
   moveContentBack();
 }
 
-void FloatingPanel::_setContent(QWidget* content) {
-  _content = content;
-  // A dialog made as a window keeps the flags of one unless told.
-  content->setParent(this, Qt::Widget);
-  layout()->addWidget(content);
-  content->show();
+void FloatingPanel::_needContent() {
+  if (_content) return;
+  _content = _makeContent();
+  _takeContent();
 }
 
 void FloatingPanel::_placeBeside(const QWidget& window) {
@@ -59,6 +57,7 @@ void FloatingPanel::_placeBeside(const QWidget& window) {
 
 void FloatingPanel::showPanel() {
   if (_place) return;
+  _needContent();
   const QWidget* over = QApplication::activeWindow();
   // Only then window managers keep it in front of that window.
   winId();
@@ -76,6 +75,7 @@ void FloatingPanel::hidePanel() {
 
 void FloatingPanel::moveContentInto(QWidget& box) {
   moveContentBack();
+  _needContent();
   hide();
   if (!box.layout()) new QVBoxLayout(&box);
   _place = new Place(*this);
@@ -90,6 +90,7 @@ void FloatingPanel::moveContentBack() {
 }
 
 void FloatingPanel::_takeContent() {
+  // A dialog made as a window keeps the flags of one unless told.
   _content->setParent(this, Qt::Widget);
   layout()->addWidget(_content);
   _content->show();

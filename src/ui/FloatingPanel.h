@@ -7,7 +7,8 @@
 namespace quorvane {
 
 /// A small floating window round one content, which may be lent to a box of another window: then it is shown there and
-/// the panel itself stays hidden. Closing the panel, by Escape too, only hides it.
+/// the panel itself stays hidden. Closing the panel, by Escape too, only hides it. The content, a large dialog that
+/// many runs never show, is made when it is first wanted.
 class FloatingPanel : public QWidget {
   Q_OBJECT
  public:
@@ -31,14 +32,15 @@ class FloatingPanel : public QWidget {
 
  protected:
   explicit FloatingPanel(const QString& title);
-  /// Once, by the derived class; the panel owns it.
-  void _setContent(QWidget* content);
+  /// Called once, before the content is first shown; the panel owns what it gives.
+  virtual QWidget* _makeContent() = 0;
 
   void hideEvent(QHideEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
 
  private:
   class Place;
+  void _needContent();
   void _takeContent();
   void _placeBeside(const QWidget& window);
 

@@ -37,7 +37,10 @@ QString existingStyle(const QString& family, const QString& style) {
 
 }  // namespace
 
-FontPanel::FontPanel() : FloatingPanel(tr("Fonts")), _dialog(new PanelContent<QFontDialog>) {
+FontPanel::FontPanel() : FloatingPanel(tr("Fonts")) {}
+
+QWidget* FontPanel::_makeContent() {
+  _dialog = new PanelContent<QFontDialog>;
   _dialog->setOptions(QFontDialog::NoButtons | QFontDialog::DontUseNativeDialog);
   // Underlining and striking through mean nothing to a label.
   for (const QCheckBox* box : _dialog->findChildren<QCheckBox*>()) {
@@ -55,16 +58,21 @@ FontPanel::FontPanel() : FloatingPanel(tr("Fonts")), _dialog(new PanelContent<QF
   }
   _dialog->setSizeGripEnabled(false);
   _dialog->setMinimumWidth(panelWidth * _dialog->fontMetrics().averageCharWidth());
-  _setContent(_dialog);
+  if (!_family.isEmpty()) _showFont();
   connect(_dialog, &QFontDialog::currentFontChanged, this, &FontPanel::_changed);
+  return _dialog;
 }
 
 void FontPanel::setPanelFont(const QString& family, const QString& style, double size) {
   _family = family;
   _style = style;
   _size = size;
+  if (_dialog) _showFont();
+}
+
+void FontPanel::_showFont() {
   const QSignalBlocker quiet(_dialog);
-  _dialog->setCurrentFont(QFontDatabase::font(family, existingStyle(family, style), shownSize(size)));
+  _dialog->setCurrentFont(QFontDatabase::font(_family, existingStyle(_family, _style), shownSize(_size)));
 }
 
 void FontPanel::_changed(const QFont& font) {

@@ -28,9 +28,11 @@ class FontPanel : public FloatingPanel {
   void fontChanged(const QString& family, const QString& style, double size);
 
  private:
+  QWidget* _makeContent() override;
+  void _showFont();
   void _changed(const QFont& font);
 
-  QFontDialog* _dialog;
+  QFontDialog* _dialog = nullptr;
   QString _family;
   QString _style;
   double _size = 0;
