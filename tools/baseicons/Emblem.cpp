@@ -2,6 +2,7 @@
 #include "Emblem.h"
 
 #include <QPainter>
+#include <algorithm>
 
 #include "Coverage.h"
 #include "svg/PlainSvg.h"
@@ -10,47 +11,73 @@ namespace quorvane::baseicons {
 
 namespace {
 
+constexpr int tinySide = 8;
+
 // Points of lightness between the emblem and the folder's colour. Small pictures need more to be told at all.
 double contrast(int pixels) {
-  return pixels >= 128 ? 12 : pixels >= 32 ? 24 : 30;
+  return pixels >= 128 ? 11 : pixels >= 32 ? 24 : 32;
 }
 
-QString wish(double points) {
-  return (points < 0 ? QString() : QStringLiteral("+")) + QString::number(points);
+// One of the emblems drawn in whole pixels, out of the text that holds them all.
+Result<QImage> tinyEmblem(Sources& sources, const QString& name) {
+  const QString file = QStringLiteral("library/emblems-8.txt");
+  const QStringList lines = QString::fromUtf8(TRY(sources.read(file))).split(QLatin1Char('\n'));
+  const qsizetype first = lines.indexOf(name) + 1;
+  if (first == 0 || first + tinySide > lines.size())
+    return Error::invalidInput(file.toStdString() + " has no " + name.toStdString());
+  QImage result(tinySide, tinySide, QImage::Format_RGBA64_Premultiplied);
+  result.fill(Qt::transparent);
+  for (int y = 0; y < tinySide; ++y) {
+    const QString& line = lines[first + y];
+    if (line.size() != tinySide)
+      return Error::invalidInput(file.toStdString() + " has a line too short or too long in " + name.toStdString());
+    for (int x = 0; x < tinySide; ++x)
+      if (line[x] == QLatin1Char('#')) result.setPixelColor(x, y, Qt::black);
+  }
+  return result;
+}
+
+Result<QImage> emblem(Sources& sources, const QString& name, int side) {
+  if (side <= tinySide) return tinyEmblem(sources, name);
+  QString file = QStringLiteral("emblems/%1-16.svg").arg(name);
+  if (side > 16 || !sources.has(file)) file = QStringLiteral("emblems/%1.svg").arg(name);
+  QImage drawn = svg::renderPlainSvg(TRY(sources.read(file)), {side, side}, 4);
+  if (drawn.isNull()) return Error::invalidInput(file.toStdString() + " cannot be rendered whole");
+  return drawn;
+}
+
+// Where one thing is and the other is not.
+Coverage without(const Coverage& shape, const Coverage& other) {
+  Coverage result(shape.side());
+  for (int y = 0; y < shape.side(); ++y)
+    for (int x = 0; x < shape.side(); ++x) result.set(x, y, shape.at(x, y) * (1 - other.at(x, y)));
+  return result;
 }
 
 }  // namespace
 
 Result<void> drawEmblem(QPainter& painter, Sources& sources, const IconRow& icon, QRect box, int pixels) {
-  QString file = QStringLiteral("emblems/%1-16.svg").arg(icon.emblem);
-  if (box.width() > 16 || !sources.has(file)) file = QStringLiteral("emblems/%1.svg").arg(icon.emblem);
-  const QByteArray glyph = TRY(sources.read(file));
-  const QImage drawn = svg::renderPlainSvg(glyph, box.size(), 4);
-  if (drawn.isNull()) return Error::invalidInput(file.toStdString() + " cannot be rendered whole");
+  const QImage drawn = TRY(emblem(sources, icon.emblem, box.width()));
   QImage placed(pixels, pixels, QImage::Format_RGBA64_Premultiplied);
   placed.fill(Qt::transparent);
   QPainter(&placed).drawImage(box.topLeft(), drawn);
   const Coverage shape = Coverage::ofAlpha(placed);
+  const auto color = [&](double points) {
+    return *shade(icon.tone, (points < 0 ? QString() : QStringLiteral("+")) + QString::number(points));
+  };
 
-  // A dark folder has no room for darker.
-  const double sign = icon.tone.lightness < 50 ? 1 : -1;
-  const auto color = [&](double points) { return *shade(icon.tone, wish(points)); };
   if (pixels >= 32) {
     // The light comes from above on the left, so the lower right rim of the cut catches it.
     const double rim = std::max(pixels / 170.0, 0.6);
-    Coverage light = shape.moved(rim * 0.6, rim);
-    for (int y = 0; y < pixels; ++y)
-      for (int x = 0; x < pixels; ++x) light.set(x, y, light.at(x, y) * (1 - shape.at(x, y)));
-    painter.drawImage(0, 0, light.inColor(Qt::white, 0.4));
+    painter.drawImage(0, 0, without(shape.moved(rim * 0.6, rim), shape).inColor(Qt::white, 0.35));
   }
-  painter.drawImage(0, 0, shape.inColor(color(sign * contrast(pixels))));
+  // A dark folder has no room for darker.
+  const bool isDark = icon.tone.lightness < 50;
+  painter.drawImage(0, 0, shape.inColor(color(isDark ? contrast(pixels) : -contrast(pixels))));
   if (pixels >= 128) {
     const double depth = pixels / 110.0;
     const Coverage floor = shape.moved(depth * 0.6, depth).blurred(depth * 0.7);
-    Coverage dark(pixels);
-    for (int y = 0; y < pixels; ++y)
-      for (int x = 0; x < pixels; ++x) dark.set(x, y, shape.at(x, y) * (1 - floor.at(x, y)));
-    painter.drawImage(0, 0, dark.inColor(color(-34), 0.55));
+    painter.drawImage(0, 0, without(shape, floor).inColor(color(-34), 0.5));
   }
   return {};
 }

@@ -79,7 +79,7 @@ std::optional<QColor> shade(const Tone& base, const QString& wish) {
     tone.lightness += sign == QLatin1String("-") ? -number : number * room(base.lightness);
   tone.lightness = std::clamp(tone.lightness, 4.0, 100.0);
   const double darker = base.lightness - tone.lightness;
-  if (darker > 0) tone.hue -= turn(base.hue) * darker;
+  if (darker > 0) tone.hue -= turn(base.hue) * std::min(darker, 16.0);
   if (!match.captured(3).isEmpty()) tone.chroma *= match.captured(3).toDouble() / 100;
   return toColor(tone);
 }
