@@ -94,11 +94,12 @@ Result<QImage> drawPicture(Sources& sources, const IconRow& icon, int pixels) {
   if (shapes.isNull()) return fault(QStringLiteral("%1 cannot be rendered whole").arg(file));
   painter.drawImage(0, 0, shapes);
   if (!icon.emblem.isEmpty()) {
-    if (!measures.elementExists(QStringLiteral("emblem")))
-      return fault(QStringLiteral("%1 has no room for an emblem").arg(file));
+    static const QRegularExpression mark(QStringLiteral("id=\"emblem\" data-depth=\"([0-9]+)\""));
+    const auto depth = mark.match(drawing);
+    if (!depth.hasMatch()) return fault(QStringLiteral("%1 has no room for an emblem").arg(file));
     const QRectF room = measures.boundsOnElement(QStringLiteral("emblem"));
     const QRect box(QPointF(room.topLeft() * unit).toPoint(), QSizeF(room.size() * unit).toSize());
-    TRY_VOID(drawEmblem(painter, sources, icon, box, pixels));
+    TRY_VOID(drawEmblem(painter, sources, icon, {box, depth.captured(1).toDouble()}, pixels));
   }
   painter.end();
   return picture.convertToFormat(QImage::Format_ARGB32_Premultiplied);

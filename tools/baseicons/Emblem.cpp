@@ -13,11 +13,6 @@ namespace {
 
 constexpr int tinySide = 8;
 
-// Points of lightness between the emblem and the folder's colour. Small pictures need more to be told at all.
-double contrast(int pixels) {
-  return pixels >= 128 ? 11 : pixels >= 32 ? 24 : 32;
-}
-
 // One of the emblems drawn in whole pixels, out of the text that holds them all.
 Result<QImage> tinyEmblem(Sources& sources, const QString& name) {
   const QString file = QStringLiteral("library/emblems-8.txt");
@@ -56,11 +51,11 @@ Coverage without(const Coverage& shape, const Coverage& other) {
 
 }  // namespace
 
-Result<void> drawEmblem(QPainter& painter, Sources& sources, const IconRow& icon, QRect box, int pixels) {
-  const QImage drawn = TRY(emblem(sources, icon.emblem, box.width()));
+Result<void> drawEmblem(QPainter& painter, Sources& sources, const IconRow& icon, const EmblemRoom& room, int pixels) {
+  const QImage drawn = TRY(emblem(sources, icon.emblem, room.box.width()));
   QImage placed(pixels, pixels, QImage::Format_RGBA64_Premultiplied);
   placed.fill(Qt::transparent);
-  QPainter(&placed).drawImage(box.topLeft(), drawn);
+  QPainter(&placed).drawImage(room.box.topLeft(), drawn);
   const Coverage shape = Coverage::ofAlpha(placed);
   const auto color = [&](double points) {
     return *shade(icon.tone, (points < 0 ? QString() : QStringLiteral("+")) + QString::number(points));
@@ -73,11 +68,11 @@ Result<void> drawEmblem(QPainter& painter, Sources& sources, const IconRow& icon
   }
   // A dark folder has no room for darker.
   const bool isDark = icon.tone.lightness < 50;
-  painter.drawImage(0, 0, shape.inColor(color(isDark ? contrast(pixels) : -contrast(pixels))));
+  painter.drawImage(0, 0, shape.inColor(color(isDark ? room.depth : -room.depth)));
   if (pixels >= 128) {
     const double depth = pixels / 110.0;
     const Coverage floor = shape.moved(depth * 0.6, depth).blurred(depth * 0.7);
-    painter.drawImage(0, 0, without(shape, floor).inColor(color(-34), 0.5));
+    painter.drawImage(0, 0, without(shape, floor).inColor(color(-32), 0.45));
   }
   return {};
 }

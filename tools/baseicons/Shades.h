@@ -19,8 +19,8 @@ struct Tone {
 QColor toColor(const Tone& tone);
 
 /// The colour that a drawing asks for, seen from the icon's own: "+8" or "-12" points of lightness away from it ("0" is
-/// the colour itself; a light colour goes up in smaller steps), "=40" at that lightness; then "cNN" for that percentage of its chroma. A darker shade of a warm
-/// hue turns redder, as things do in shade. nullopt for any other text.
+/// the colour itself; a light colour goes up in smaller steps), "=40" at that lightness; then "cNN" for that percentage
+/// of its chroma. A darker shade of a warm hue turns redder, as things do in shade. nullopt for any other text.
 std::optional<QColor> shade(const Tone& base, const QString& wish);
 
 }  // namespace quorvane::baseicons
