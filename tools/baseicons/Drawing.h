@@ -30,7 +30,7 @@ class Sources {
 
 /// The icon's picture, drawn for that many pixels a side: 8-bit ARGB, premultiplied. Of
 /// library/drawings/NAME-PIXELS.svg.in when there is one, else of drawings/NAME.svg.in, which serves 128 and up;
-/// resources/library/README.md has the form.
+/// resources/README.md has the form.
 Result<QImage> drawPicture(Sources& sources, const IconRow& icon, int pixels);
 
 }  // namespace quorvane::baseicons
