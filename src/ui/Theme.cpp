@@ -8,6 +8,7 @@
 
 #include "ui/ColorText.h"
 #include "ui/DesktopAppearance.h"
+#include "ui/Motion.h"
 #include "ui/WindowResources.h"
 
 namespace quorvane {
@@ -185,6 +186,7 @@ void Theme::apply() {
   windowResource({});
   const QPalette colors = palette(isDark(), _appearance ? _appearance->accent() : std::nullopt,
                                   _appearance && _appearance->prefersHighContrast());
+  setMotionReduced(_appearance && _appearance->prefersReducedMotion());
   QApplication::setPalette(colors);
   qApp->setStyleSheet(styleSheet(colors));
   Q_EMIT changed();
