@@ -24,7 +24,7 @@ namespace {
 
 constexpr int contentWidth = 500;
 constexpr int iconSide = 96;
-constexpr int listHeight = 168;
+constexpr double listRows = 8.5;  ///< so that it is seen to go on
 constexpr QSize licenceRoom(520, 360);
 
 QLabel* makeText(const QString& text) {
@@ -89,7 +89,8 @@ QScrollArea* makeLibraryList() {
   scroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   scroll->viewport()->setAutoFillBackground(false);
   list->setAutoFillBackground(false);
-  scroll->setFixedHeight(listHeight);
+  const int rowHeight = list->fontMetrics().height() + grid->verticalSpacing();
+  scroll->setFixedHeight(std::min(list->sizeHint().height(), static_cast<int>(listRows * rowHeight)));
   scroll->setAccessibleName(AboutController::tr("Libraries"));
   return scroll;
 }
@@ -124,7 +125,7 @@ SideWindow& AboutController::window() {
   _window->setTitle(tr("About Quorvane"));
   auto* content = new QWidget;
   auto* rows = new QVBoxLayout(content);
-  rows->setContentsMargins(windowMargin, windowMargin, windowMargin, windowMargin);
+  rows->setContentsMargins({});
   rows->setSpacing(layoutGap);
   rows->addLayout(makeHead());
 
@@ -164,9 +165,8 @@ SideWindow& AboutController::window() {
   auto* end = new QHBoxLayout;
   end->addStretch();
   end->addWidget(close);
-  rows->addLayout(end);
   content->setMinimumWidth(contentWidth);
-  _window->setCentralWidget(content);
+  _window->setContent(content, end);
   _window->setInitialFirstResponder(close);
   return *_window;
 }

@@ -46,7 +46,7 @@ QLabel* makeRemark(const QString& text) {
 
 /// Two choices: the default, with what shows and changes it beside, or what was used last.
 QButtonGroup* addChoice(QGridLayout& grid, const QString& title, const QString& always, const QString& last,
-                        QLayout* beside) {
+                        QWidget* beside) {
   const int row = grid.rowCount();
   auto* group = new QButtonGroup(grid.parentWidget());
   auto* alwaysBtn = new QRadioButton(always);
@@ -56,8 +56,8 @@ QButtonGroup* addChoice(QGridLayout& grid, const QString& title, const QString& 
   lastBtn->setAccessibleDescription(title);
   group->addButton(alwaysBtn, 1);
   group->addButton(lastBtn, 0);
-  grid.addWidget(alwaysBtn, row, 0);
-  grid.addLayout(beside, row, 1);
+  grid.addWidget(alwaysBtn, row, 0, Qt::AlignVCenter);
+  grid.addWidget(beside, row, 1);
   grid.addWidget(lastBtn, row + 1, 0, 1, 2);
   return group;
 }
@@ -76,9 +76,11 @@ QWidget* makeLabelGroup(PreferenceOutlets& outlets) {
   outlets._colorWell = new HVColorWell(nullptr);
   outlets._colorWell->setAccessibleName(tr("Default colour"));
   outlets._colorWell->setFixedWidth(76);
-  auto* color = new QHBoxLayout;
-  color->addWidget(outlets._colorWell);
-  color->addStretch();
+  auto* color = new QWidget;
+  auto* colorRow = new QHBoxLayout(color);
+  colorRow->setContentsMargins({});
+  colorRow->addWidget(outlets._colorWell);
+  colorRow->addStretch();
   outlets._defaultColorRadio =
       addChoice(*grid, tr("Colour"), tr("Always this &colour"), tr("The colour used &last"), color);
   grid->setRowMinimumHeight(grid->rowCount(), 10);
@@ -87,10 +89,12 @@ QWidget* makeLabelGroup(PreferenceOutlets& outlets) {
   outlets._fontDescriptionTF->setElideMode(Qt::ElideRight);
   outlets._fontBtn = new QPushButton(tr("C&hange…"));
   outlets._fontBtn->setAccessibleName(tr("Change the default font"));
-  auto* font = new QHBoxLayout;
-  font->setSpacing(10);
-  font->addWidget(outlets._fontDescriptionTF, 1);
-  font->addWidget(outlets._fontBtn);
+  auto* font = new QWidget;
+  auto* fontRow = new QHBoxLayout(font);
+  fontRow->setContentsMargins({});
+  fontRow->setSpacing(10);
+  fontRow->addWidget(outlets._fontDescriptionTF, 1);
+  fontRow->addWidget(outlets._fontBtn);
   outlets._defaultFontRadio = addChoice(*grid, tr("Font"), tr("Always this &font"), tr("The font used la&st"), font);
   rows->addWidget(choices);
   return card;
@@ -148,7 +152,7 @@ PreferenceOutlets layOutPreferenceWindow(SideWindow& window, bool hasUpdater) {
   window.setTitle(tr("Preferences"));
   auto* content = new QWidget;
   auto* rows = new QVBoxLayout(content);
-  rows->setContentsMargins(windowMargin, windowMargin, windowMargin, windowMargin);
+  rows->setContentsMargins({});
   rows->setSpacing(layoutGap);
   rows->addWidget(makeLabelGroup(outlets));
   if (hasUpdater) rows->addWidget(makeUpdateGroup(outlets));
@@ -160,17 +164,16 @@ PreferenceOutlets layOutPreferenceWindow(SideWindow& window, bool hasUpdater) {
   outlets._okBtn->setDefault(true);
   auto* buttons = new QHBoxLayout;
   buttons->setSpacing(10);
-  buttons->setContentsMargins(0, 4, 0, 0);
   buttons->addStretch();
   for (QPushButton* button : {outlets._cancelBtn, outlets._okBtn}) {
     button->setMinimumWidth(92);
     buttons->addWidget(button);
   }
-  rows->addLayout(buttons);
   // The Return key presses the button that has the focus, as in a dialog.
-  for (QPushButton* button : content->findChildren<QPushButton*>()) button->setAutoDefault(true);
   content->setMinimumWidth(contentWidth);
-  window.setCentralWidget(content);
+  window.setContent(content, buttons);
+  for (QPushButton* button : window.findChildren<QPushButton*>()) button->setAutoDefault(true);
+  window.setInitialFirstResponder(outlets._defaultColorRadio->button(1));
   outlets._colorSheet = makePanelSheet(tr("Default Colour"), outlets._colorBox, outlets._colorDoneBtn);
   outlets._fontSheet = makePanelSheet(tr("Default Font"), outlets._fontBox, outlets._fontDoneBtn);
   return outlets;

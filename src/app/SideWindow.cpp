@@ -3,8 +3,12 @@
 
 #include <QKeyEvent>
 #include <QScreen>
+#include <QScrollArea>
+#include <QVBoxLayout>
 #include <QWindow>
 #include <algorithm>
+
+#include "app/LayoutPieces.h"
 
 namespace quorvane {
 
@@ -19,10 +23,37 @@ SideWindow::SideWindow() : HVWindow(nullptr, Qt::Dialog | Qt::WindowTitleHint | 
   setAttribute(Qt::WA_QuitOnClose, false);
 }
 
+void SideWindow::setContent(QWidget* content, QLayout* buttons) {
+  _buttons = buttons;
+  _scroll = new QScrollArea;
+  _scroll->setWidget(content);
+  _scroll->setWidgetResizable(true);
+  _scroll->setFrameShape(QFrame::NoFrame);
+  _scroll->setFocusPolicy(Qt::NoFocus);
+  _scroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  _scroll->viewport()->setAutoFillBackground(false);
+  content->setAutoFillBackground(false);
+  auto* inside = new QWidget;
+  auto* rows = new QVBoxLayout(inside);
+  rows->setContentsMargins(windowMargin, windowMargin, windowMargin, windowMargin);
+  rows->setSpacing(windowMargin);
+  rows->addWidget(_scroll, 1);
+  rows->addLayout(buttons);
+  setCentralWidget(inside);
+}
+
+QSize SideWindow::wantedSize() const {
+  const QWidget* content = _scroll->widget();
+  const int width = std::max({content->minimumWidth(), content->sizeHint().width(), _buttons->sizeHint().width()});
+  const int height = content->hasHeightForWidth() ? content->heightForWidth(width) : content->sizeHint().height();
+  return {width + 2 * windowMargin, height + _buttons->sizeHint().height() + 3 * windowMargin};
+}
+
 void SideWindow::showOver(QWidget* window) {
   // Only a window that the system knows can be told which other one it belongs to.
   winId();
-  adjustSize();
+  const QScreen* place = window ? window->screen() : screen();
+  resize(wantedSize().boundedTo(place->availableSize()));
   if (window && window->windowHandle()) {
     windowHandle()->setTransientParent(window->windowHandle());
     QRect frame = frameGeometry();
