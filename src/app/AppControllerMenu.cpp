@@ -14,7 +14,7 @@
 #include "app/QVWindow.h"
 #include "app/ShortcutsSheet.h"
 #include "app/core/EditHistory.h"
-#include "composition/view/DroppedFolder.h"
+#include "ui/LocalPath.h"
 #include "composition/view/FolderView.h"
 #include "ui/ElidedLabel.h"
 #include "ui/HVColorWell.h"

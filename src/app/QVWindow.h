@@ -3,7 +3,7 @@
 
 #include <filesystem>
 
-#include "composition/view/RefusedDropWatch.h"
+#include "ui/RefusedDropWatch.h"
 #include "ui/HVWindow.h"
 
 namespace quorvane {
