@@ -21,6 +21,7 @@
 #include "composition/view/ImageView.h"
 #include "composition/view/PreviewStrip.h"
 #include "foundation/UserDefaults.h"
+#include "library/view/BaseIconController.h"
 #include "ui/HVTableView.h"
 #include "ui/PopUpButton.h"
 #include "ui/Slider.h"
@@ -64,13 +65,18 @@ AppController::~AppController() = default;
 void AppController::setOutlets(const Outlets& outlets) {
   static_cast<Outlets&>(*this) = outlets;
   _history = std::make_unique<EditHistory>(_folderView->composition());
-  _history->setListener([this] { Q_EMIT stateChanged(); });
+  _history->setListener([this] {
+    _isLibraryNewer = false;
+    Q_EMIT stateChanged();
+  });
   _mainWindow->setDelegate(this);
   _labelTF->setDelegate(this);
   _connectControls();
+  _connectLibrary();
 }
 
 void AppController::awakeFromNib() {
+  _baseIconController->awakeFromNib();
   const bool isRemembered = _mainWindow->setFrameAutosaveName(settings::mainWindowAutosaveName);
   if (!isRemembered || settings::value(_services.defaults, settings::launchCount) == 0) _mainWindow->center();
   setPath(std::nullopt);
@@ -84,6 +90,7 @@ void AppController::applicationDidFinishLaunching() {
   _effectPopUp->setAutoenablesItems(false);
   for (int item = 0; item < _effectPopUp->count(); ++item)
     _effectPopUp->setItemEnabled(item, _effectPopUp->tagAt(item) >= 0);
+  _baseIconController->restoreIconSetSelection();
   _services.defaults.incrementIntegerForKey(settings::launchCount.name);
   _history->clear();
   _appInitialized = true;
@@ -91,6 +98,7 @@ void AppController::applicationDidFinishLaunching() {
 }
 
 void AppController::applicationWillTerminate() {
+  _baseIconController->saveIconSetSelection();
   _services.work.finish(patienceAtEnd);
   static_cast<void>(_services.defaults.synchronize());
 }

@@ -17,8 +17,11 @@
 #include "app/core/ScriptedPrompts.h"
 #include "app/core/SettingsTable.h"
 #include "composition/view/FolderView.h"
+#include "library/view/BaseIconController.h"
+#include "library/view/LibraryView.h"
 #include "support/BrandingFixture.h"
 #include "support/TemporaryFolder.h"
+#include "system/Trash.h"
 #include "ui/ElidedLabel.h"
 #include "ui/PopUpButton.h"
 #include "ui/SharedPanels.h"
@@ -45,7 +48,13 @@ struct TestWindow {
                  .families = nullptr,
                  .marks = marks.get()},
         work(services, options.mode),
-        window(defaults) {
+        window(defaults),
+        library(
+            {.builtin = tree / "BaseIcons", .custom = tree / "Icons", .former = {}}, libraryServices,
+            scriptedLibraryPrompts(),
+            {.read = [this](bool isBuiltin) { return savedSelections[isBuiltin ? 0 : 1]; },
+             .write = [this](bool isBuiltin, const QList<int>& rows) { savedSelections[isBuiltin ? 0 : 1] = rows; }},
+            WorkQueue::Mode::AtOnce) {
     std::filesystem::create_directory(folder);
     window.setFrameStore(&frames);
     const auto choose = [this](QWidget&, const std::function<void(const std::filesystem::path&)>& chosen) {
@@ -61,7 +70,7 @@ struct TestWindow {
                                       .choosePicture = choose,
                                       .revealInFileManager = [this](const auto& path) { revealed.push_back(path); },
                                       .visitPage = [this](const char* page) { pages.emplace_back(page); }});
-    controller->setOutlets(layOutMainWindow(window, panels));
+    controller->setOutlets(layOutMainWindow(window, panels, library));
     window.setOutlets(controller->outlets()._folderView, controller.get());
   }
 
@@ -73,6 +82,18 @@ struct TestWindow {
     controller->history().clear();
     window.show();
     window.activateWindow();
+  }
+
+  /// The library asks as the rest does.
+  LibraryPrompts scriptedLibraryPrompts() {
+    const auto choose = [this] { return choice; };
+    return {.message = [this](const QString& title,
+                              const QString& message) { prompts.runMessageSheetWithTitle(title, message); },
+            .prompt = [this](const QString& title, const QString& message, const QString& yes,
+                             const QString& no) { return prompts.runPromptSheetWithTitle(title, message, yes, no); },
+            .chooseIcon = choose,
+            .chooseSetToImport = choose,
+            .chooseExportPlace = [choose](const QString&) { return choose(); }};
   }
 
   [[nodiscard]] const Outlets& ui() const { return controller->outlets(); }
@@ -97,6 +118,10 @@ struct TestWindow {
   SharedPanels panels;
   FolderWork work;
   QVWindow window;
+  FolderTrash trash{tree.path()};
+  LibraryServices libraryServices{.icons = services, .trash = &trash};
+  std::vector<QList<int>> savedSelections{{}, {}};
+  BaseIconController library;
   std::shared_ptr<AppController> controller;
 };
 

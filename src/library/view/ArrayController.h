@@ -71,6 +71,13 @@ class ArrayController : public ArrayControllerBase {
     insertAt(std::clamp(row, 0, count()), std::move(object));
     writeBack();
   }
+  /// In their order from that row on. Inserted from the last to the first: so that one is selected.
+  void insertObjectsAtArrangedObjectIndex(const Objects& objects, int row) {
+    if (objects.empty()) return;
+    row = std::clamp(row, 0, count());
+    for (auto object = objects.crbegin(); object != objects.crend(); ++object) insertAt(row, *object);
+    writeBack();
+  }
   virtual void removeObjectAtArrangedObjectIndex(int row) {
     if (row < 0 || row >= count()) return;
     removeRows(IndexSet::indexSetWithIndex(row));
