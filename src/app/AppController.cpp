@@ -22,6 +22,7 @@
 #include "composition/view/ImageView.h"
 #include "composition/view/PreviewStrip.h"
 #include "foundation/UserDefaults.h"
+#include "library/view/BaseIconController.h"
 #include "system/HVUtility.h"
 #include "ui/HVTableView.h"
 #include "ui/PopUpButton.h"
@@ -78,13 +79,18 @@ void AppController::_init() {
 void AppController::setOutlets(const Outlets& outlets) {
   static_cast<Outlets&>(*this) = outlets;
   _history = std::make_unique<EditHistory>(_folderView->composition());
-  _history->setListener([this] { Q_EMIT stateChanged(); });
+  _history->setListener([this] {
+    _isLibraryNewer = false;
+    Q_EMIT stateChanged();
+  });
   _mainWindow->setDelegate(this);
   _labelTF->setDelegate(this);
   _connectControls();
+  _connectLibrary();
 }
 
 void AppController::awakeFromNib() {
+  _baseIconController->awakeFromNib();
   const bool isRemembered = _mainWindow->setFrameAutosaveName(settings::mainWindowAutosaveName);
   if (!isRemembered || settings::value(_services.defaults, settings::launchCount) == 0) _mainWindow->center();
   migrateCheckAtStartup();
@@ -99,6 +105,7 @@ void AppController::applicationDidFinishLaunching() {
   _effectPopUp->setAutoenablesItems(false);
   for (int item = 0; item < _effectPopUp->count(); ++item)
     _effectPopUp->setItemEnabled(item, _effectPopUp->tagAt(item) >= 0);
+  _baseIconController->restoreIconSetSelection();
   _services.defaults.incrementIntegerForKey(settings::launchCount.name);
   if (settings::value(_services.defaults, settings::checkAtStartup)) checkForUpdatesInBackground();
   _history->clear();
@@ -107,6 +114,7 @@ void AppController::applicationDidFinishLaunching() {
 }
 
 void AppController::applicationWillTerminate() {
+  _baseIconController->saveIconSetSelection();
   _services.work.finish(patienceAtEnd);
   static_cast<void>(_services.defaults.synchronize());
 }

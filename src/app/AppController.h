@@ -213,6 +213,12 @@ class AppController : public QObject, public HVWindowDelegate, public LabelTextF
   void _endReading();
   /// Cut, copy and the like go to the text that has the focus; copy goes to the canvas otherwise.
   void _edit(MenuCommand command);
+  /// The same while the focus is on the library's lists.
+  void _editLibrary(MenuCommand command);
+  /// Whether undoing now is undoing what was done to the library: it was done last.
+  [[nodiscard]] bool _undoesLibrary() const;
+  void _connectLibrary();
+  void _chooseFromLibrary(const std::optional<Image>& image, const Path& path);
   void _endSliderStep();
 
   /// Busy from here until _endWork(); after a moment the window shows it.
@@ -245,6 +251,7 @@ class AppController : public QObject, public HVWindowDelegate, public LabelTextF
   unsigned _opening = 0;  ///< setPath()
   unsigned _reading = 0;  ///< _setBaseReference()
   int _busyCount = 0;
+  bool _isLibraryNewer = false;  ///< the last change was one of the library, not of the label
   QString _busyWords;
   QTimer _busyTimer;
   QPointer<QWidget> _focusBeforeWork;

@@ -7,7 +7,6 @@
 #include "app/BaseColumn.h"
 #include "app/BusyIndicator.h"
 #include "app/QVWindow.h"
-#include "app/Texts.h"
 #include "app/core/BasePicture.h"
 #include "app/core/EditHistory.h"
 #include "app/core/EffectPresets.h"
@@ -20,6 +19,7 @@
 #include "ui/PopUpButton.h"
 #include "ui/SharedPanels.h"
 #include "ui/Slider.h"
+#include "ui/Texts.h"
 
 namespace quorvane {
 

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // What the menus do.
+#include <QAbstractItemView>
 #include <QApplication>
 #include <QClipboard>
 #include <QDir>
@@ -9,15 +10,18 @@
 #include <QPushButton>
 
 #include "app/AppController.h"
+#include "app/BaseColumn.h"
 #include "app/Drawer.h"
 #include "app/MainMenu.h"
 #include "app/QVWindow.h"
 #include "app/ShortcutsSheet.h"
 #include "app/core/EditHistory.h"
-#include "composition/view/DroppedFolder.h"
 #include "composition/view/FolderView.h"
+#include "library/view/BaseIconController.h"
+#include "library/view/LibraryView.h"
 #include "ui/ElidedLabel.h"
 #include "ui/HVColorWell.h"
+#include "ui/LocalPath.h"
 #include "ui/SharedPanels.h"
 
 namespace quorvane {
@@ -26,6 +30,29 @@ namespace {
 
 bool isTextField(const QWidget* focus) {
   return qobject_cast<const QLineEdit*>(focus) || qobject_cast<const QPlainTextEdit*>(focus);
+}
+
+std::optional<LibraryCommand> libraryCommand(MenuCommand command) {
+  switch (command) {
+    case MenuCommand::NewSet:
+      return LibraryCommand::NewSet;
+    case MenuCommand::RenameSet:
+      return LibraryCommand::RenameSet;
+    case MenuCommand::RemoveSet:
+      return LibraryCommand::RemoveSet;
+    case MenuCommand::ImportSet:
+      return LibraryCommand::ImportSet;
+    case MenuCommand::ExportSet:
+      return LibraryCommand::ExportSet;
+    case MenuCommand::AddIcon:
+      return LibraryCommand::AddIcon;
+    case MenuCommand::RemoveSelectedIcons:
+      return LibraryCommand::RemoveSelectedIcons;
+    case MenuCommand::FindIcon:
+      return LibraryCommand::Find;
+    default:
+      return std::nullopt;
+  }
 }
 
 }  // namespace
@@ -39,7 +66,8 @@ void AppController::_connectMenu() {
   connect(_mainMenu, &MainMenu::opening, this, validate);
   connect(this, &AppController::stateChanged, _mainMenu, [this, validate] {
     validate();
-    _mainMenu->setUndoTexts(_history->undoText(), _history->redoText());
+    _mainMenu->setUndoTexts(_undoesLibrary() ? _baseIconController->undoText() : _history->undoText(),
+                            _history->redoText());
     _mainMenu->setOriginalIconShown(_origIconDrawer->isOpen());
   });
   connect(_origIconDrawer, &Drawer::openChanged, this, &AppController::stateChanged);
@@ -49,6 +77,8 @@ void AppController::_connectMenu() {
     _mainWindow->growBy(_folderView->minimumSizeHint() - _folderView->size());
   });
   _mainMenu->setMagnification(_folderView->magnification());
+  _mainMenu->action(MenuCommand::RemoveSelectedIcons)->setObjectName(QStringLiteral("removeSelectedIcons"));
+  connect(_baseColumn->library(), &LibraryView::availabilityChanged, this, &AppController::stateChanged);
   connect(_mainMenu->recentMenu(), &QMenu::aboutToShow, this, &AppController::_fillRecentMenu);
   connect(_mainMenu->looksMenu(), &QMenu::aboutToShow, this, &AppController::_fillLooksMenu);
 }
@@ -63,9 +93,16 @@ bool AppController::validateMenuItem(MenuCommand command) const {
     case MenuCommand::ToggleOriginalIcon:
       return _origIconView->image().has_value();
     case MenuCommand::Undo:
-      return isIdle && _history->canUndo();
+      return isIdle && (_undoesLibrary() || _history->canUndo());
     case MenuCommand::Redo:
       return isIdle && _history->canRedo();
+    case MenuCommand::RemoveSelectedIcons:
+      return _baseIconController->validateMenuItem(*_mainMenu->action(command));
+    case MenuCommand::RenameSet:
+    case MenuCommand::RemoveSet:
+    case MenuCommand::ExportSet:
+    case MenuCommand::AddIcon:
+      return _baseColumn->library()->isAvailable(*libraryCommand(command));
     case MenuCommand::ShowInFileManager:
       return _path && _services.revealInFileManager;
     case MenuCommand::SaveLook:
@@ -119,6 +156,7 @@ void AppController::showInFileManager() {
 }
 
 void AppController::perform(MenuCommand command) {
+  if (const auto ofLibrary = libraryCommand(command)) return _baseColumn->library()->perform(*ofLibrary);
   switch (command) {
     case MenuCommand::Open:
       return open();
@@ -133,7 +171,7 @@ void AppController::perform(MenuCommand command) {
     case MenuCommand::Quit:
       return static_cast<void>(_mainWindow->close());
     case MenuCommand::Undo:
-      return undo();
+      return _undoesLibrary() ? _baseIconController->undo() : undo();
     case MenuCommand::Redo:
       return redo();
     case MenuCommand::Cut:
@@ -192,7 +230,9 @@ void AppController::perform(MenuCommand command) {
 
 void AppController::_edit(MenuCommand command) {
   QWidget* focus = QApplication::focusWidget();
-  if (!isTextField(focus)) {
+  const bool isText = isTextField(focus);
+  if (!isText && _baseColumn->library()->hasListFocus()) return _editLibrary(command);
+  if (!isText) {
     // The icon as it would be written, for other programs.
     if (command != MenuCommand::Copy) return;
     const auto icon = _folderView->composition().canvasIconImage();
@@ -205,6 +245,18 @@ void AppController::_edit(MenuCommand command) {
                      : command == MenuCommand::Paste ? "paste"
                                                      : "selectAll";
   QMetaObject::invokeMethod(focus, slot);
+}
+
+void AppController::_editLibrary(MenuCommand command) {
+  QClipboard& clipboard = *QApplication::clipboard();
+  if (command == MenuCommand::Paste) {
+    if (!clipboard.mimeData() || !_baseIconController->paste(*clipboard.mimeData())) return;
+    _baseColumn->library()->setLibrary(LibraryView::Custom);
+  } else if (command == MenuCommand::SelectAll) {
+    if (auto* table = qobject_cast<QAbstractItemView*>(QApplication::focusWidget())) table->selectAll();
+  } else if (command == MenuCommand::Copy) {
+    if (QMimeData* copied = _baseIconController->copy()) clipboard.setMimeData(copied);
+  }
 }
 
 void AppController::_fillRecentMenu() {

@@ -23,6 +23,8 @@
 #include "foundation/base/Text.h"
 #include "foundation/base/Version.h"
 #include "iconfamily/AppleDoubleForkStore.h"
+#include "library/view/BaseIconController.h"
+#include "library/view/LibraryPanels.h"
 #include "system/FileManagerNotices.h"
 #include "system/FolderMarks.h"
 #include "system/HVUtility.h"
@@ -30,6 +32,7 @@
 #include "system/Links.h"
 #include "system/Reveal.h"
 #include "system/SingleInstance.h"
+#include "system/Trash.h"
 #include "ui/ApplicationIcon.h"
 #include "ui/DesktopAppearance.h"
 #include "ui/SharedPanels.h"
@@ -120,6 +123,17 @@ int runApplication(int argc, char** argv) {
   Reveal reveal(*revealWays, opener);
   HVWebsite website(QStringLiteral(QUORVANE_HOMEPAGE), opener);
 
+  const auto trash = makeDesktopTrash();
+  const LibraryServices libraryServices{.icons = folders.services, .trash = trash.get()};
+  const auto selectionKey = [](bool isBuiltin) {
+    return isBuiltin ? settings::builtinIconSetSelection : settings::customIconSetSelection;
+  };
+  BaseIconController library(
+      LibraryPlaces::usual(), libraryServices, sheetLibraryPrompts(window, libraryServices),
+      {.read = [&](bool isBuiltin) { return settings::value(defaults, selectionKey(isBuiltin)); },
+       .write = [&](bool isBuiltin,
+                    const QList<int>& rows) { settings::setValue(defaults, selectionKey(isBuiltin), rows); }});
+
   const auto controller =
       AppController::init({.defaults = defaults,
                            .prompts = prompts,
@@ -135,7 +149,7 @@ int runApplication(int argc, char** argv) {
                            .visitPage = [&](const QString& page) { website.visitPage(page); },
                            .writeToMaker = [&] { opener.open(QUrl(QStringLiteral("mailto:" QUORVANE_MAIL))); },
                            .feedFolder = QStringLiteral(QUORVANE_PRODUCT_FOLDER)});
-  controller->setOutlets(layOutMainWindow(window, panels));
+  controller->setOutlets(layOutMainWindow(window, panels, library));
   window.setOutlets(controller->outlets()._folderView, controller.get());
   // Not quit(): that would ask every window once more.
   QObject::connect(

@@ -8,19 +8,21 @@
 #include <QMimeDatabase>
 #include <QPainter>
 #include <QPushButton>
+#include <QToolButton>
 #include <QVBoxLayout>
 
 #include "app/LayoutPieces.h"
-#include "composition/view/DroppedFolder.h"
 #include "foundation/FileManagerExtras.h"
+#include "library/view/LibraryView.h"
 #include "ui/ActionIcons.h"
-#include "ui/HVTableView.h"
+#include "ui/ElidedLabel.h"
+#include "ui/LocalPath.h"
 
 namespace quorvane {
 
 namespace {
 
-constexpr int thumbnailSide = 96;
+constexpr int thumbnailSide = 64;
 
 /// The path of a dragged picture, judged by its name alone: it is not on the way of the pointer that files are read.
 std::optional<std::filesystem::path> draggedPicture(const QMimeData& data) {
@@ -34,79 +36,114 @@ std::optional<std::filesystem::path> draggedPicture(const QMimeData& data) {
 
 }  // namespace
 
-BaseColumn::BaseColumn(QWidget* parent)
+/// The card of the chosen picture, on which another one may be dropped.
+class BaseColumn::PictureCard : public QFrame {
+ public:
+  explicit PictureCard(BaseColumn& column) : _column(column) {
+    setProperty("card", true);
+    setAcceptDrops(true);
+  }
+
+ protected:
+  void paintEvent(QPaintEvent* event) override {
+    QFrame::paintEvent(event);
+    if (!_isHovered) return;
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(palette().color(QPalette::Highlight), 2));
+    painter.drawRoundedRect(QRectF(rect()).adjusted(1, 1, -1, -1), 12, 12);
+  }
+
+  void dragEnterEvent(QDragEnterEvent* event) override {
+    const bool isTaken = draggedPicture(*event->mimeData()).has_value();
+    _setHovered(isTaken);
+    // All else is the window's to judge: folders may be dropped anywhere.
+    if (!isTaken) return event->ignore();
+    event->setDropAction(Qt::CopyAction);
+    event->accept();
+  }
+
+  void dragLeaveEvent(QDragLeaveEvent* event) override {
+    _setHovered(false);
+    event->accept();
+  }
+
+  void dropEvent(QDropEvent* event) override {
+    _setHovered(false);
+    const auto path = draggedPicture(*event->mimeData());
+    if (!path) return event->ignore();
+    event->setDropAction(Qt::CopyAction);
+    event->accept();
+    // The other program waits for the end of its drag: what may show a sheet comes after.
+    const auto tell = [column = &_column, path = *path] { Q_EMIT column->pictureDropped(path); };
+    QMetaObject::invokeMethod(&_column, tell, Qt::QueuedConnection);
+  }
+
+ private:
+  void _setHovered(bool isHovered) {
+    _isHovered = isHovered;
+    update();
+  }
+
+  BaseColumn& _column;
+  bool _isHovered = false;
+};
+
+BaseColumn::BaseColumn(BaseIconController& library, QWidget* parent)
     : QWidget(parent),
-      _pages(new QStackedWidget),
-      _baseTableView(new HVTableView),
-      _customTableView(new HVTableView),
+      _card(new PictureCard(*this)),
       _thumbnail(new QLabel),
-      _heading(new QLabel),
-      _explanation(new QLabel),
+      _heading(new ElidedLabel),
       _chooseButton(new QPushButton(tr("Choose Pict&ure…"))),
-      _clearButton(new QPushButton(tr("Use Fol&der’s Icon"))) {
-  setAcceptDrops(true);
-  _pages->addWidget(_makeEmptyState());
-  _pages->addWidget(_makeLists());
+      _clearButton(new QToolButton),
+      _tintSlot(new QWidget),
+      _library(new LibraryView(library)) {
   auto* layout = new QVBoxLayout(this);
-  layout->setContentsMargins({});
-  layout->addWidget(_pages);
-  connect(_chooseButton, &QPushButton::clicked, this, &BaseColumn::choosePicture);
-  connect(_clearButton, &QPushButton::clicked, this, &BaseColumn::clearPicture);
-  showPicture(std::nullopt);
-}
-
-QWidget* BaseColumn::_makeLists() {
-  auto* page = new QWidget;
-  auto* layout = new QVBoxLayout(page);
-  layout->setContentsMargins({});
-  layout->setSpacing(layoutGap / 2);
-  _baseTableView->setAccessibleName(tr("Built-in Icons"));
-  _customTableView->setAccessibleName(tr("My Icons"));
-  layout->addWidget(makeCaption(tr("&Built-in Icons"), _baseTableView));
-  layout->addWidget(_baseTableView, 1);
-  layout->addSpacing(layoutGap / 2);
-  layout->addWidget(makeCaption(tr("My &Icons"), _customTableView));
-  layout->addWidget(_customTableView, 1);
-  return page;
-}
-
-QWidget* BaseColumn::_makeEmptyState() {
-  auto* page = new QWidget;
-  auto* layout = new QVBoxLayout(page);
   layout->setContentsMargins({});
   layout->setSpacing(layoutGap / 2);
   layout->addWidget(makeCaption(tr("Base Picture")));
-  auto* card = makeCard();
-  auto* inside = new QVBoxLayout(card);
-  inside->setContentsMargins(cardPadding, cardPadding, cardPadding, cardPadding);
-  inside->setSpacing(10);
-  for (QLabel* label : {_thumbnail, _heading, _explanation}) {
-    label->setAlignment(Qt::AlignCenter);
-    label->setTextFormat(Qt::PlainText);
-    label->setWordWrap(true);
-  }
-  _thumbnail->setWordWrap(false);
-  _thumbnail->setMinimumHeight(thumbnailSide);
+  layout->addWidget(_makeCard());
+  auto* tint = new QVBoxLayout(_tintSlot);
+  tint->setContentsMargins({});
+  layout->addWidget(_tintSlot);
+  layout->addSpacing(layoutGap / 2);
+  layout->addWidget(_library, 1);
+  connect(_chooseButton, &QPushButton::clicked, this, &BaseColumn::choosePicture);
+  connect(_clearButton, &QToolButton::clicked, this, &BaseColumn::clearPicture);
+  showPicture(std::nullopt);
+}
+
+QWidget* BaseColumn::_makeCard() {
+  auto* inside = new QHBoxLayout(_card);
+  inside->setContentsMargins(10, 10, 12, 10);
+  inside->setSpacing(12);
+  _thumbnail->setFixedSize(thumbnailSide, thumbnailSide);
+  _thumbnail->setAlignment(Qt::AlignCenter);
   _thumbnail->setAccessibleName(tr("Base picture"));
-  _explanation->setForegroundRole(QPalette::PlaceholderText);
   QFont strong = _heading->font();
   strong.setWeight(QFont::DemiBold);
   _heading->setFont(strong);
-  inside->addStretch(2);
+  _chooseButton->setToolTip(tr("Any picture file, also one that is in no set"));
+  _clearButton->setIcon(actionIcon(QStringLiteral("revert")));
+  _clearButton->setToolTip(tr("Use Folder’s Icon"));
+  _clearButton->setAccessibleName(tr("Use Folder’s Icon"));
+  auto* texts = new QVBoxLayout;
+  texts->setSpacing(6);
+  texts->addStretch();
+  texts->addWidget(_heading);
+  auto* buttons = new QHBoxLayout;
+  buttons->setSpacing(6);
+  buttons->addWidget(_chooseButton, 1);
+  buttons->addWidget(_clearButton);
+  texts->addLayout(buttons);
+  texts->addStretch();
   inside->addWidget(_thumbnail);
-  inside->addWidget(_heading);
-  inside->addWidget(_explanation);
-  inside->addSpacing(6);
-  inside->addWidget(_chooseButton);
-  inside->addWidget(_clearButton);
-  inside->addStretch(3);
-  layout->addWidget(card, 1);
-  return page;
+  inside->addLayout(texts, 1);
+  return _card;
 }
 
-void BaseColumn::updateLists() {
-  const auto hasRows = [](const HVTableView* table) { return table->model() && table->model()->rowCount() > 0; };
-  _pages->setCurrentIndex(hasRows(_baseTableView) || hasRows(_customTableView) ? 1 : 0);
+QList<QWidget*> BaseColumn::tabOrder() const {
+  return QList<QWidget*>{_chooseButton, _clearButton} + _library->tabOrder();
 }
 
 void BaseColumn::showPicture(const std::optional<Image>& picture) {
@@ -114,17 +151,17 @@ void BaseColumn::showPicture(const std::optional<Image>& picture) {
   if (isSame || (!picture && !_picture && !_heading->text().isEmpty())) return;
   _picture = picture;
   _heading->setText(picture ? tr("Chosen picture") : tr("The folder’s own icon"));
-  _explanation->setText(
+  _card->setToolTip(
       picture ? tr("The label is drawn on this picture.")
               : tr("The label is drawn on it. To draw on something else, choose a picture or drop one here."));
+  _heading->setAccessibleName(_heading->text());
   _clearButton->setVisible(picture.has_value());
   _drawPicture();
 }
 
 void BaseColumn::setPictureName(const QString& name) {
-  // Long names of one word cannot be wrapped.
-  _heading->setText(_heading->fontMetrics().elidedText(name, Qt::ElideMiddle, thumbnailSide * 2));
-  _heading->setToolTip(name);
+  _heading->setText(name);
+  _heading->setAccessibleName(name);
 }
 
 void BaseColumn::_drawPicture() {
@@ -142,44 +179,6 @@ void BaseColumn::_drawPicture() {
 void BaseColumn::changeEvent(QEvent* event) {
   QWidget::changeEvent(event);
   if (event->type() == QEvent::PaletteChange) _drawPicture();
-}
-
-void BaseColumn::_setHovered(bool hovered) {
-  _hovered = hovered;
-  update();
-}
-
-void BaseColumn::paintEvent(QPaintEvent* /*event*/) {
-  if (!_hovered) return;
-  QPainter painter(this);
-  painter.setRenderHint(QPainter::Antialiasing);
-  painter.setPen(QPen(palette().color(QPalette::Highlight), 2));
-  painter.drawRoundedRect(QRectF(rect()).adjusted(1, 1, -1, -1), 12, 12);
-}
-
-void BaseColumn::dragEnterEvent(QDragEnterEvent* event) {
-  const bool isTaken = draggedPicture(*event->mimeData()).has_value();
-  _setHovered(isTaken);
-  // All else is the window's to judge: folders may be dropped anywhere.
-  if (!isTaken) return event->ignore();
-  event->setDropAction(Qt::CopyAction);
-  event->accept();
-}
-
-void BaseColumn::dragLeaveEvent(QDragLeaveEvent* event) {
-  _setHovered(false);
-  event->accept();
-}
-
-void BaseColumn::dropEvent(QDropEvent* event) {
-  _setHovered(false);
-  const auto path = draggedPicture(*event->mimeData());
-  if (!path) return event->ignore();
-  event->setDropAction(Qt::CopyAction);
-  event->accept();
-  // The other program waits for the end of its drag: what may show a sheet comes after.
-  QMetaObject::invokeMethod(
-      this, [this, path = *path] { Q_EMIT pictureDropped(path); }, Qt::QueuedConnection);
 }
 
 }  // namespace quorvane

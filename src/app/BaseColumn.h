@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <QStackedWidget>
 #include <QWidget>
 #include <filesystem>
 #include <optional>
@@ -9,25 +8,27 @@
 #include "imaging/Image.h"
 
 class QLabel;
-class QMimeData;
 class QPushButton;
+class QToolButton;
 
 namespace quorvane {
 
-class HVTableView;
+class BaseIconController;
+class ElidedLabel;
+class LibraryView;
 
-/// The column for what a label is drawn on: the lists of built-in icons and of the user's own. While neither has any,
-/// it says so and offers to take any picture; one may be dropped on it at any time.
+/// The column for what a label is drawn on: the picture that is chosen, and the icon library to choose one from. Any
+/// picture may be dropped on the chosen one.
 class BaseColumn : public QWidget {
   Q_OBJECT
  public:
-  explicit BaseColumn(QWidget* parent = nullptr);
+  explicit BaseColumn(BaseIconController& library, QWidget* parent = nullptr);
 
-  [[nodiscard]] HVTableView* baseTableView() const { return _baseTableView; }
-  [[nodiscard]] HVTableView* customTableView() const { return _customTableView; }
-
-  /// Shows the lists when there is something in them.
-  void updateLists();
+  [[nodiscard]] LibraryView* library() const { return _library; }
+  /// A row over the library for what is done to the picture; empty.
+  [[nodiscard]] QWidget* tintSlot() const { return _tintSlot; }
+  /// The controls in the order in which one reads.
+  [[nodiscard]] QList<QWidget*> tabOrder() const;
 
   /// The picture that the label is drawn on; nullopt: the folder's own icon.
   void showPicture(const std::optional<Image>& picture);
@@ -41,28 +42,22 @@ class BaseColumn : public QWidget {
   void dropRefused(const QString& reason);
 
  protected:
-  void dragEnterEvent(QDragEnterEvent* event) override;
-  void dragLeaveEvent(QDragLeaveEvent* event) override;
-  void dropEvent(QDropEvent* event) override;
-  void paintEvent(QPaintEvent* event) override;
   void changeEvent(QEvent* event) override;
 
  private:
-  QWidget* _makeLists();
-  QWidget* _makeEmptyState();
-  void _drawPicture();
-  void _setHovered(bool hovered);
+  class PictureCard;
 
-  QStackedWidget* _pages;
-  HVTableView* _baseTableView;
-  HVTableView* _customTableView;
+  QWidget* _makeCard();
+  void _drawPicture();
+
+  PictureCard* _card;
   QLabel* _thumbnail;
-  QLabel* _heading;
-  QLabel* _explanation;
+  ElidedLabel* _heading;
   QPushButton* _chooseButton;
-  QPushButton* _clearButton;
+  QToolButton* _clearButton;
+  QWidget* _tintSlot;
+  LibraryView* _library;
   std::optional<Image> _picture;
-  bool _hovered = false;
 };
 
 }  // namespace quorvane

@@ -5,7 +5,7 @@
 #include <QFileDialog>
 #include <QImageReader>
 
-#include "composition/view/DroppedFolder.h"
+#include "ui/LocalPath.h"
 
 namespace quorvane {
 

@@ -38,6 +38,8 @@ MainMenu::MainMenu(QMainWindow& window) : QObject(&window), _window(window) {
            {C::Apply, tr("&Apply"), {K(Qt::CTRL | Qt::Key_Return), K(Qt::CTRL | Qt::Key_Enter)}, "apply"},
            {C::Revert, tr("&Revert"), {K(Qt::CTRL | Qt::Key_R)}, "revert"},
            line,
+           {C::Library, tr("Icon Li&brary"), {}, nullptr, &_libraryMenu},
+           line,
            {C::CloseFolder, tr("C&lose Folder"), {K(Qt::CTRL | Qt::Key_W)}, "close"},
            {C::Quit, tr("&Quit"), {K(Qt::CTRL | Qt::Key_Q)}}});
   addMenu(tr("&Edit"), {{C::Undo, tr("Undo"), {K(Qt::CTRL | Qt::Key_Z)}, "undo"},
@@ -77,6 +79,17 @@ MainMenu::MainMenu(QMainWindow& window) : QObject(&window), _window(window) {
   _fill(*_looksMenu, {{C::SaveLook, tr("&Save Look…"), {K(Qt::CTRL | Qt::Key_S)}, "save"},
                       {C::ManageLooks, tr("&Manage Looks…")},
                       line});
+  _fill(*_libraryMenu, {{C::FindIcon, tr("&Find Icon"), K::keyBindings(K::Find), "search"},
+                        line,
+                        {C::AddIcon, tr("&Add Icon…"), {K(Qt::CTRL | Qt::SHIFT | Qt::Key_A)}, "add"},
+                        {C::RemoveSelectedIcons, tr("Remove Selected Icon")},
+                        line,
+                        {C::NewSet, tr("&New Set"), {K(Qt::CTRL | Qt::Key_N)}},
+                        {C::RenameSet, tr("Re&name Set"), {K(Qt::Key_F2)}},
+                        {C::RemoveSet, tr("&Remove Set")},
+                        line,
+                        {C::ImportSet, tr("&Import Set…")},
+                        {C::ExportSet, tr("&Export Set…")}});
   auto* magnifications = new QActionGroup(this);
   for (const C command : {C::Magnify1, C::Magnify2, C::Magnify3}) magnifications->addAction(action(command));
   for (const C command : {C::Magnify1, C::Magnify2, C::Magnify3, C::ShowFont, C::ToggleOriginalIcon})
@@ -149,8 +162,8 @@ std::vector<MainMenu::ShortcutGroup> MainMenu::shortcuts() const {
     };
     for (const QAction* action : menu->actions()) {
       add(action);
-      if (action->menu() != _looksMenu) continue;
-      for (const QAction* inner : _looksMenu->actions()) add(inner);
+      if (action->menu() != _looksMenu && action->menu() != _libraryMenu) continue;
+      for (const QAction* inner : action->menu()->actions()) add(inner);
     }
     if (!group.shortcuts.empty()) groups.push_back(std::move(group));
   }

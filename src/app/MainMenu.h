@@ -18,6 +18,15 @@ enum class MenuCommand {
   Open,
   OpenRecent,
   ShowInFileManager,
+  Library,
+  NewSet,
+  RenameSet,
+  RemoveSet,
+  ImportSet,
+  ExportSet,
+  AddIcon,
+  RemoveSelectedIcons,
+  FindIcon,
   CloseFolder,
   Apply,
   Revert,
@@ -99,6 +108,7 @@ class MainMenu : public QObject {
   std::vector<QMenu*> _menus;
   QMenu* _recentMenu = nullptr;
   QMenu* _looksMenu = nullptr;
+  QMenu* _libraryMenu = nullptr;
 };
 
 }  // namespace quorvane

@@ -13,10 +13,11 @@
 #include "app/NoticeLabel.h"
 #include "app/QVWindow.h"
 #include "composition/view/FolderView.h"
+#include "library/view/LibraryTableView.h"
+#include "library/view/LibraryView.h"
 #include "ui/ActionIcons.h"
 #include "ui/ElidedLabel.h"
 #include "ui/HVColorWell.h"
-#include "ui/HVTableView.h"
 #include "ui/LabelTextField.h"
 #include "ui/PopUpButton.h"
 #include "ui/Slider.h"
@@ -31,12 +32,14 @@ QString tr(const char* text) {
 
 /// Tab goes as one reads: the canvas before what changes it, the buttons that end the work last.
 void setTabOrder(const Outlets& outlets) {
-  QWidget* const order[] = {
-      outlets._openBtn,       outlets._baseTableView, outlets._customTableView, outlets._folderView,
-      outlets._labelTF,       outlets._fontBtn,       outlets._fontSizeSlider,  outlets._lineSpacingSlider,
-      outlets._colorWell,     outlets._effectPopUp,   outlets._shearSlider,     outlets._rotationSlider,
-      outlets._opacitySlider, outlets._resetBtn,      outlets._revertBtn,       outlets._applyBtn};
-  for (std::size_t i = 1; i < std::size(order); ++i) QWidget::setTabOrder(order[i - 1], order[i]);
+  QList<QWidget*> order{outlets._openBtn};
+  order += outlets._baseColumn->tabOrder();
+  order +=
+      QList<QWidget*>{outlets._folderView,     outlets._labelTF,           outlets._fontBtn,     outlets._colorWell,
+                      outlets._fontSizeSlider, outlets._lineSpacingSlider, outlets._effectPopUp, outlets._shearSlider,
+                      outlets._rotationSlider, outlets._opacitySlider,     outlets._resetBtn,    outlets._revertBtn,
+                      outlets._applyBtn};
+  for (qsizetype i = 1; i < order.size(); ++i) QWidget::setTabOrder(order[i - 1], order[i]);
 }
 
 }  // namespace
@@ -68,8 +71,9 @@ QWidget* makeHeader(Outlets& outlets) {
   return header;
 }
 
-Outlets layOutMainWindow(QVWindow& window, SharedPanels& panels) {
+Outlets layOutMainWindow(QVWindow& window, SharedPanels& panels, BaseIconController& library) {
   Outlets outlets;
+  outlets._baseIconController = &library;
   outlets._mainWindow = &window;
   window.setTitle(QCoreApplication::applicationName());
   outlets._mainMenu = new MainMenu(window);
@@ -81,10 +85,10 @@ Outlets layOutMainWindow(QVWindow& window, SharedPanels& panels) {
   rows->addWidget(makeHeader(outlets));
   auto* columns = new QHBoxLayout;
   columns->setSpacing(windowMargin);
-  outlets._baseColumn = new BaseColumn;
+  outlets._baseColumn = new BaseColumn(library);
   outlets._baseColumn->setFixedWidth(baseColumnWidth);
-  outlets._baseTableView = outlets._baseColumn->baseTableView();
-  outlets._customTableView = outlets._baseColumn->customTableView();
+  outlets._baseTableView = outlets._baseColumn->library()->builtinTableView();
+  outlets._customTableView = outlets._baseColumn->library()->customTableView();
   columns->addWidget(outlets._baseColumn);
   columns->addWidget(makeCanvasColumn(outlets), 1);
   columns->addWidget(makeInspector(outlets, panels));
@@ -92,7 +96,7 @@ Outlets layOutMainWindow(QVWindow& window, SharedPanels& panels) {
   window.setCentralWidget(content);
   setTabOrder(outlets);
   window.setInitialFirstResponder(outlets._folderView);
-  window.resize(1180, 680);
+  window.resize(1250, 720);
   return outlets;
 }
 

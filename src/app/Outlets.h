@@ -6,6 +6,7 @@ class QPushButton;
 namespace quorvane {
 
 class BaseColumn;
+class BaseIconController;
 class BusyIndicator;
 class Drawer;
 class ElidedLabel;
@@ -37,6 +38,7 @@ struct Outlets {
   HVTableView* _baseTableView = nullptr;    ///< built-in icons
   HVTableView* _customTableView = nullptr;  ///< the user's own
   BaseColumn* _baseColumn = nullptr;        ///< holds the two
+  BaseIconController* _baseIconController = nullptr;
 
   Drawer* _origIconDrawer = nullptr;
   ImageView* _origIconView = nullptr;

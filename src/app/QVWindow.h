@@ -3,8 +3,8 @@
 
 #include <filesystem>
 
-#include "composition/view/RefusedDropWatch.h"
 #include "ui/HVWindow.h"
+#include "ui/RefusedDropWatch.h"
 
 namespace quorvane {
 

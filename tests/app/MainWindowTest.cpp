@@ -17,11 +17,11 @@
 
 #include "TestWindow.h"
 #include "app/NoticeLabel.h"
-#include "app/Texts.h"
 #include "app/WindowArguments.h"
 #include "iconfamily/CustomIcon.h"
 #include "ui/HVColorWell.h"
 #include "ui/LabelTextField.h"
+#include "ui/Texts.h"
 
 namespace quorvane::test {
 namespace {

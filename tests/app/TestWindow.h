@@ -18,8 +18,11 @@
 #include "app/core/ScriptedPrompts.h"
 #include "app/core/SettingsTable.h"
 #include "composition/view/FolderView.h"
+#include "library/view/BaseIconController.h"
+#include "library/view/LibraryView.h"
 #include "support/BrandingFixture.h"
 #include "support/TemporaryFolder.h"
+#include "system/Trash.h"
 #include "ui/ElidedLabel.h"
 #include "ui/PopUpButton.h"
 #include "ui/SharedPanels.h"
@@ -55,7 +58,13 @@ struct TestWindow {
                  .families = nullptr,
                  .marks = marks.get()},
         work(services, options.mode),
-        window(defaults) {
+        window(defaults),
+        library(
+            {.builtin = tree / "BaseIcons", .custom = tree / "Icons", .former = {}}, libraryServices,
+            scriptedLibraryPrompts(),
+            {.read = [this](bool isBuiltin) { return savedSelections[isBuiltin ? 0 : 1]; },
+             .write = [this](bool isBuiltin, const QList<int>& rows) { savedSelections[isBuiltin ? 0 : 1] = rows; }},
+            WorkQueue::Mode::AtOnce) {
     std::filesystem::create_directory(folder);
     if (options.arrangeSettings) options.arrangeSettings(defaults);
     window.setFrameStore(&frames);
@@ -79,7 +88,7 @@ struct TestWindow {
                                       .writeToMaker = [this] { pages.emplace_back("mail"); },
                                       .feedFolder = QStringLiteral("https://maker.test/product/"),
                                       .makeUpdater = options.hasUpdater ? makeUpdater : nullptr});
-    controller->setOutlets(layOutMainWindow(window, panels));
+    controller->setOutlets(layOutMainWindow(window, panels, library));
     window.setOutlets(controller->outlets()._folderView, controller.get());
   }
 
@@ -91,6 +100,18 @@ struct TestWindow {
     controller->history().clear();
     window.show();
     window.activateWindow();
+  }
+
+  /// The library asks as the rest does.
+  LibraryPrompts scriptedLibraryPrompts() {
+    const auto choose = [this] { return choice; };
+    return {.message = [this](const QString& title,
+                              const QString& message) { prompts.runMessageSheetWithTitle(title, message); },
+            .prompt = [this](const QString& title, const QString& message, const QString& yes,
+                             const QString& no) { return prompts.runPromptSheetWithTitle(title, message, yes, no); },
+            .chooseIcon = choose,
+            .chooseSetToImport = choose,
+            .chooseExportPlace = [choose](const QString&) { return choose(); }};
   }
 
   [[nodiscard]] const Outlets& ui() const { return controller->outlets(); }
@@ -117,6 +138,10 @@ struct TestWindow {
   SharedPanels panels;
   FolderWork work;
   QVWindow window;
+  FolderTrash trash{tree.path()};
+  LibraryServices libraryServices{.icons = services, .trash = &trash};
+  std::vector<QList<int>> savedSelections{{}, {}};
+  BaseIconController library;
   std::shared_ptr<AppController> controller;
 };
 

@@ -6,7 +6,7 @@
 #include <optional>
 
 #include "app/core/FolderBranding.h"
-#include "app/core/WorkQueue.h"
+#include "foundation/WorkQueue.h"
 #include "foundation/base/Result.h"
 #include "imaging/Image.h"
 

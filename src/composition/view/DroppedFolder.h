@@ -6,8 +6,9 @@
 #include <filesystem>
 #include <optional>
 
+#include "ui/LocalPath.h"
+
 class QMimeData;
-class QUrl;
 
 namespace quorvane {
 
@@ -23,13 +24,5 @@ struct DroppedFolder {
   /// folders, addresses on other computers, texts and pictures. Looks into the file system.
   static DroppedFolder of(const QMimeData& data);
 };
-
-/// The bytes of the path that a "file" address of this computer names, whatever their encoding; nullopt for other
-/// addresses, and for one whose path is relative or holds a zero byte.
-[[nodiscard]] std::optional<std::filesystem::path> localPath(const QUrl& address);
-
-/// The first address of the data that is a path of this computer, links resolved where they can be; what it names is
-/// not looked at.
-[[nodiscard]] std::optional<std::filesystem::path> firstLocalPath(const QMimeData& data);
 
 }  // namespace quorvane

@@ -8,7 +8,7 @@
 #include "composition/core/IconComposition.h"
 #include "composition/view/ImageView.h"
 #include "composition/view/LabelCache.h"
-#include "composition/view/RefusedDropWatch.h"
+#include "ui/RefusedDropWatch.h"
 
 class QMimeData;
 

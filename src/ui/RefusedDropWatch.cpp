@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "composition/view/RefusedDropWatch.h"
+#include "ui/RefusedDropWatch.h"
 
 #include <QDropEvent>
 #include <QWidget>

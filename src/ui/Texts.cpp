@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "app/Texts.h"
+#include "ui/Texts.h"
 
 #include <QRegularExpression>
 

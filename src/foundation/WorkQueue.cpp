@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "app/core/WorkQueue.h"
+#include "foundation/WorkQueue.h"
 
 #include <QTimer>
 #include <algorithm>

@@ -1,0 +1,52 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The icon library beside the canvas.
+#include <QFile>
+
+#include "app/AppController.h"
+#include "app/BaseColumn.h"
+#include "app/core/EditHistory.h"
+#include "app/core/SettingsTable.h"
+#include "foundation/UserDefaults.h"
+#include "library/view/BaseIconController.h"
+#include "library/view/LibraryView.h"
+#include "ui/ElidedLabel.h"
+
+namespace quorvane {
+
+void AppController::_connectLibrary() {
+  connect(_baseIconController, &BaseIconController::baseIconChosen, this, &AppController::_chooseFromLibrary);
+  connect(_baseIconController, &BaseIconController::failed, this, &AppController::_notice);
+  connect(_baseIconController, &BaseIconController::historyChanged, this, [this] {
+    _isLibraryNewer = _baseIconController->history().canUndo();
+    Q_EMIT stateChanged();
+  });
+
+  LibraryView& view = *_baseColumn->library();
+  UserDefaults& defaults = _services.defaults;
+  if (const auto side = settings::value(defaults, settings::libraryIconSide); side > 0)
+    view.setIconSide(static_cast<int>(std::min<qint64>(side, 1024)));
+  const auto width = settings::value(defaults, settings::librarySetsWidth);
+  view.setSetsWidth(width > 0 ? static_cast<int>(std::min<qint64>(width, 1024)) : 110);
+  view.setLibrary(settings::value(defaults, settings::libraryShowsCustom) ? LibraryView::Custom : LibraryView::Builtin);
+  connect(&view, &LibraryView::libraryChanged, this, [&defaults](int library) {
+    settings::setValue(defaults, settings::libraryShowsCustom, library == LibraryView::Custom);
+  });
+  connect(&view, &LibraryView::iconSideChanged, this,
+          [&defaults](int side) { settings::setValue(defaults, settings::libraryIconSide, qint64{side}); });
+  connect(&view, &LibraryView::setsWidthChanged, this,
+          [&defaults](int chosen) { settings::setValue(defaults, settings::librarySetsWidth, qint64{chosen}); });
+}
+
+bool AppController::_undoesLibrary() const {
+  return _baseIconController->history().canUndo() && (_isLibraryNewer || !_history->canUndo());
+}
+
+void AppController::_chooseFromLibrary(const std::optional<Image>& image, const Path& path) {
+  if (image && !_path) _notice(tr("Open a folder: the label is drawn on this picture then."));
+  setBaseIcon(image);
+  if (!image || !_path) return;
+  _basePicture = path;
+  _baseColumn->setPictureName(visibleText(QFile::decodeName(path.stem().c_str())));
+}
+
+}  // namespace quorvane

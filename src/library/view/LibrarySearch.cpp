@@ -1,0 +1,105 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "library/view/LibrarySearch.h"
+
+#include <QHeaderView>
+#include <algorithm>
+
+#include "library/view/BaseIconController.h"
+#include "library/view/EmptyState.h"
+#include "library/view/LibraryDelegates.h"
+#include "library/view/LibraryTexts.h"
+#include "library/view/Thumbnails.h"
+
+namespace quorvane {
+
+void LibraryFinds::search(BaseIconController& controller, const QString& words) {
+  const QStringList wanted = words.split(QLatin1Char(' '), Qt::SkipEmptyParts);
+  beginResetModel();
+  _finds.clear();
+  for (const bool isBuiltin : {false, true}) {
+    const auto& sets =
+        isBuiltin ? controller.builtinIconSetArrayController() : controller.customIconSetArrayController();
+    for (const auto& set : sets.arrangedObjects()) {
+      const QString setName = IconSetArrayController::shownName(*set);
+      for (const IconRecord& icon : set->icons()) {
+        const QString name = shownIconName(icon);
+        const auto has = [&](const QString& word) {
+          return name.contains(word, Qt::CaseInsensitive) || setName.contains(word, Qt::CaseInsensitive);
+        };
+        if (!wanted.isEmpty() && std::ranges::all_of(wanted, has)) _finds.push_back({set, icon, isBuiltin});
+      }
+    }
+  }
+  endResetModel();
+}
+
+int LibraryFinds::rowCount(const QModelIndex& parent) const {
+  return parent.isValid() ? 0 : static_cast<int>(_finds.size());
+}
+
+QVariant LibraryFinds::data(const QModelIndex& index, int role) const {
+  const Find& find = at(index.row());
+  const QString set = IconSetArrayController::shownName(*find.set);
+  switch (role) {
+    case Qt::DisplayRole:
+      return shownIconName(find.icon);
+    case DetailRole:
+      return set;
+    case Qt::ToolTipRole:
+    case Qt::AccessibleTextRole:
+      return (find.isBuiltin ? tr("%1, built-in, in %2") : tr("%1, in %2")).arg(shownIconName(find.icon), set);
+    case IconRecordRole:
+      return QVariant::fromValue(find.icon);
+    default:
+      return {};
+  }
+}
+
+LibrarySearch::LibrarySearch(BaseIconController& controller, Thumbnails& thumbnails, QWidget* parent)
+    : HVTableView(parent),
+      _controller(controller),
+      _finds(new LibraryFinds(this)),
+      _delegate(new IconDelegate(thumbnails, this)),
+      _emptyState(new EmptyState(viewport())) {
+  setAccessibleName(tr("Icons found"));
+  setModel(_finds);
+  setItemDelegate(_delegate);
+  setSelectionMode(QAbstractItemView::SingleSelection);
+  setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
+  setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  setFrameShape(QFrame::NoFrame);
+  setMouseTracking(true);
+  verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+  verticalHeader()->setMinimumSectionSize(1);
+  connect(&thumbnails, &Thumbnails::ready, viewport(), qOverload<>(&QWidget::update));
+  const auto show = [this](const QModelIndex& index) {
+    // The list may be emptied by whoever hears it.
+    const LibraryFinds::Find find = _finds->at(index.row());
+    Q_EMIT shown(find);
+  };
+  connect(this, &QAbstractItemView::activated, this, show);
+}
+
+void LibrarySearch::setIconSide(int side) {
+  _delegate->setSide(side);
+  verticalHeader()->setDefaultSectionSize(_delegate->rowHeight(font(), true));
+}
+
+void LibrarySearch::search(const QString& words) {
+  _finds->search(_controller, words);
+  _emptyState->setTexts(tr("Nothing found"), tr("No icon and no set is called “%1”.").arg(words), tr("Clear Search"));
+  _emptyState->setGeometry(viewport()->rect());
+  _emptyState->setVisible(_finds->rowCount() == 0);
+}
+
+void LibrarySearch::selectionChanged(const QItemSelection& selected, const QItemSelection& deselected) {
+  HVTableView::selectionChanged(selected, deselected);
+  if (!selected.isEmpty()) _controller.choose(_finds->at(selected.indexes().front().row()).icon);
+}
+
+void LibrarySearch::resizeEvent(QResizeEvent* event) {
+  HVTableView::resizeEvent(event);
+  _emptyState->setGeometry(viewport()->rect());
+}
+
+}  // namespace quorvane

@@ -1,0 +1,13 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QString>
+
+#include "library/core/IconRecord.h"
+
+namespace quorvane {
+
+/// What an icon is called: its file's name without an ending that says what kind of picture it is.
+QString shownIconName(const IconRecord& icon);
+
+}  // namespace quorvane
