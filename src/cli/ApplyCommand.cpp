@@ -13,6 +13,10 @@ namespace quorvane::cli {
 
 namespace {
 
+Error nothingToApply() {
+  return Error::invalidInput("nothing to apply: give a --label, a --base, a --tint or an --overlay");
+}
+
 using Clock = std::chrono::steady_clock;
 
 /// What was drawn on what, for those who want to know.
@@ -55,7 +59,8 @@ class Applier {
     const auto begun = Clock::now();
     Wish wish = _wish;
     TRY_VOID(applyRow(wish, item.values));
-    if (wish.isEmpty()) return Error::invalidInput("nothing to apply: give a --label, a --base or both");
+    if (wish.isEmpty()) return nothingToApply();
+    TRY_VOID(wish.readOverlay(_maker));
     const Look look = TRY(wish.lookFor([&] { return folderName(item.folder); }));
     {
       const std::lock_guard lock(_surroundingsMutex);
@@ -81,7 +86,9 @@ Result<void> checkWish(const Wish& wish) {
   if (wish.base)
     if (const auto picture = readBasePicture(*wish.base); !picture) return picture.error();
   TRY_VOID(labelFontNamed(wish.saved.look.fontName, 1));
-  if (wish.isEmpty()) return Error::invalidInput("nothing to apply: give a --label, a --base or both");
+  if (wish.overlay)
+    if (const auto picture = readOverlayPicture(*wish.overlay); !picture) return picture.error();
+  if (wish.isEmpty()) return nothingToApply();
   return {};
 }
 

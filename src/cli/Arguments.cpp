@@ -98,7 +98,8 @@ Result<void> readLook(const Parser& parser, const CLI::App& app, Arguments& argu
   for (const auto& [name, text] : parser.look) {
     if (app.get_option_no_throw("--" + name) == nullptr || app.count("--" + name) == 0) continue;
     arguments.lookOptions.emplace_back(name, text);
-    if (name != "base") TRY_VOID(setLookValue(arguments.look, name, text, "--"));
+    if (name != "base" && !(name == "overlay" && isOverlayFile(text)))
+      TRY_VOID(setLookValue(arguments.look, name, text, "--"));
   }
   arguments.base = optionalPath(parser.look.at("base"));
   arguments.lookFile = optionalPath(parser.lookFile);

@@ -16,8 +16,10 @@ std::vector<std::string> choicesOf(const std::string& option) {
   std::vector<std::string> choices;
   if (option == "--effect") {
     for (const EffectPreset& preset : effectPresets()) choices.emplace_back(preset.name);
-  } else if (option == "--color") {
+  } else if (option == "--color" || option == "--tint" || option == "--overlay-color") {
     for (const QString& name : QColor::colorNames()) choices.push_back(name.toStdString());
+    if (option == "--tint") choices.emplace_back("none");
+    if (option == "--overlay-color") choices.emplace_back("auto");
   }
   return choices;
 }

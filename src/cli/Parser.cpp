@@ -1,11 +1,29 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "cli/Parser.h"
 
+#include <algorithm>
+
 #include "app/core/EffectPresets.h"
 #include "cli/Help.h"
+#include "composition/core/Emblems.h"
 #include "foundation/base/Version.h"
 
 namespace quorvane::cli {
+
+namespace {
+
+/// A line for each: its name, and what it may be looked for by.
+std::string emblemList() {
+  std::string list;
+  for (const Emblem& emblem : emblems()) {
+    std::string line = emblem.name.toStdString();
+    line.resize(std::max(line.size() + 1, std::size_t{16}), ' ');
+    list += (list.empty() ? "" : "\n") + line + emblem.keywords.join(QLatin1String(", ")).toStdString();
+  }
+  return list;
+}
+
+}  // namespace
 
 CLI::App* Parser::add(CLI::App& parent, Command command, const std::string& name, const std::string& what,
                       const std::string& use, const std::vector<std::string>& examples) {
@@ -34,6 +52,12 @@ void Parser::addLook(CLI::App& command) {
   option("--rotate", "DEGREES", "Rotation, counter-clockwise [0]");
   option("--opacity", "FRACTION", "0 is invisible, 1 solid [1]");
   option("--center", "X,Y", "Middle of the label on a 128 x 128 icon, from the bottom left [64,64]");
+  option("--tint", "COLOR", "Recolour the picture: a colour, or none; its alpha is the strength [none]");
+  option("--overlay", "WHAT", "Lay emblem:NAME, emoji:X or a picture file on it, under the label; or none [none]");
+  option("--overlay-center", "X,Y", "Middle of the overlay, as --center [64,58]");
+  option("--overlay-size", "N", "Side of the overlay's square on a 128 x 128 icon, 4 to 256 [52]");
+  option("--overlay-color", "COLOR", "Colour of an emblem; auto is a shade of the picture's [auto]");
+  option("--overlay-opacity", "FRACTION", "0 is invisible, 1 solid [1]");
   command.add_option("--look", lookFile, "Look file to begin with; the options above change it")->type_name("FILE");
 }
 
@@ -56,6 +80,9 @@ Parser::Parser() {
   app.name("quorvane");
   app.set_help_flag("-h,--help", "Print this help");
   app.set_version_flag("--version", "quorvane " QUORVANE_VERSION);
+  // Ends the program as the version does, and before a command is asked for.
+  app.add_flag_callback(
+      "--list-emblems", [] { throw CLI::CallForVersion(emblemList(), 0); }, "Print the names of the emblems and exit");
   describeUse(app, "COMMAND ...",
               {"quorvane apply --label \"Invoices\\n2026\" --color \"#b00020\" --effect soft ~/Invoices",
                "quorvane reset ~/Invoices", "quorvane apply --help"});

@@ -135,8 +135,10 @@ Result<void> writeOutputFile(const std::filesystem::path& path, ByteView bytes) 
 
 void runRender(const Arguments& arguments, const IconServices& services, Reporter& reporter) {
   const std::filesystem::path& out = arguments.paths.front();
-  const auto wish = readWish(arguments);
+  auto wish = readWish(arguments);
   if (!wish) return reporter.failed(out, wish.error());
+  IconMaker maker;
+  if (const auto read = wish->readOverlay(maker); !read) return reporter.failed(read.error().where(), read.error());
   // Known before anything is written.
   std::optional<SavedLook> saved;
   if (arguments.savedLook) {

@@ -10,12 +10,18 @@ namespace {
 
 constexpr const char* baseName = "base";
 constexpr const char* labelName = "label";
+constexpr const char* overlayName = "overlay";
 
 Result<void> setValue(Wish& wish, const std::string& name, const std::string& text, std::string_view prefix) {
   if (name == baseName) {
     if (!text.empty()) wish.base = BaseReference{.path = text, .within = {}};
     return {};
   }
+  if (name == overlayName && isOverlayFile(text)) {
+    wish.overlay = BaseReference{.path = text, .within = {}};
+    return {};
+  }
+  if (name == overlayName && !text.empty()) wish.overlay.reset();
   TRY_VOID(setLookValue(wish.saved.look, name, text, prefix));
   if (name == labelName) wish.saved.labelPattern = text.empty() ? QString() : patternOf(wish.saved.look.label);
   return {};
@@ -27,6 +33,13 @@ Result<Look> Wish::lookFor(const std::function<Result<QString>()>& name) const {
   Look look = saved.look;
   look.label = TRY(labelOf(saved.labelPattern, name));
   return look;
+}
+
+Result<void> Wish::readOverlay(IconMaker& maker) {
+  if (!overlay) return {};
+  saved.look.overlay.drawing = TRY(maker.overlay(*overlay));
+  overlay.reset();
+  return {};
 }
 
 std::vector<std::string> rowColumns() {
@@ -43,6 +56,10 @@ Result<Wish> readWish(const Arguments& arguments) {
     wish.base = std::move(read.base);
   }
   for (const auto& [name, text] : arguments.lookOptions) TRY_VOID(setValue(wish, name, text, "--"));
+  // Rows may bring an overlay of their own.
+  for (const auto& [name, text] : arguments.lookOptions)
+    if (name.starts_with("overlay-") && !wish.hasOverlay() && !arguments.rowsFrom)
+      return Error::invalidInput("--" + name + " is for an overlay; choose one with --overlay");
   if (arguments.labelFromName) wish.saved.labelPattern = QStringLiteral("{name}");
   return wish;
 }

@@ -7,6 +7,7 @@
 #include <utility>
 #include <vector>
 
+#include "app/core/IconMaker.h"
 #include "app/core/LookFile.h"
 #include "cli/Arguments.h"
 
@@ -16,9 +17,15 @@ namespace quorvane::cli {
 struct Wish {
   SavedLook saved;  ///< its own base is not looked at
   std::optional<BaseReference> base;
+  std::optional<BaseReference> overlay;  ///< a picture to lay on it that is still to be read
 
-  /// Neither a label nor a picture: the folder's icon would be drawn as it is.
-  [[nodiscard]] bool isEmpty() const { return saved.labelPattern.isNull() && !base; }
+  /// Nothing to draw with: the folder's icon would stay as it is.
+  [[nodiscard]] bool isEmpty() const {
+    return saved.labelPattern.isNull() && !base && !saved.look.tint && !hasOverlay();
+  }
+  [[nodiscard]] bool hasOverlay() const { return overlay || saved.look.overlay.hasDrawing(); }
+  /// Reads the picture of the overlay, if there is one to be read, into the look.
+  Result<void> readOverlay(IconMaker& maker);
   /// The look with the label that a folder (or file) of that name gets.
   [[nodiscard]] Result<Look> lookFor(const std::function<Result<QString>()>& name) const;
 };

@@ -43,6 +43,15 @@ Result<Image> pictureFromBytes(ByteView bytes) {
   return IconFamily::looksLikeFamily(bytes) ? readFamilyPicture(bytes) : Image::imageWithData(bytes);
 }
 
+Result<OverlayPicture> readOverlayPicture(const BaseReference& reference) {
+  const auto read = [&]() -> Result<OverlayPicture> {
+    return OverlayPicture::fromImage(TRY(pictureFromBytes(TRY(readReferenced(reference)))));
+  };
+  auto picture = read();
+  if (!picture) return std::move(picture).error().at(reference.shown());
+  return picture;
+}
+
 Result<Image> readBasePicture(const BaseReference& reference) {
   const auto read = [&]() -> Result<Image> {
     Image picture = TRY(pictureFromBytes(TRY(readReferenced(reference))));

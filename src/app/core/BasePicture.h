@@ -3,6 +3,7 @@
 
 #include <filesystem>
 
+#include "composition/core/IconOverlay.h"
 #include "foundation/base/Bytes.h"
 #include "foundation/base/Result.h"
 #include "imaging/Image.h"
@@ -32,5 +33,8 @@ Result<Image> pictureFromBytes(ByteView bytes);
 
 /// A picture to draw on: an icns file, or any picture file fitted into a square of 128 x 128 points.
 Result<Image> readBasePicture(const BaseReference& reference);
+
+/// A picture to lay on icons, from any file that holds one.
+Result<OverlayPicture> readOverlayPicture(const BaseReference& reference);
 
 }  // namespace quorvane

@@ -40,6 +40,22 @@ Texts textsOf(EditKind kind) {
     case EditKind::BaseIcon:
       return {QT_TRANSLATE_NOOP("EditHistory", "Undo Choose Icon"),
               QT_TRANSLATE_NOOP("EditHistory", "Redo Choose Icon")};
+    case EditKind::Tint:
+      return {QT_TRANSLATE_NOOP("EditHistory", "Undo Tint"), QT_TRANSLATE_NOOP("EditHistory", "Redo Tint")};
+    case EditKind::Overlay:
+      return {QT_TRANSLATE_NOOP("EditHistory", "Undo Overlay"), QT_TRANSLATE_NOOP("EditHistory", "Redo Overlay")};
+    case EditKind::OverlayPosition:
+      return {QT_TRANSLATE_NOOP("EditHistory", "Undo Move Overlay"),
+              QT_TRANSLATE_NOOP("EditHistory", "Redo Move Overlay")};
+    case EditKind::OverlaySize:
+      return {QT_TRANSLATE_NOOP("EditHistory", "Undo Overlay Size"),
+              QT_TRANSLATE_NOOP("EditHistory", "Redo Overlay Size")};
+    case EditKind::OverlayOpacity:
+      return {QT_TRANSLATE_NOOP("EditHistory", "Undo Overlay Opacity"),
+              QT_TRANSLATE_NOOP("EditHistory", "Redo Overlay Opacity")};
+    case EditKind::OverlayColor:
+      return {QT_TRANSLATE_NOOP("EditHistory", "Undo Overlay Colour"),
+              QT_TRANSLATE_NOOP("EditHistory", "Redo Overlay Colour")};
     case EditKind::Transform:
       return {QT_TRANSLATE_NOOP("EditHistory", "Undo Reset"), QT_TRANSLATE_NOOP("EditHistory", "Redo Reset")};
     case EditKind::Look:
@@ -72,7 +88,8 @@ bool EditHistory::isContinued(EditKind kind, std::chrono::steady_clock::time_poi
   if (_openSteps > 0) return _hasOpenStep;
   const Step& last = _undoable.back();
   // Each choice of an icon or an effect is one that was meant.
-  const bool isGradual = kind != EditKind::BaseIcon && kind != EditKind::Effect && kind != EditKind::Look;
+  const bool isGradual =
+      kind != EditKind::BaseIcon && kind != EditKind::Effect && kind != EditKind::Look && kind != EditKind::Overlay;
   return !_isClosed && isGradual && last.kind == kind && now - last.at <= burstPause;
 }
 

@@ -17,6 +17,24 @@ bool isSizeAlone(const std::optional<LabelFont>& a, const std::optional<LabelFon
   return a && b && a->withSize(b->size) == *b;
 }
 
+/// What of an overlay is different.
+EditKind overlayEdit(const std::optional<IconOverlay>& a, const std::optional<IconOverlay>& b) {
+  if (!a || !b) return EditKind::Overlay;
+  IconOverlay changed = *a;
+  const auto isAll = [&](EditKind kind) { return changed == *b ? std::optional(kind) : std::nullopt; };
+  changed.center = b->center;
+  if (const auto kind = isAll(EditKind::OverlayPosition)) return *kind;
+  changed = *a;
+  changed.size = b->size;
+  if (const auto kind = isAll(EditKind::OverlaySize)) return *kind;
+  changed = *a;
+  changed.opacity = b->opacity;
+  if (const auto kind = isAll(EditKind::OverlayOpacity)) return *kind;
+  changed = *a;
+  changed.color = b->color;
+  return isAll(EditKind::OverlayColor).value_or(EditKind::Overlay);
+}
+
 /// Collects what is different; two different things make a new look.
 class Difference {
  public:
@@ -34,12 +52,14 @@ class Difference {
 }  // namespace
 
 EditedValues EditedValues::of(const IconComposition& composition) {
-  return {composition.label(), composition.baseIcon(), composition.look()};
+  return {composition.label(), composition.baseIcon(), composition.tint(), composition.overlay(), composition.look()};
 }
 
 void EditedValues::applyTo(IconComposition& composition) const {
   const EditedValues there = of(composition);
   if (!isSame(there.baseIcon, baseIcon)) composition.setBaseIcon(baseIcon);
+  if (there.tint != tint) composition.setTint(tint);
+  if (there.overlay != overlay) composition.setOverlay(overlay);
   if (there.label != label) composition.setLabel(label);
   if (there.look.font != look.font) composition.setFont(look.font);
   if (there.look.color != look.color) composition.setColor(look.color);
@@ -59,6 +79,8 @@ std::optional<EditKind> editBetween(const EditedValues& before, const EditedValu
   difference.add(a.rotation != b.rotation, EditKind::Rotation);
   difference.add(!isSame(before.label, after.label), EditKind::Label);
   difference.add(!isSame(before.baseIcon, after.baseIcon), EditKind::BaseIcon);
+  difference.add(before.tint != after.tint, EditKind::Tint);
+  difference.add(before.overlay != after.overlay, overlayEdit(before.overlay, after.overlay));
   difference.add(a.font != b.font, isSizeAlone(a.font, b.font) ? EditKind::FontSize : EditKind::Font);
   difference.add(a.color != b.color, EditKind::Color);
   difference.add(a.shadow != b.shadow, EditKind::Effect);

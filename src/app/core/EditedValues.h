@@ -21,6 +21,12 @@ enum class EditKind {
   Rotation,
   Opacity,
   BaseIcon,
+  Tint,
+  Overlay,  ///< chosen, taken away, or several of its values at once
+  OverlayPosition,
+  OverlaySize,
+  OverlayOpacity,
+  OverlayColor,
   Transform,  ///< shear and rotation at once
   Look,       ///< several values at once
 };
@@ -29,6 +35,8 @@ enum class EditKind {
 struct EditedValues {
   std::optional<QString> label;
   std::optional<Image> baseIcon;
+  std::optional<QColor> tint;
+  std::optional<IconOverlay> overlay;
   LabelLook look;
 
   static EditedValues of(const IconComposition& composition);

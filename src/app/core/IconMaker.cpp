@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/core/IconMaker.h"
 
+#include <QCryptographicHash>
 #include <array>
 #include <charconv>
 
@@ -19,7 +20,17 @@ std::string wordsOf(const Look& look) {
     const auto value = number.get(look);
     words += " " + (value ? shortNumber(*value) : "");
   }
-  return words + " " + shortNumber(look.labelCenter.x) + " " + shortNumber(look.labelCenter.y);
+  words += " " + shortNumber(look.labelCenter.x) + " " + shortNumber(look.labelCenter.y);
+  if (look.tint) words += " tint " + colorText(*look.tint);
+  const IconOverlay& overlay = look.overlay;
+  if (!overlay.hasDrawing()) return words;
+  words += " over " + shortNumber(overlay.center.x) + " " + shortNumber(overlay.center.y) + " ";
+  if (overlay.color) words += colorText(*overlay.color);
+  if (const auto* picture = std::get_if<OverlayPicture>(&overlay.drawing)) {
+    const QByteArrayView png(picture->png().data(), static_cast<qsizetype>(picture->png().size()));
+    return words + part(QCryptographicHash::hash(png, QCryptographicHash::Sha256).toStdString());
+  }
+  return words + part(overlayText(overlay.drawing).value_or(""));
 }
 
 }  // namespace
@@ -44,6 +55,10 @@ Result<IconMaker::Base> IconMaker::base(const IconFamily& family,
   auto image = otherwise();
   if (!image) return Error::invalidInput("its icon holds no picture");
   return canvasPicture(std::move(image));
+}
+
+Result<OverlayPicture> IconMaker::overlay(const BaseReference& reference) {
+  return _overlays.get(reference, [&] { return readOverlayPicture(reference); });
 }
 
 Result<IconFamily> IconMaker::icon(const Look& look, const Base& base) {

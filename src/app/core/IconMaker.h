@@ -30,6 +30,9 @@ class IconMaker {
   /// The picture of an icon that a folder has, on the canvas of 128 units; what `otherwise` gives when it holds none.
   Result<Base> base(const IconFamily& family, const std::function<std::optional<Image>()>& otherwise);
 
+  /// The picture to lay on icons that a reference leads to; read once, also when that fails.
+  Result<OverlayPicture> overlay(const BaseReference& reference);
+
   /// The label drawn on the picture, as an icon family.
   Result<IconFamily> icon(const Look& look, const Base& base);
 
@@ -43,6 +46,7 @@ class IconMaker {
   std::atomic<std::uint64_t> _numbers = 0;
   BoundedCache<BaseReference, Result<Base>> _files{8};
   BoundedCache<Bytes, std::optional<Base>> _families{4};
+  BoundedCache<BaseReference, Result<OverlayPicture>> _overlays{8};
   BoundedCache<IconKey, Result<IconFamily>> _icons{8};
 };
 

@@ -25,7 +25,7 @@ Result<std::string> typedText(const std::string& key, const QJsonValue& value) {
       if (!value.toString().isValidUtf16()) return Error::invalidInput("'" + key + "' is no whole text");
       return value.toString().toStdString();
     case QJsonValue::Array:
-      if (const QJsonArray pair = value.toArray(); key == "center" && pair.size() == 2)
+      if (const QJsonArray pair = value.toArray(); key.ends_with("center") && pair.size() == 2)
         return TRY(typedText("X", pair[0])) + "," + TRY(typedText("Y", pair[1]));
       [[fallthrough]];
     default:

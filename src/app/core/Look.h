@@ -6,6 +6,7 @@
 #include <optional>
 #include <string>
 
+#include "composition/core/IconOverlay.h"
 #include "composition/core/LabelValues.h"
 #include "foundation/base/Geometry.h"
 #include "foundation/base/Result.h"
@@ -14,6 +15,7 @@
 namespace quorvane {
 
 /// Everything that makes up a branded icon save the picture it is drawn on, in the words that people choose it by.
+/// The overlay's other values may be given before its drawing is: without one it is not drawn.
 struct Look {
   QString label;         ///< null: no label
   std::string fontName;  ///< family, or family and style; empty: the system font, bold where it can be
@@ -26,6 +28,8 @@ struct Look {
   float shearFactor = 0;
   float rotation = 0;
   float opacity = 1;
+  std::optional<QColor> tint;
+  IconOverlay overlay;
 };
 
 /// The font of a name: a family, or a family followed by one of its styles, whatever the letters' case. Empty gives the

@@ -35,6 +35,8 @@ Result<void> showLook(const Look& look, IconComposition& composition) {
     measured.lineSpacingFactor = look.lineSpacingFactor;
     font.size = sizeThatFits(look.label, measured);
   }
+  composition.setTint(look.tint);
+  composition.setOverlay(look.overlay.hasDrawing() ? std::optional(look.overlay) : std::nullopt);
   composition.setLabel(look.label.isNull() ? std::nullopt : std::optional(look.label));
   composition.setFont(font);
   composition.setLineSpacing(look.lineSpacingFactor);
@@ -61,7 +63,9 @@ Result<Look> lookOf(const IconComposition& composition) {
               .labelCenter = values.labelCenter,
               .shearFactor = values.shearFactor,
               .rotation = values.rotation,
-              .opacity = values.opacity};
+              .opacity = values.opacity,
+              .tint = composition.tint(),
+              .overlay = composition.overlay().value_or(IconOverlay())};
 }
 
 }  // namespace quorvane

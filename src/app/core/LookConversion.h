@@ -7,11 +7,13 @@
 
 namespace quorvane {
 
-/// Sets all values of the look, its label too, on the composition; its pictures stay. A size that is not chosen becomes
-/// the one that fits. Fails, with nothing set, when the look's font is not installed. Needs a QGuiApplication.
+/// Sets all values of the look, its label too, on the composition; the pictures it is drawn on stay. A size that is not
+/// chosen becomes the one that fits. Fails, with nothing set, when the look's font is not installed. Needs a
+/// QGuiApplication.
 Result<void> showLook(const Look& look, IconComposition& composition);
 
-/// The look that showLook() makes this composition of: all of it save the pictures. Fails on a shadow that is none of
+/// The look that showLook() makes this composition of: all of it save the pictures it is
+/// drawn on. Fails on a shadow that is none of
 /// the effects. No font is the system font of 50 points, no colour black, as they are drawn.
 Result<Look> lookOf(const IconComposition& composition);
 

@@ -26,6 +26,11 @@ const QString fontKey = QStringLiteral("font");
 const QString colorKey = QStringLiteral("color");
 const QString effectKey = QStringLiteral("effect");
 const QString centerKey = QStringLiteral("center");
+const QString tintKey = QStringLiteral("tint");
+const QString overlayKey = QStringLiteral("overlay");
+const QString overlayPictureKey = QStringLiteral("overlay-picture");
+const QString overlayCenterKey = QStringLiteral("overlay-center");
+const QString overlayColorKey = QStringLiteral("overlay-color");
 
 QString text(std::string_view bytes) {
   return QString::fromUtf8(bytes.data(), static_cast<qsizetype>(bytes.size()));
@@ -77,13 +82,46 @@ Result<void> readNumbers(Keys& keys, Look& look) {
   return {};
 }
 
-Result<void> readCenter(Keys& keys, Look& look) {
-  const QJsonValue value = keys.take(centerKey);
+Result<void> readPoint(Keys& keys, const QString& key, Point& point) {
+  const QJsonValue value = keys.take(key);
   if (value.isUndefined()) return {};
   const QJsonArray pair = value.toArray();
-  if (pair.size() != 2 || !pair[0].isDouble() || !pair[1].isDouble()) return wrongKey(centerKey, "pair of numbers");
-  look.labelCenter = TRY(parsePoint(shortNumber(pair[0].toDouble()) + "," + shortNumber(pair[1].toDouble()), ""));
+  if (pair.size() != 2 || !pair[0].isDouble() || !pair[1].isDouble()) return wrongKey(key, "pair of numbers");
+  point =
+      TRY(parsePoint(shortNumber(pair[0].toDouble()) + "," + shortNumber(pair[1].toDouble()), key.toStdString(), ""));
   return {};
+}
+
+/// A picture comes within the look: one from somebody else names no file of ours.
+Result<void> readOverlay(Keys& keys, IconOverlay& overlay) {
+  const auto words = TRY(keys.takeText(overlayKey));
+  const auto picture = TRY(keys.takeText(overlayPictureKey));
+  if (words && picture) return Error::invalidInput("the look's \"overlay\" and \"overlay-picture\" exclude each other");
+  if (words) overlay.drawing = TRY(parseOverlay(words->toStdString()));
+  if (picture) {
+    const auto png = QByteArray::fromBase64Encoding(
+        picture->toLatin1(), QByteArray::Base64Encoding | QByteArray::AbortOnBase64DecodingErrors);
+    if (!png) return wrongKey(overlayPictureKey, "base64 text");
+    auto read = OverlayPicture::fromPng(Bytes(png.decoded.begin(), png.decoded.end()));
+    if (!read)
+      return Error(read.error().kind(), "the look's \"overlay-picture\" cannot be used: " + read.error().why());
+    overlay.drawing = *std::move(read);
+  }
+  TRY_VOID(readPoint(keys, overlayCenterKey, overlay.center));
+  if (const auto color = TRY(keys.takeText(overlayColorKey))) overlay.color = TRY(parseColor(color->toStdString()));
+  return {};
+}
+
+void writeOverlay(const IconOverlay& overlay, QJsonObject& object) {
+  if (!overlay.hasDrawing()) return;
+  if (const auto words = overlayText(overlay.drawing)) object[overlayKey] = text(*words);
+  if (const auto* picture = std::get_if<OverlayPicture>(&overlay.drawing)) {
+    const QByteArray png = QByteArray::fromRawData(reinterpret_cast<const char*>(picture->png().data()),
+                                                   static_cast<qsizetype>(picture->png().size()));
+    object[overlayPictureKey] = QString::fromLatin1(png.toBase64());
+  }
+  object[overlayCenterKey] = QJsonArray{asWritten(overlay.center.x), asWritten(overlay.center.y)};
+  if (overlay.color) object[overlayColorKey] = text(colorText(*overlay.color));
 }
 
 Result<void> readEffect(Keys& keys, Look& look) {
@@ -125,7 +163,9 @@ Result<SavedLook> lookFromJson(ByteView json) {
       return Error::refused("the look's base picture '" + saved.base->string() + "': " + inner.error().why());
   }
   TRY_VOID(readNumbers(keys, saved.look));
-  TRY_VOID(readCenter(keys, saved.look));
+  TRY_VOID(readPoint(keys, centerKey, saved.look.labelCenter));
+  if (const auto tint = TRY(keys.takeText(tintKey))) saved.look.tint = TRY(parseColor(tint->toStdString()));
+  TRY_VOID(readOverlay(keys, saved.look.overlay));
   TRY_VOID(readEffect(keys, saved.look));
   saved.others = keys.left();
   return saved;
@@ -147,6 +187,8 @@ Result<Bytes> lookToJson(const SavedLook& saved) {
   for (const LookNumber& number : lookNumbers())
     if (const auto value = number.get(look)) object[text(number.name)] = asWritten(*value);
   object[centerKey] = QJsonArray{asWritten(look.labelCenter.x), asWritten(look.labelCenter.y)};
+  if (look.tint) object[tintKey] = text(colorText(*look.tint));
+  writeOverlay(look.overlay, object);
   const auto presets = effectPresets();
   const auto preset = std::ranges::find(presets, look.effectTag, &EffectPreset::tag);
   object[effectKey] = preset != presets.end() ? QJsonValue(text(preset->name)) : QJsonValue(look.effectTag);

@@ -20,7 +20,10 @@ namespace quorvane {
 ///       "label": "{name}\n2026",       a pattern (LabelPattern.h)
 ///       "base": "pictures/box.png",    relative to the look file, in its folder or below
 ///       "font": "DejaVu Sans Bold", "size": 24, "color": "#b00020", "effect": "soft", "line-spacing": 1,
-///       "shear": 0, "rotate": 0, "opacity": 1, "center": [64, 64]
+///       "shear": 0, "rotate": 0, "opacity": 1, "center": [64, 64],
+///       "tint": "#46a758",             left out: none
+///       "overlay": "emblem:star",      or "emoji:X"; or "overlay-picture": a small PNG file as base64; left out: none
+///       "overlay-center": [64, 58], "overlay-size": 52, "overlay-opacity": 1, "overlay-color": "#ffffff"
 ///   }
 struct SavedLook {
   Look look;                                  ///< its label stays null

@@ -7,12 +7,17 @@
 #include <cmath>
 
 #include "app/core/EffectPresets.h"
+#include "composition/core/Emblems.h"
 #include "foundation/base/Limits.h"
 #include "foundation/base/Text.h"
 
 namespace quorvane {
 
 namespace {
+
+std::optional<double> ofOverlay(const Look& look, float value) {
+  return look.overlay.hasDrawing() ? std::optional<double>(value) : std::nullopt;
+}
 
 constexpr auto numbers = std::to_array<LookNumber>({
     {"size", 1, 2000, [](Look& look, double value) { look.fontSize = value; },
@@ -25,10 +30,38 @@ constexpr auto numbers = std::to_array<LookNumber>({
      [](const Look& look) -> std::optional<double> { return look.rotation; }},
     {"opacity", 0, 1, [](Look& look, double value) { look.opacity = static_cast<float>(value); },
      [](const Look& look) -> std::optional<double> { return look.opacity; }},
+    {"overlay-size", 4, 256, [](Look& look, double value) { look.overlay.size = static_cast<float>(value); },
+     [](const Look& look) { return ofOverlay(look, look.overlay.size); }},
+    {"overlay-opacity", 0, 1, [](Look& look, double value) { look.overlay.opacity = static_cast<float>(value); },
+     [](const Look& look) { return ofOverlay(look, look.overlay.opacity); }},
 });
 
 constexpr auto names = std::to_array<std::string_view>(
-    {"label", "font", "size", "color", "effect", "line-spacing", "shear", "rotate", "opacity", "center"});
+    {"label", "font", "size", "color", "effect", "line-spacing", "shear", "rotate", "opacity", "center", "tint",
+     "overlay", "overlay-center", "overlay-size", "overlay-color", "overlay-opacity"});
+
+constexpr std::string_view noneName = "none";
+constexpr std::string_view autoName = "auto";
+constexpr std::string_view emblemPrefix = "emblem:";
+constexpr std::string_view emojiPrefix = "emoji:";
+
+QString text(std::string_view bytes) {
+  return QString::fromUtf8(bytes.data(), static_cast<qsizetype>(bytes.size()));
+}
+
+Result<std::optional<QColor>> parseOptionalColor(std::string_view text, std::string_view noColor) {
+  if (text == noColor) return std::optional<QColor>();
+  return std::optional(TRY(parseColor(text)));
+}
+
+Result<OverlayDrawing> emblemDrawingNamed(std::string_view name) {
+  if (emblemNamed(text(name)) != nullptr) return OverlayDrawing(OverlayEmblem{text(name)});
+  std::vector<std::string> known;
+  for (const Emblem& emblem : emblems()) known.push_back(emblem.name.toStdString());
+  const std::string nearest = nearestWord(name, known);
+  return Error::invalidInput("there is no emblem '" + excerpt(name) + "'" +
+                             (nearest.empty() ? "" : ", did you mean '" + nearest + "'?"));
+}
 
 }  // namespace
 
@@ -64,7 +97,15 @@ Result<void> setLookValue(Look& look, std::string_view name, std::string_view te
   } else if (name == "color") {
     look.color = TRY(parseColor(text));
   } else if (name == "center") {
-    look.labelCenter = TRY(parsePoint(text, prefix));
+    look.labelCenter = TRY(parsePoint(text, name, prefix));
+  } else if (name == "tint") {
+    look.tint = TRY(parseOptionalColor(text, noneName));
+  } else if (name == "overlay") {
+    look.overlay.drawing = TRY(parseOverlay(text));
+  } else if (name == "overlay-center") {
+    look.overlay.center = TRY(parsePoint(text, name, prefix));
+  } else if (name == "overlay-color") {
+    look.overlay.color = TRY(parseOptionalColor(text, autoName));
   } else {
     const auto tag = effectTagNamed(text);
     if (!tag) return Error::invalidInput("there is no effect '" + excerpt(text) + "'");
@@ -111,12 +152,37 @@ std::string colorText(const QColor& color) {
   return (rgb.name(QColor::HexRgb) + alpha).toStdString();
 }
 
-Result<Point> parsePoint(std::string_view text, std::string_view prefix) {
+bool isOverlayFile(std::string_view text) {
+  return !text.empty() && text != noneName && !text.starts_with(emblemPrefix) && !text.starts_with(emojiPrefix);
+}
+
+Result<OverlayDrawing> parseOverlay(std::string_view text) {
+  if (text == noneName) return OverlayDrawing();
+  if (text.starts_with(emblemPrefix)) return emblemDrawingNamed(text.substr(emblemPrefix.size()));
+  if (!text.starts_with(emojiPrefix))
+    return Error::invalidInput("'" + excerpt(text) + "' is no overlay; use emblem:NAME, emoji:X or none");
+  const std::string_view emoji = text.substr(emojiPrefix.size());
+  const Error wrong = Error::invalidInput("emoji: takes one emoji or other character, not '" + excerpt(emoji) + "'");
+  if (!isUtf8(emoji)) return wrong;
+  const auto parsed = overlayEmoji(QString::fromUtf8(emoji.data(), static_cast<qsizetype>(emoji.size())));
+  if (!parsed) return wrong;
+  return OverlayDrawing(*parsed);
+}
+
+std::optional<std::string> overlayText(const OverlayDrawing& drawing) {
+  if (const auto* emblem = std::get_if<OverlayEmblem>(&drawing))
+    return std::string(emblemPrefix) + emblem->name.toStdString();
+  if (const auto* emoji = std::get_if<OverlayEmoji>(&drawing))
+    return std::string(emojiPrefix) + emoji->text.toStdString();
+  return std::nullopt;
+}
+
+Result<Point> parsePoint(std::string_view text, std::string_view name, std::string_view prefix) {
   const std::size_t comma = text.find(',');
   const auto x = parseNumber(text.substr(0, comma));
   const auto y = comma == std::string_view::npos ? std::nullopt : parseNumber(text.substr(comma + 1));
   if (!x || !y || std::abs(*x) > 1e6 || std::abs(*y) > 1e6)
-    return Error::invalidInput(std::string(prefix) + "center takes X,Y, numbers within a million, not '" +
+    return Error::invalidInput(std::string(prefix) + std::string(name) + " takes X,Y, numbers within a million, not '" +
                                excerpt(text) + "'");
   return Point{static_cast<float>(*x), static_cast<float>(*y)};
 }

@@ -3,6 +3,8 @@
 
 #include "composition/core/LabelGeometry.h"
 #include "composition/core/LabelRenderer.h"
+#include "composition/core/OverlayRenderer.h"
+#include "imaging/Tint.h"
 
 namespace quorvane {
 
@@ -14,6 +16,22 @@ void IconComposition::setCurrentIcon(std::optional<Image> icon) {
 void IconComposition::setBaseIcon(std::optional<Image> icon) {
   _baseIcon = std::move(icon);
   changed({.displayedImage = true});
+}
+
+void IconComposition::setTint(std::optional<QColor> tint) {
+  _tint = tint;
+  changed({.displayedImage = plainPicture().has_value()});
+}
+
+void IconComposition::setOverlay(std::optional<IconOverlay> overlay) {
+  _overlay = std::move(overlay);
+  changed();
+}
+
+std::optional<Image> IconComposition::picture() const {
+  const std::optional<Image>& plain = plainPicture();
+  if (!plain || !_tint) return plain;
+  return _tinted->get({*plain, _tint->rgba()}, [&] { return tinted(*plain, *_tint); });
 }
 
 std::optional<Image> IconComposition::displayedImage() const {
@@ -76,7 +94,7 @@ void IconComposition::setOpacity(float fraction) {
 }
 
 Point IconComposition::labelCenter() const {
-  return picture() ? scaledLabelCenter(_labelCenter, picture()->size().width) : _labelCenter;
+  return plainPicture() ? scaledLabelCenter(_labelCenter, plainPicture()->size().width) : _labelCenter;
 }
 
 void IconComposition::setCanvasLabelCenter(Point center) {
@@ -109,15 +127,21 @@ LabelLook IconComposition::look() const {
           .opacity = _opacity};
 }
 
+Image IconComposition::composed(const Image& picture) const {
+  const Image ground = _overlay ? OverlayRenderer(*_overlay).iconWithBase(picture) : picture;
+  return LabelRenderer(look())._iconWithBase(ground, _label);
+}
+
 std::optional<Image> IconComposition::iconImage() const {
-  if (!picture()) return std::nullopt;
-  return LabelRenderer(look())._iconWithBase(*picture(), _label);
+  const auto image = picture();
+  if (!image) return std::nullopt;
+  return composed(*image);
 }
 
 std::optional<Image> IconComposition::canvasIconImage() const {
-  const auto displayed = displayedImage();
-  if (!displayed) return std::nullopt;
-  return LabelRenderer(look())._iconWithBase(*displayed, _label);
+  const auto image = displayedImage();
+  if (!image) return std::nullopt;
+  return composed(*image);
 }
 
 void IconComposition::changed(const CompositionChange& change) const {

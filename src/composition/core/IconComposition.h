@@ -2,9 +2,12 @@
 #pragma once
 
 #include <functional>
+#include <memory>
 #include <optional>
 
+#include "composition/core/IconOverlay.h"
 #include "composition/core/LabelValues.h"
+#include "foundation/base/BoundedCache.h"
 #include "imaging/Image.h"
 
 namespace quorvane {
@@ -34,7 +37,16 @@ class IconComposition {
   void setBaseIcon(std::optional<Image> icon);
   [[nodiscard]] const std::optional<Image>& baseIcon() const { return _baseIcon; }
 
-  /// A copy, resized to 128 x 128, of the base icon, else of the current icon; nullopt with neither.
+  /// Recolours the picture, whichever it is (imaging/Tint.h); the icons above stay as they are.
+  void setTint(std::optional<QColor> tint);
+  [[nodiscard]] const std::optional<QColor>& tint() const { return _tint; }
+
+  /// What is laid on the picture, under the label.
+  void setOverlay(std::optional<IconOverlay> overlay);
+  [[nodiscard]] const std::optional<IconOverlay>& overlay() const { return _overlay; }
+
+  /// A copy, resized to 128 x 128, of the base icon, else of the current icon, tinted; nullopt with neither. Copies
+  /// that are given while neither picture nor tint changes are the same image.
   [[nodiscard]] std::optional<Image> displayedImage() const;
 
   /// The text; lines end at "\n". No text and empty text both draw nothing.
@@ -81,12 +93,26 @@ class IconComposition {
   [[nodiscard]] std::optional<Image> canvasIconImage() const;
 
  private:
+  // A picture and a tint; the tinted picture follows from them.
+  struct TintKey {
+    Image picture;
+    QRgb tint = 0;
+    bool operator==(const TintKey& other) const { return tint == other.tint && picture.isSameAs(other.picture); }
+  };
+  using TintCache = BoundedCache<TintKey, Image>;
+
   /// Base icon, else current icon.
-  [[nodiscard]] const std::optional<Image>& picture() const { return _baseIcon ? _baseIcon : _currentIcon; }
+  [[nodiscard]] const std::optional<Image>& plainPicture() const { return _baseIcon ? _baseIcon : _currentIcon; }
+  /// The same, tinted.
+  [[nodiscard]] std::optional<Image> picture() const;
+  /// What the picture is with overlay and label on it.
+  [[nodiscard]] Image composed(const Image& picture) const;
   void changed(const CompositionChange& change = {}) const;
 
   std::optional<Image> _currentIcon;
   std::optional<Image> _baseIcon;
+  std::optional<QColor> _tint;
+  std::optional<IconOverlay> _overlay;
   std::optional<QString> _label;
   std::optional<QColor> _color;
   std::optional<LabelFont> _font;
@@ -97,6 +123,8 @@ class IconComposition {
   float _rotation = 0;
   float _opacity = 1;
   Listener _listener;
+  // The last tinted pictures: colours come again while they are tried and in undo. Copies may share it.
+  std::shared_ptr<TintCache> _tinted = std::make_shared<TintCache>(6);
 };
 
 }  // namespace quorvane

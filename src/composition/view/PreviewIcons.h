@@ -7,6 +7,7 @@
 #include <functional>
 #include <optional>
 
+#include "composition/core/IconOverlay.h"
 #include "composition/core/LabelLegibility.h"
 #include "composition/core/LabelValues.h"
 #include "imaging/Image.h"
@@ -23,6 +24,7 @@ using IconForms = std::function<Image(const Image& composed)>;
 /// What previews are made of: values only.
 struct PreviewSubject {
   Image picture;
+  std::optional<IconOverlay> overlay;
   std::optional<QString> label;
   LabelLook look;
   double density = 1;  ///< pixels a logical pixel

@@ -73,7 +73,7 @@ void PreviewStrip::setComposition(const IconComposition& composition) {
     update();
     return;
   }
-  PreviewSubject subject{*picture, composition.label(), composition.look(), devicePixelRatioF()};
+  PreviewSubject subject{*picture, composition.overlay(), composition.label(), composition.look(), devicePixelRatioF()};
   if (_wanted == subject) return;
   _wanted = subject;
   if (!_running) start(std::move(subject));

@@ -106,6 +106,12 @@ inline constexpr std::size_t labelLines = 1000;
 /// Longest name of a font, which is looked for piece by piece; real ones stay below 100 bytes.
 inline constexpr std::size_t fontNameBytes = 1024;
 
+/// Width and height of a picture that is laid on icons, and its bytes as PNG: it has room in a look file beside the
+/// rest. Longest single character in UTF-16 units; families and flags take up to about 16.
+inline constexpr int overlayPixels = 512;
+inline constexpr std::size_t overlayBytes = std::size_t{384} << 10;
+inline constexpr std::size_t overlayEmojiUnits = 64;
+
 /// Longest path of a list of folders: the system takes 4095 bytes, so a longer one is no path but a mistaken file.
 inline constexpr std::size_t listedPathBytes = std::size_t{64} << 10;
 /// Longest row of a table of folders, and its columns. A label is the longest field, six times as long as escaped JSON.
