@@ -52,12 +52,16 @@ fs::path home() {
 
 }  // namespace
 
+Result<fs::path> homeDirectory() {
+  fs::path own = home();
+  if (own.empty()) return Error(ErrorKind::NotFound, "the user has no home folder");
+  return own;
+}
+
 Result<fs::path> baseDirectory(BaseDirectory kind) {
   const Place place = placeOf(kind);
   if (fs::path told = pathIn(place.variable); !told.empty()) return told;
-  const fs::path own = home();
-  if (own.empty()) return Error(ErrorKind::NotFound, "the user has no home folder");
-  return own / place.underHome;
+  return TRY(homeDirectory()) / place.underHome;
 }
 
 Result<fs::path> ownDirectory(BaseDirectory kind) {

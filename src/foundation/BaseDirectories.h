@@ -15,6 +15,8 @@ enum class BaseDirectory {
   Cache,   ///< $XDG_CACHE_HOME, else ~/.cache
 };
 
+/// The user's home, absolute. Fails when there is none.
+Result<std::filesystem::path> homeDirectory();
 /// The user's folder of that kind, absolute; it need not exist. A relative or empty value of the variable is ignored.
 /// Fails when the user has no home.
 Result<std::filesystem::path> baseDirectory(BaseDirectory kind);

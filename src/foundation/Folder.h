@@ -71,6 +71,8 @@ class Folder {
   [[nodiscard]] Result<std::vector<std::string>> names() const;
   /// The bytes of a plain file; nullopt when there is none. Refuses links, other kinds, and more than `limit` bytes.
   [[nodiscard]] Result<std::optional<Bytes>> readFile(const std::string& name, std::size_t limit) const;
+  /// A plain file opened for reading; nullopt when there is none. Refuses links and other kinds.
+  [[nodiscard]] Result<std::optional<FileDescriptor>> openFile(const std::string& name) const;
 
   /// Writes a whole file: under a hidden temporary name, flushed, read back and compared, renamed over, the folder
   /// flushed, and read once more. A replaced file's owner, group, mode and extended attributes go over to the new one
@@ -88,9 +90,14 @@ class Folder {
   /// Removes a folder directly inside with everything in it, never through links or into another file system; success
   /// when there is none. It vanishes at once: what an interruption leaves stands under a temporary name.
   Result<void> removeChild(const std::string& name);
+  /// Removes a folder directly inside if it is empty; success when there is none.
+  Result<void> removeEmptyChild(const std::string& name);
   /// Renames within this folder or into another one; replaces a plain file, or an empty folder by a folder. Of two
   /// names of one file the new one stays.
   Result<void> rename(const std::string& from, const Folder& to, const std::string& name);
+  /// The same to a name that nothing has there: never replaces anything (then the reason is EEXIST). The item's own
+  /// name in other letters, where the file system tells none apart, counts as free.
+  Result<void> renameNew(const std::string& from, const Folder& to, const std::string& name);
   /// Gives a plain file a second name in another folder of the same file system, or, where that cannot be, copies
   /// bytes, owner, mode, times and extended attributes. The copy stays what it was when the original is later replaced
   /// (but shares attributes and times that are changed in place). Fails when `as` exists. Needs Access::Write only for

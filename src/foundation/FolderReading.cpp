@@ -58,6 +58,10 @@ Result<std::optional<Bytes>> Folder::readFile(const std::string& name, std::size
   return std::optional(std::move(*bytes));
 }
 
+Result<std::optional<FileDescriptor>> Folder::openFile(const std::string& name) const {
+  return _openPlain(name, "cannot read");
+}
+
 Result<std::optional<FileDescriptor>> Folder::_openPlain(const std::string& name, const std::string& what) const {
   // Looked at before it is opened: opening a fifo or device can block or act.
   const auto before = TRY(statusOf(name));

@@ -119,4 +119,33 @@ Result<void> Folder::rename(const std::string& from, const Folder& to, const std
   return flush();
 }
 
+Result<void> Folder::removeEmptyChild(const std::string& name) {
+  const std::string what = "cannot remove";
+  TRY_VOID(_mayChange(what, name));
+  if (::unlinkat(_handle.get(), name.c_str(), AT_REMOVEDIR) != 0 && errno != ENOENT) return _failure(errno, what, name);
+  return flush();
+}
+
+Result<void> Folder::renameNew(const std::string& from, const Folder& to, const std::string& name) {
+  const std::string what = "cannot rename";
+  TRY_VOID(_mayChange(what, from));
+  TRY_VOID(to._mayChange(what, name));
+  const auto source = TRY(statusOf(from));
+  if (!source) return _failure(ENOENT, what, from);
+  if (!S_ISREG(source->st_mode) && !S_ISDIR(source->st_mode))
+    return Error::refused(what + ": " + calls::kindWords(source->st_mode) + " stands there").at(pathOf(from));
+  const auto target = TRY(to.statusOf(name));
+  const bool isOtherSpelling =
+      target && from != name && S_ISDIR(target->st_mode) && calls::isSameItem(*target, *source);
+  if (target && !isOtherSpelling) return to._failure(EEXIST, what, name);
+  int failed =
+      ::renameat2(_handle.get(), from.c_str(), to._handle.get(), name.c_str(), isOtherSpelling ? 0 : RENAME_NOREPLACE);
+  // A file system without exclusive renaming: the look before must do.
+  if (failed != 0 && (errno == EINVAL || errno == ENOSYS))
+    failed = ::renameat(_handle.get(), from.c_str(), to._handle.get(), name.c_str());
+  if (failed != 0) return to._failure(errno, what, name);
+  TRY_VOID(calls::flush(to._handle.get(), what));
+  return flush();
+}
+
 }  // namespace quorvane

@@ -9,16 +9,13 @@
 #include "foundation/base/ByteReader.h"
 #include "iconfamily/ElementStore.h"
 #include "iconfamily/ElementTypes.h"
+#include "iconfamily/FamilyImage.h"
 #include "iconfamily/IconFamilyInternals.h"
 #include "iconfamily/format/IcnsContainer.h"
 
 namespace quorvane {
 
 namespace {
-
-// The canvas's own unit: whatever the pixels of its representations, an icon is this many points wide and high, so that
-// what the canvas shows is what gets applied.
-constexpr Size iconPoints{128, 128};
 
 std::optional<Bytes> elementData(const WrittenElement& element, const BitmapImageRep& bitmap) {
   switch (element.data) {
@@ -118,36 +115,11 @@ Result<void> IconFamily::check() const {
 std::optional<Image> IconFamily::imageWithAllReps() const {
   const auto elements = icnsElements(hIconFamily);
   if (!elements) return std::nullopt;
-  const auto holds = [&](FourCharCode type) {
-    return std::ranges::find(*elements, type, &IcnsElement::type) != elements->end();
-  };
-
-  // Types of one pixel size stand together in the table, best form first: a damaged element gives way to the next.
-  const auto bytes = std::make_shared<const Bytes>(hIconFamily);
-  Image image(iconPoints);
-  image.setScalesWhenResized(true);
-  const auto types = elementTypes();
-  for (auto first = types.begin(); first != types.end();) {
-    const auto isOtherSize = [&](const ElementType& type) {
-      return type.pixelsWide != first->pixelsWide || type.pixelsHigh != first->pixelsHigh;
-    };
-    const auto last = std::find_if(first, types.end(), isOtherSize);
-    std::vector<FourCharCode> candidates;
-    for (auto type = first; type != last; ++type)
-      if (type->isPicture() && holds(type->type)) candidates.push_back(type->type);
-    if (!candidates.empty()) {
-      image.addRepresentation(ImageRep::pending(first->pixelsWide, first->pixelsHigh, iconPoints,
-                                                [bytes, candidates]() -> std::optional<BitmapImageRep> {
-                                                  for (const FourCharCode type : candidates)
-                                                    if (auto decoded = decodeIconFamilyElement(*bytes, type))
-                                                      return *std::move(decoded);
-                                                  return std::nullopt;
-                                                }));
-    }
-    first = last;
-  }
-  if (image.representations().empty()) return std::nullopt;
-  return image;
+  std::vector<FourCharCode> held;
+  for (const IcnsElement& element : *elements) held.push_back(element.type);
+  return imageOfElements(held, [bytes = std::make_shared<const Bytes>(hIconFamily)](FourCharCode type) {
+    return decodeIconFamilyElement(*bytes, type).toOptional();
+  });
 }
 
 }  // namespace quorvane

@@ -4,9 +4,7 @@
 #include <filesystem>
 #include <memory>
 #include <optional>
-#include <vector>
-
-#include "foundation/base/Result.h"
+#include <utility>
 
 namespace quorvane {
 
@@ -22,8 +20,9 @@ class Trash {
   virtual ~Trash() = default;
   /// Moves a file, link or folder there. nullopt when there is no trash for it; then it stands where it stood.
   virtual std::optional<TrashedItem> put(const std::filesystem::path& path) = 0;
-  /// Moves it back to where it stood, never over anything. False when it cannot be; it then lies where it lies.
-  virtual bool restore(const TrashedItem& item) = 0;
+  /// Moves it back to where it stood or, where something stands there now, beside it under a numbered name. The path
+  /// that it has then; nullopt when it cannot be moved, and lies where it lay.
+  virtual std::optional<std::filesystem::path> restore(const TrashedItem& item) = 0;
 };
 
 /// The desktop's own trash.
@@ -36,7 +35,7 @@ class FolderTrash : public Trash {
   /// The folder must exist, on the file system of what is put into it.
   explicit FolderTrash(std::filesystem::path folder) : _folder(std::move(folder)) {}
   std::optional<TrashedItem> put(const std::filesystem::path& path) override;
-  bool restore(const TrashedItem& item) override;
+  std::optional<std::filesystem::path> restore(const TrashedItem& item) override;
 
  private:
   std::filesystem::path _folder;

@@ -22,6 +22,22 @@ inline constexpr int elementPixels = 4096;
 inline constexpr std::size_t forkResources = 8192;
 inline constexpr std::size_t companionEntries = 512;
 
+/// Longest property list, how many strings are taken out of it and how long they may be together (a binary one can
+/// refer to one string many times), and how deep what is passed over may nest. Lists of ten thousand names reach 1 MiB.
+inline constexpr std::size_t propertyListBytes = std::size_t{4} << 20;
+inline constexpr std::size_t propertyListItems = 100'000;
+inline constexpr std::size_t propertyListTextBytes = std::size_t{16} << 20;
+inline constexpr int propertyListDepth = 1000;
+
+/// Icons of a set that is made in one go (of a folder, of a zip file), and their bytes, which are held in memory.
+inline constexpr std::size_t librarySetIcons = 10'000;
+inline constexpr std::size_t libraryNewSetBytes = std::size_t{512} << 20;
+/// Longest zip file, its entries (with what is left out), and how many times longer it may unpack to beyond the first
+/// MiBs: pictures hardly get shorter.
+inline constexpr std::size_t libraryArchiveBytes = std::size_t{512} << 20;
+inline constexpr std::uint64_t libraryArchiveEntries = 20'000;
+inline constexpr std::uint64_t libraryArchiveRatio = 100;
+
 /// Longest list of recently used things, which all programs of a desktop share; long ones have some hundred kilobytes.
 inline constexpr std::size_t recentListBytes = std::size_t{8} << 20;
 

@@ -92,6 +92,29 @@ Result<std::vector<IcnsElement>> icnsElements(ByteView family) {
   return elementsOfRun(rest.first(std::min(claimed, rest.size())));
 }
 
+Result<std::vector<FourCharCode>> icnsElementTypes(std::uint64_t fileLength, const IcnsHeaderSource& source) {
+  std::array<std::uint8_t, headerLength> header{};
+  const auto readHeader = [&](std::uint64_t at) -> Result<std::optional<std::pair<FourCharCode, std::uint32_t>>> {
+    if (!TRY(source(at, header.data(), header.size()))) return std::optional<std::pair<FourCharCode, std::uint32_t>>();
+    ByteReader reader(header);
+    const auto type = reader.readCode();
+    const auto length = reader.readU32();
+    return std::optional(std::pair(*type, *length));
+  };
+  const auto family = TRY(readHeader(0));
+  if (!family || family->first != familyMagic) return Error::invalidInput("not an icon family");
+  const std::uint64_t end = std::min<std::uint64_t>(family->second, fileLength);
+  std::vector<FourCharCode> types;
+  for (std::uint64_t at = headerLength; at + headerLength <= end;) {
+    const auto element = TRY(readHeader(at));
+    if (!element || element->second < headerLength || element->second > end - at) break;
+    if (types.size() == limits::familyElements) return Error::tooLarge("icon family with too many elements");
+    types.push_back(element->first);
+    at += element->second;
+  }
+  return types;
+}
+
 Result<std::vector<IcnsElement>> nestedIcnsElements(ByteView data) {
   return ByteReader(data).readCode() == familyMagic ? icnsElements(data) : elementsOfRun(data);
 }

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <cstdint>
+#include <functional>
 #include <optional>
 #include <string>
 #include <vector>
@@ -21,6 +23,11 @@ struct IcnsElement {
 /// more elements than the limit. Reading stops at min(total, bytes given); an element whose length is below 8 or runs
 /// past the end ends the reading, what came before is kept.
 Result<std::vector<IcnsElement>> icnsElements(ByteView family);
+
+/// Reads `length` bytes (8) at a place of a file into `to`; false when there are not so many.
+using IcnsHeaderSource = std::function<Result<bool>(std::uint64_t at, std::uint8_t* to, std::size_t length)>;
+/// The types of the elements that icnsElements() would give of a file of that length, by reading no more than headers.
+Result<std::vector<FourCharCode>> icnsElementTypes(std::uint64_t fileLength, const IcnsHeaderSource& source);
 
 /// The elements of a family that stands inside an element: a run of elements, with or without an 'icns' header.
 Result<std::vector<IcnsElement>> nestedIcnsElements(ByteView data);
