@@ -122,8 +122,7 @@ TEST(BaseIconsTest, FoldersHaveCalmRoomForALabel) {
     ASSERT_FALSE(picture.isNull()) << icon.where();
     int step = 0;
     int opaque = 255;
-    const int top = icon.set.startsWith(QLatin1String("Open")) ? 54 : 42;
-    for (int y = top; y < 104; ++y)
+    for (int y = 44; y < 104; ++y)
       for (int x = 16; x < 112; ++x) {
         const QRgb here = picture.pixel(x, y);
         opaque = std::min(opaque, qAlpha(here));

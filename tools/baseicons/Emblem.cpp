@@ -57,22 +57,18 @@ Result<void> drawEmblem(QPainter& painter, Sources& sources, const IconRow& icon
   placed.fill(Qt::transparent);
   QPainter(&placed).drawImage(room.box.topLeft(), drawn);
   const Coverage shape = Coverage::ofAlpha(placed);
-  const auto color = [&](double points) {
-    return *shade(icon.tone, (points < 0 ? QString() : QStringLiteral("+")) + QString::number(points));
-  };
+  const auto darker = [&](double points) { return *shade(icon.tone, QStringLiteral("-%1").arg(points)); };
 
   if (pixels >= 32) {
     // The light comes from above on the left, so the lower right rim of the cut catches it.
     const double rim = std::max(pixels / 170.0, 0.6);
     painter.drawImage(0, 0, without(shape.moved(rim * 0.6, rim), shape).inColor(Qt::white, 0.35));
   }
-  // A dark folder has no room for darker.
-  const bool isDark = icon.tone.lightness < 50;
-  painter.drawImage(0, 0, shape.inColor(color(isDark ? room.depth : -room.depth)));
+  painter.drawImage(0, 0, shape.inColor(darker(room.depth)));
   if (pixels >= 128) {
     const double depth = pixels / 110.0;
     const Coverage floor = shape.moved(depth * 0.6, depth).blurred(depth * 0.7);
-    painter.drawImage(0, 0, without(shape, floor).inColor(color(-32), 0.45));
+    painter.drawImage(0, 0, without(shape, floor).inColor(darker(32), 0.45));
   }
   return {};
 }
