@@ -115,6 +115,7 @@ void AppController::applicationDidFinishLaunching() {
 
 void AppController::applicationWillTerminate() {
   _baseIconController->saveIconSetSelection();
+  if (_libraryLayoutTimer.isActive()) _saveLibraryLayout();
   _services.work.finish(patienceAtEnd);
   static_cast<void>(_services.defaults.synchronize());
 }

@@ -218,6 +218,7 @@ class AppController : public QObject, public HVWindowDelegate, public LabelTextF
   /// Whether undoing now is undoing what was done to the library: it was done last.
   [[nodiscard]] bool _undoesLibrary() const;
   void _connectLibrary();
+  void _saveLibraryLayout();
   void _chooseFromLibrary(const std::optional<Image>& image, const Path& path);
   void _endSliderStep();
 
@@ -254,6 +255,7 @@ class AppController : public QObject, public HVWindowDelegate, public LabelTextF
   bool _isLibraryNewer = false;  ///< the last change was one of the library, not of the label
   QString _busyWords;
   QTimer _busyTimer;
+  QTimer _libraryLayoutTimer;
   QPointer<QWidget> _focusBeforeWork;
   std::optional<Path> _basePicture;    ///< the file that the base icon was read from, when it was one
   std::vector<QAction*> _lookActions;  ///< in the menu

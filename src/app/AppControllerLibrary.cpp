@@ -8,6 +8,7 @@
 #include "app/core/SettingsTable.h"
 #include "foundation/UserDefaults.h"
 #include "library/view/BaseIconController.h"
+#include "library/view/LibraryPage.h"
 #include "library/view/LibraryView.h"
 #include "ui/ElidedLabel.h"
 
@@ -28,13 +29,23 @@ void AppController::_connectLibrary() {
   const auto width = settings::value(defaults, settings::librarySetsWidth);
   view.setSetsWidth(width > 0 ? static_cast<int>(std::min<qint64>(width, 1024)) : 110);
   view.setLibrary(settings::value(defaults, settings::libraryShowsCustom) ? LibraryView::Custom : LibraryView::Builtin);
-  connect(&view, &LibraryView::libraryChanged, this, [&defaults](int library) {
-    settings::setValue(defaults, settings::libraryShowsCustom, library == LibraryView::Custom);
-  });
-  connect(&view, &LibraryView::iconSideChanged, this,
-          [&defaults](int side) { settings::setValue(defaults, settings::libraryIconSide, qint64{side}); });
-  connect(&view, &LibraryView::setsWidthChanged, this,
-          [&defaults](int chosen) { settings::setValue(defaults, settings::librarySetsWidth, qint64{chosen}); });
+  // Kept once it has come to rest: a slider says so at every step.
+  _libraryLayoutTimer.setSingleShot(true);
+  _libraryLayoutTimer.setInterval(400);
+  connect(&_libraryLayoutTimer, &QTimer::timeout, this, &AppController::_saveLibraryLayout);
+  const auto changed = [this] { _libraryLayoutTimer.start(); };
+  connect(&view, &LibraryView::libraryChanged, this, changed);
+  connect(&view, &LibraryView::iconSideChanged, this, changed);
+  connect(&view, &LibraryView::setsWidthChanged, this, changed);
+}
+
+void AppController::_saveLibraryLayout() {
+  _libraryLayoutTimer.stop();
+  const LibraryView& view = *_baseColumn->library();
+  settings::setValue(_services.defaults, settings::libraryShowsCustom, view.library() == LibraryView::Custom);
+  settings::setValue(_services.defaults, settings::libraryIconSide, qint64{view.iconSide()});
+  settings::setValue(_services.defaults, settings::librarySetsWidth,
+                     qint64{view.page(view.library())->setsWidth()});
 }
 
 bool AppController::_undoesLibrary() const {

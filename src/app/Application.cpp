@@ -104,6 +104,10 @@ int runApplication(int argc, char** argv) {
   FolderWork work(folders.services);
   SharedPanels panels;
   DefaultsFrameStore frames(defaults);
+  const auto trash = makeDesktopTrash();
+  const LibraryServices libraryServices{.icons = folders.services, .trash = trash.get()};
+  // Made below, as it asks by sheets on the window; but it outlives the lists in the window.
+  std::optional<BaseIconController> library;
   QVWindow window(defaults);
   window.setFrameStore(&frames);
   SheetPrompts prompts(window);
@@ -123,14 +127,13 @@ int runApplication(int argc, char** argv) {
   Reveal reveal(*revealWays, opener);
   HVWebsite website(QStringLiteral(QUORVANE_HOMEPAGE), opener);
 
-  const auto trash = makeDesktopTrash();
-  const LibraryServices libraryServices{.icons = folders.services, .trash = trash.get()};
   const auto selectionKey = [](bool isBuiltin) {
     return isBuiltin ? settings::builtinIconSetSelection : settings::customIconSetSelection;
   };
-  BaseIconController library(
+  library.emplace(
       LibraryPlaces::usual(), libraryServices, sheetLibraryPrompts(window, libraryServices),
-      {.read = [&](bool isBuiltin) { return settings::value(defaults, selectionKey(isBuiltin)); },
+      BaseIconController::SelectionStore{
+          .read = [&](bool isBuiltin) { return settings::value(defaults, selectionKey(isBuiltin)); },
        .write = [&](bool isBuiltin,
                     const QList<int>& rows) { settings::setValue(defaults, selectionKey(isBuiltin), rows); }});
 
@@ -149,7 +152,7 @@ int runApplication(int argc, char** argv) {
                            .visitPage = [&](const QString& page) { website.visitPage(page); },
                            .writeToMaker = [&] { opener.open(QUrl(QStringLiteral("mailto:" QUORVANE_MAIL))); },
                            .feedFolder = QStringLiteral(QUORVANE_PRODUCT_FOLDER)});
-  controller->setOutlets(layOutMainWindow(window, panels, library));
+  controller->setOutlets(layOutMainWindow(window, panels, *library));
   window.setOutlets(controller->outlets()._folderView, controller.get());
   // Not quit(): that would ask every window once more.
   QObject::connect(

@@ -142,6 +142,10 @@ QWidget* BaseColumn::_makeCard() {
   return _card;
 }
 
+QWidget* BaseColumn::pictureCard() const {
+  return _card;
+}
+
 QList<QWidget*> BaseColumn::tabOrder() const {
   return QList<QWidget*>{_chooseButton, _clearButton} + _library->tabOrder();
 }

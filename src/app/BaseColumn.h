@@ -25,6 +25,8 @@ class BaseColumn : public QWidget {
   explicit BaseColumn(BaseIconController& library, QWidget* parent = nullptr);
 
   [[nodiscard]] LibraryView* library() const { return _library; }
+  /// Where pictures can be dropped.
+  [[nodiscard]] QWidget* pictureCard() const;
   /// A row over the library for what is done to the picture; empty.
   [[nodiscard]] QWidget* tintSlot() const { return _tintSlot; }
   /// The controls in the order in which one reads.

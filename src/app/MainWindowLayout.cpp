@@ -96,7 +96,7 @@ Outlets layOutMainWindow(QVWindow& window, SharedPanels& panels, BaseIconControl
   window.setCentralWidget(content);
   setTabOrder(outlets);
   window.setInitialFirstResponder(outlets._folderView);
-  window.resize(1250, 720);
+  window.resize(1180, 720);
   return outlets;
 }
 

@@ -114,7 +114,9 @@ void HVTableView::startDrag(Qt::DropActions supportedActions) {
   drag->setMimeData(content);
   const bool takesPreferred = defaultDropAction() != Qt::IgnoreAction && (supportedActions & defaultDropAction());
   const Qt::DropAction preferred = takesPreferred ? defaultDropAction() : Qt::CopyAction;
-  const Qt::DropAction operation = drag->exec(supportedActions, preferred);
+  Qt::DropAction operation = drag->exec(supportedActions, preferred);
+  // A move makes the rows be removed: only one that a part of this program has taken counts as such.
+  if (operation == Qt::MoveAction && !drag->target()) operation = Qt::IgnoreAction;
   if (!self) return;
   setState(QAbstractItemView::NoState);
   viewport()->update();

@@ -155,7 +155,7 @@ TEST(MainWindowTest, FoldersAreTakenAnywhereAndPicturesInTheirColumn) {
   EXPECT_FALSE(test.controller->path());
   EXPECT_TRUE(drop(test.window, test.folder));
   EXPECT_EQ(test.controller->path(), test.folder);
-  EXPECT_TRUE(drop(*test.ui()._baseColumn, picture));
+  EXPECT_TRUE(drop(*test.ui()._baseColumn->pictureCard(), picture));
   EXPECT_TRUE(test.ui()._folderView->baseIcon());
   EXPECT_TRUE(test.ui()._applyBtn->isEnabled());
 

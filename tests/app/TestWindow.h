@@ -137,11 +137,11 @@ struct TestWindow {
   std::vector<std::string> asked;  ///< of them
   SharedPanels panels;
   FolderWork work;
-  QVWindow window;
   FolderTrash trash{tree.path()};
   LibraryServices libraryServices{.icons = services, .trash = &trash};
   std::vector<QList<int>> savedSelections{{}, {}};
   BaseIconController library;
+  QVWindow window;
   std::shared_ptr<AppController> controller;
 };
 

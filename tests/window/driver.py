@@ -35,7 +35,8 @@ RULES = """<openbox_config xmlns="http://openbox.org/3.4/rc"><focus><focusNew>ye
 # Every label that always stands in the window.
 QUIET = {"Notice", "Base Picture", "The folder’s own icon", "Original Icon", "Revert puts this icon back.", "Label",
          "Text", "Font", "Colour", "Size", "Line Spacing", "Effect", "Transform", "Shear", "Rotation", "Opacity",
-         "The label is drawn on it. To draw on something else, choose a picture or drop one here."}
+         "No icons in this set", "Drop pictures, icon files or folders here.", "No built-in icons", "Nothing found",
+         "They are not installed. Sets of your own can be made under My Icons.", "No icon and no set is called “”."}
 
 
 def missing():

@@ -33,7 +33,14 @@ BaseIconController::BaseIconController(LibraryPlaces places, const LibraryServic
   connect(&_customIconSetArrayController, &IconSetArrayController::setsChanged, this, [this](const Path& made) {
     _readSets(made);
     for (const auto& set : _customIconSetArrayController.arrangedObjects()) {
-      if (set->path() == made) _undo.noteAddedSet(set);
+      if (set->path() != made) continue;
+      // Taken back in the reverse order: only an empty set can be removed.
+      std::vector<std::string> names;
+      for (const IconRecord& icon : set->icons()) names.push_back(icon.name);
+      _undo.begin(LibraryAction::AddSet);
+      _undo.noteAddedSet(set);
+      _undo.noteAdded(set, names);
+      _undo.end();
     }
   });
 }

@@ -105,7 +105,7 @@ void BaseIconController::tableViewDragEndedAt(const HVTableView& table, const QP
   if (&table != _customTableView) return;
   if (operation == Qt::MoveAction)
     _customIconArrayController.removeObjectsAtArrangedObjectIndexes(IndexSet::indexSetWithArray(_rowsToRemove));
-  _undo.end();
+  _customIconSetArrayController.endMove();
   _adder.release();
 }
 

@@ -35,6 +35,8 @@ void EmptyState::setTexts(const QString& heading, const QString& explanation, co
   _explanation->setText(explanation);
   _button->setText(button);
   _button->setVisible(!button.isEmpty());
+  // One without words is hidden; assistive tools may meet it all the same.
+  _button->setAccessibleName(button.isEmpty() ? heading : button);
 }
 
 QString EmptyState::heading() const {

@@ -5,6 +5,7 @@
 #include <QMimeData>
 #include <QPointer>
 #include <QTimer>
+#include <utility>
 
 #include "foundation/FileManagerExtras.h"
 #include "library/core/AddingIcons.h"
@@ -160,6 +161,7 @@ bool IconSetArrayController::tableViewAcceptDrop(LibraryTableView& /*table*/, co
   std::vector<std::string> names;
   // The removal at the end of the drag belongs to the same step.
   _undo->begin(LibraryAction::MoveIcons);
+  _isMoving = true;
   for (const IconRecord& record : _iconArrayController->objectsAtIndexes(*rows)) {
     const auto added = target->addIcon(record.path);
     if (!added) {
@@ -173,6 +175,10 @@ bool IconSetArrayController::tableViewAcceptDrop(LibraryTableView& /*table*/, co
   if (const auto written = target->setIcons(std::move(icons)); !written) Q_EMIT failed(reasonOf(written.error()));
   _undo->noteAdded(target, names);
   return true;
+}
+
+void IconSetArrayController::endMove() {
+  if (std::exchange(_isMoving, false)) _undo->end();
 }
 
 QString IconSetArrayController::tableViewRefusal(const LibraryTableView& /*table*/, const QMimeData& dragged) const {

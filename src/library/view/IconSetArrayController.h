@@ -55,6 +55,9 @@ class IconSetArrayController : public ArrayController<std::shared_ptr<IconSet>>,
   bool tableViewAcceptDrop(LibraryTableView& table, const QMimeData& dragged, const TableDrop& drop) override;
   [[nodiscard]] QString tableViewRefusal(const LibraryTableView& table, const QMimeData& dragged) const override;
 
+  /// The drag that moved icons here, if one did, is over, and so is the step of the history.
+  void endMove();
+
   /// What the list calls a set: as visible text.
   [[nodiscard]] static QString shownName(const IconSet& set);
 
@@ -71,6 +74,7 @@ class IconSetArrayController : public ArrayController<std::shared_ptr<IconSet>>,
   IconAdder* _adder = nullptr;
   IconArrayController* _iconArrayController = nullptr;
   LibraryTableView* _tableView = nullptr;
+  bool _isMoving = false;
 };
 
 }  // namespace quorvane

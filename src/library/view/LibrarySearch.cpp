@@ -78,6 +78,7 @@ LibrarySearch::LibrarySearch(BaseIconController& controller, Thumbnails& thumbna
     Q_EMIT shown(find);
   };
   connect(this, &QAbstractItemView::activated, this, show);
+  search({});
 }
 
 void LibrarySearch::setIconSide(int side) {

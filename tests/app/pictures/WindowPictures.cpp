@@ -5,6 +5,8 @@
 #include <QDir>
 #include <QDragEnterEvent>
 #include <QElapsedTimer>
+#include <QFileDialog>
+#include <QLineEdit>
 #include <QMimeData>
 #include <QTimer>
 #include <QTranslator>
@@ -14,6 +16,8 @@
 #include "app/AboutController.h"
 #include "app/SheetPrompts.h"
 #include "composition/view/PreviewStrip.h"
+#include "library/view/LibraryPanels.h"
+#include "library/view/LibraryTableView.h"
 #include "ui/ApplicationIcon.h"
 #include "ui/HVColorWell.h"
 #include "ui/LabelTextField.h"
@@ -106,6 +110,78 @@ void takeAll(Pictures& pictures) {
   test.panels.colorPanel().hidePanel();
   test.panels.fontPanel().showPanel();
   pictures.take(test.panels.fontPanel(), QStringLiteral("12-font-panel"));
+}
+
+/// A set with the program's own pictures of kinds of files.
+void makeSet(const std::filesystem::path& library, const char* name, std::initializer_list<const char*> icons) {
+  std::filesystem::create_directories(library / name);
+  for (const char* icon : icons) {
+    const std::filesystem::path drawing = std::filesystem::path(QUORVANE_PICTURES) / (std::string(icon) + ".svg");
+    const auto image = Image::imageWithContentsOfFile(drawing);
+    if (image) static_cast<void>(Image(*image).writeToPNGFile(library / name / (std::string(icon) + ".png")).ok());
+  }
+}
+
+void takeLibrary(Pictures& pictures) {
+  TestWindow test;
+  qputenv("HOME", QByteArray::fromStdString(test.folder.parent_path().string()));
+  const std::filesystem::path builtin = std::filesystem::path(QUORVANE_BUILTIN);
+  if (std::filesystem::exists(builtin))
+    std::filesystem::copy(builtin, test.tree / "BaseIcons", std::filesystem::copy_options::recursive);
+  makeSet(test.tree / "Icons", "Office", {"folder", "folder-open", "document", "application", "harddisk", "trash"});
+  makeSet(test.tree / "Icons", "Photographs of the garden", {"folder", "document"});
+  makeSet(test.tree / "Icons", "Later", {});
+  test.launch();
+  test.window.resize(1250, 720);
+  edit(test);
+  LibraryView& view = *test.ui()._baseColumn->library();
+  view.setLibrary(LibraryView::Builtin);
+  view.builtinTableView()->selectRow(1);
+  view.builtinTableView()->setFocus();
+  pictures.take(test.window, QStringLiteral("13-library-builtin"));
+  view.setLibrary(LibraryView::Custom);
+  auto& sets = test.library.customIconSetArrayController();
+  const auto showSet = [&](const char* name) {
+    for (const auto& set : sets.arrangedObjects())
+      if (set->name() == name) test.library.select(set);
+  };
+  showSet("Office");
+  view.customTableView()->selectRow(1);
+  pictures.take(test.window, QStringLiteral("14-library-custom"));
+  view.setIconSide(32);
+  pictures.take(test.window, QStringLiteral("15-library-small"));
+  view.setIconSide(128);
+  view.setSetsWidth(90);
+  pictures.take(test.window, QStringLiteral("15-library-large"));
+  view.setSetsWidth(110);
+  view.setIconSide(64);
+  const auto dragged = std::make_unique<QMimeData>();
+  dragged->setUrls({QUrl::fromLocalFile(QStringLiteral("/tmp/a.png"))});
+  QWidget* viewport = view.customTableView()->viewport();
+  QDragEnterEvent enter(QPoint(40, 90), Qt::CopyAction, dragged.get(), Qt::LeftButton, {});
+  QApplication::sendEvent(viewport, &enter);
+  Q_EMIT test.library.adder().progressed(QStringLiteral("Adding 20 icons…"), 7, 20);
+  pictures.take(test.window, QStringLiteral("16-library-drop-and-progress"));
+  Q_EMIT test.library.adder().finished();
+  QDragLeaveEvent leave;
+  QApplication::sendEvent(viewport, &leave);
+  showSet("Later");
+  pictures.take(test.window, QStringLiteral("17-library-empty-set"));
+  view.perform(LibraryCommand::RenameSet);
+  pictures.take(test.window, QStringLiteral("17-library-rename"));
+  view.searchField()->setFocus();
+  view.searchField()->setText(QStringLiteral("fol"));
+  pictures.take(test.window, QStringLiteral("18-library-search"));
+  view.searchField()->setText(QStringLiteral("zebra"));
+  pictures.take(test.window, QStringLiteral("18-library-search-empty"));
+  view.searchField()->clear();
+  QTimer::singleShot(2500, [&] {
+    if (auto* panel = test.window.findChild<QFileDialog*>())
+      panel->selectFile(QString::fromStdString((test.tree / "Icons/Office/folder.png").string()));
+    pictures.take(test.window, QStringLiteral("19-library-add"));
+    test.window.cancelSheets();
+  });
+  static_cast<void>(sheetLibraryPrompts(test.window, test.libraryServices).chooseIcon());
 }
 
 /// The windows beside the main one, and the sheets on them.
@@ -215,6 +291,7 @@ int main(int argc, char** argv) {
         prefix + (scheme == Theme::Scheme::Dark ? QStringLiteral("dark-") : QStringLiteral("light-")));
     if (!qEnvironmentVariableIsSet("QUORVANE_SIDE_ONLY")) {
       test::takeAll(pictures);
+      test::takeLibrary(pictures);
       test::takeSheets(pictures);
     }
     test::takeSideWindows(pictures);
