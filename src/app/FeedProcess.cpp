@@ -31,6 +31,8 @@ FeedProcess::~FeedProcess() {
   if (!_process) return;
   _process->disconnect(this);
   _process->kill();
+  // Which is at once.
+  _process->waitForFinished(2000);
 }
 
 void FeedProcess::fetch(const QString& address, std::function<void(const FeedAnswer&)> answered) {
@@ -67,10 +69,12 @@ void FeedProcess::cancel() {
   _answered = nullptr;
   _feed.clear();
   if (!_process) return;
-  _process->disconnect(this);
-  _process->kill();
-  // It goes away with the object, later: this may be one of its own signals.
-  _process.release()->deleteLater();
+  // Not at once: this may be one of its own signals.
+  QProcess* process = _process.release();
+  process->disconnect(this);
+  connect(process, &QProcess::finished, process, &QObject::deleteLater);
+  process->kill();
+  if (process->state() == QProcess::NotRunning) process->deleteLater();
 }
 
 void FeedProcess::_take() {

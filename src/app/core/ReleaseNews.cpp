@@ -2,7 +2,6 @@
 #include "app/core/ReleaseNews.h"
 
 #include <QStringList>
-#include <QStringView>
 #include <algorithm>
 
 #include "foundation/base/Limits.h"
