@@ -20,6 +20,7 @@ MODULES = {
     "library_core": ("library/core", ["iconfamily", "imaging", "system", "plist", "foundation", "base"], True, False),
     "app_core": ("app/core", ["composition_core", "library_core", "iconfamily", "imaging", "system", "foundation",
                               "base"], True, False),
+    "feed": ("app/feed", ["app_core", "base"], True, False),
     "ui": ("ui", ["system", "foundation", "base"], True, True),
     "composition_view": ("composition/view", ["composition_core", "imaging", "ui", "foundation", "base"], True, True),
     "library_view": ("library/view", ["library_core", "imaging", "ui", "foundation", "base"], True, True),
@@ -28,6 +29,7 @@ MODULES = {
     "cli": ("cli", ["app_core", "composition_core", "library_core", "iconfamily", "format", "imaging", "system",
                     "foundation", "base"], True, False),
 }
+NETWORK = re.compile(r"^Q(tNetwork|Network|Ssl|Tcp|Udp|Host|Dns|AbstractSocket|LocalS|Http)")
 WIDGETS = re.compile(r"^Q(Widget|Dialog|Label|MainWindow|Application|Push|Tool|Frame|Layout|.*View|Style|Menu|Action)$")
 
 
@@ -86,6 +88,8 @@ def main(root):
                     elif re.match(r"Q[A-Z]|Qt", header):
                         if not qt_allowed:
                             faults.append(f"src/{path}:{number}: {module} is free of Qt ({header})")
+                        elif module != "feed" and NETWORK.match(header):
+                            faults.append(f"src/{path}:{number}: only feed links the network library ({header})")
                         elif not widgets_allowed and (WIDGETS.match(header) or header.startswith("QtWidgets")):
                             faults.append(f"src/{path}:{number}: {module} links no widgets ({header})")
     for fault in faults:

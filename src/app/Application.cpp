@@ -12,6 +12,7 @@
 #include "app/RecentList.h"
 #include "app/SheetPrompts.h"
 #include "app/TerminationSignals.h"
+#include "app/UpdaterFactory.h"
 #include "app/WindowArguments.h"
 #include "app/core/FolderWork.h"
 #include "app/core/LookStore.h"
@@ -151,7 +152,8 @@ int runApplication(int argc, char** argv) {
                            .revealInFileManager = [&](const auto& folder) { reveal.show(folder); },
                            .visitPage = [&](const QString& page) { website.visitPage(page); },
                            .writeToMaker = [&] { opener.open(QUrl(QStringLiteral("mailto:" QUORVANE_MAIL))); },
-                           .feedFolder = QStringLiteral(QUORVANE_PRODUCT_FOLDER)});
+                           .feedFolder = QStringLiteral(QUORVANE_PRODUCT_FOLDER),
+                           .makeUpdater = updaterFactory(window, defaults, opener)});
   controller->setOutlets(layOutMainWindow(window, panels, *library));
   window.setOutlets(controller->outlets()._folderView, controller.get());
   // Not quit(): that would ask every window once more.

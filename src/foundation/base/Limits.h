@@ -41,6 +41,17 @@ inline constexpr std::uint64_t libraryArchiveRatio = 100;
 /// Longest list of recently used things, which all programs of a desktop share; long ones have some hundred kilobytes.
 inline constexpr std::size_t recentListBytes = std::size_t{8} << 20;
 
+/// Longest list of versions (appcast) that is fetched, its depth, its versions, and the attributes of one element,
+/// which the XML reader compares with each other. Usual ones have some ten kilobytes.
+inline constexpr std::size_t feedBytes = std::size_t{1} << 20;
+inline constexpr int feedDepth = 32;
+inline constexpr std::size_t feedItems = 1000;
+inline constexpr int feedAttributes = 64;
+/// Longest version, and what is shown of the news about it.
+inline constexpr std::size_t versionCharacters = 100;
+inline constexpr std::size_t newsCharacters = 20'000;
+inline constexpr std::size_t newsLines = 400;
+
 /// Longest ".directory" or ".hidden" file that is edited; usual ones have a few lines.
 inline constexpr std::size_t folderSettingsBytes = std::size_t{16} << 20;
 

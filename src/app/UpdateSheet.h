@@ -1,0 +1,22 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QWidget>
+
+#include "app/UpdateView.h"
+
+namespace quorvane {
+
+/// Offers a newer version, as a sheet's content: what is new, and whose page a button would open. It ends with one of
+/// these codes.
+class UpdateSheet : public QWidget {
+  Q_OBJECT
+ public:
+  static constexpr int openPage = 1;
+  static constexpr int later = 0;  ///< Escape, too
+  static constexpr int skip = 2;
+
+  explicit UpdateSheet(const UpdateOffer& offer);
+};
+
+}  // namespace quorvane
