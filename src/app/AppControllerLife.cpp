@@ -10,12 +10,12 @@
 #include "app/AppController.h"
 #include "app/PreferenceController.h"
 #include "app/QVWindow.h"
-#include "app/Texts.h"
 #include "app/core/UserPrompts.h"
 #include "composition/view/FolderView.h"
 #include "foundation/UserDefaults.h"
 #include "ui/HVColorWell.h"
 #include "ui/SharedPanels.h"
+#include "ui/Texts.h"
 
 namespace quorvane {
 

@@ -10,10 +10,10 @@
 #include <utility>
 
 #include "app/AppController.h"
-#include "app/Texts.h"
 #include "ui/ElidedLabel.h"
 #include "ui/HVColorWell.h"
 #include "ui/SharedPanels.h"
+#include "ui/Texts.h"
 
 namespace quorvane {
 
