@@ -25,8 +25,10 @@ set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 # libqt6svg6 draws the SVG icons of themes and users, the other plug-ins read TIFF and WebP.
 set(CPACK_DEBIAN_PACKAGE_DEPENDS
     "fonts-dejavu-core | fonts-noto-core | fonts-liberation, libqt6svg6, qt6-image-formats-plugins")
-# Labels in scripts that the font above has not, and in pictures.
-set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "fonts-noto-core, fonts-noto-color-emoji")
+# Labels in scripts that the font above has not, and in pictures; a window in Japanese; the buttons of Qt's dialogs in
+# the user's language.
+set(CPACK_DEBIAN_PACKAGE_RECOMMENDS
+    "fonts-noto-core, fonts-noto-color-emoji, fonts-noto-cjk | fonts-japanese-gothic, qt6-translations-l10n")
 # Keeps the settings from which GNOME's, Cinnamon's and MATE's file managers take a folder's icon.
 set(CPACK_DEBIAN_PACKAGE_SUGGESTS gvfs)
 include(CPack)

@@ -12,6 +12,7 @@
 #include "app/RecentList.h"
 #include "app/SheetPrompts.h"
 #include "app/TerminationSignals.h"
+#include "app/Translations.h"
 #include "app/UpdaterFactory.h"
 #include "app/WindowArguments.h"
 #include "app/core/FolderWork.h"
@@ -94,6 +95,7 @@ int runApplication(int argc, char** argv) {
   SingleInstance instance(QStringLiteral(QUORVANE_APP_ID));
   if (instance.start(request) == SingleInstance::Role::Second) return 0;
 
+  const Translations translations(QLocale::system().uiLanguages());
   DesktopAppearance appearance;
   appearance.start();
   Theme theme(&appearance);

@@ -17,7 +17,7 @@ namespace quorvane {
 namespace {
 
 QString tr(const char* text) {
-  return QCoreApplication::translate("MainWindow", text);
+  return QCoreApplication::translate("quorvane", text);
 }
 
 /// What file managers get: the very pictures that an apply would write.

@@ -20,7 +20,7 @@ namespace quorvane {
 namespace {
 
 QString tr(const char* text) {
-  return QCoreApplication::translate("MainWindow", text);
+  return QCoreApplication::translate("quorvane", text);
 }
 
 QString withoutAccessKey(QString text) {

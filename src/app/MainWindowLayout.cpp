@@ -27,7 +27,7 @@ namespace quorvane {
 namespace {
 
 QString tr(const char* text) {
-  return QCoreApplication::translate("MainWindow", text);
+  return QCoreApplication::translate("quorvane", text);
 }
 
 /// Tab goes as one reads: the canvas before what changes it, the buttons that end the work last.

@@ -17,6 +17,7 @@
 
 #include "TestWindow.h"
 #include "app/NoticeLabel.h"
+#include "app/Translations.h"
 #include "app/WindowArguments.h"
 #include "iconfamily/CustomIcon.h"
 #include "ui/HVColorWell.h"
@@ -78,7 +79,11 @@ TEST(MainWindowTest, TabComesByEveryControlAndBack) {
     EXPECT_NE(std::ranges::find(met, control), met.end()) << control->accessibleName().toStdString();
 }
 
-TEST(MainWindowTest, EveryControlHasANameAndNoKeyIsTakenTwice) {
+class MainWindowInLanguage : public testing::TestWithParam<const char*> {};
+INSTANTIATE_TEST_SUITE_P(Languages, MainWindowInLanguage, testing::Values("en", "de", "ja"));
+
+TEST_P(MainWindowInLanguage, EveryControlHasANameAndNoKeyIsTakenTwice) {
+  const Translations translations({QLatin1String(GetParam())});
   TestWindow test;
   test.launch();
   std::map<QString, QString> keys;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // window_pictures FOLDER [PREFIX]: draws the window in its states, in light and dark, into PNG pictures and ends.
-// QT_SCALE_FACTOR=2 gives those of a dense screen, -reverse those from right to left, QUORVANE_LONG=1 longer texts.
+// QT_SCALE_FACTOR=2 gives those of a dense screen, -reverse those from right to left, QUORVANE_LONG=1 longer texts,
+// LANGUAGE=de those in a language.
 #include <QApplication>
 #include <QDir>
 #include <QDragEnterEvent>
@@ -9,12 +10,13 @@
 #include <QLineEdit>
 #include <QMimeData>
 #include <QTimer>
-#include <QTranslator>
 #include <QUrl>
 
+#include "LongTexts.h"
 #include "TestWindow.h"
 #include "app/AboutController.h"
 #include "app/SheetPrompts.h"
+#include "app/Translations.h"
 #include "composition/view/PreviewStrip.h"
 #include "library/view/LibraryPanels.h"
 #include "library/view/LibraryTableView.h"
@@ -26,17 +28,6 @@
 
 namespace quorvane::test {
 namespace {
-
-/// Every text two fifths longer, as in a wordy language.
-class LongTexts : public QTranslator {
- public:
-  [[nodiscard]] bool isEmpty() const override { return false; }
-  [[nodiscard]] QString translate(const char*, const char* text, const char*, int) const override {
-    const QString source = QString::fromUtf8(text);
-    if (source.size() < 3 || source.contains(QLatin1Char('%'))) return source;
-    return source + QStringLiteral("ungenheit und mehr").left(std::max<qsizetype>(2, source.size() * 2 / 5));
-  }
-};
 
 /// Lets the window settle: previews are drawn in a thread of their own.
 void settle(int milliseconds = 700) {
@@ -274,6 +265,7 @@ int main(int argc, char** argv) {
   QApplication::setQuitOnLastWindowClosed(false);
   if (argc < 2) return 2;
   QDir().mkpath(QString::fromLocal8Bit(argv[1]));
+  const Translations translations(QLocale::system().uiLanguages());
   test::LongTexts longTexts;
   if (qEnvironmentVariableIsSet("QUORVANE_LONG")) QCoreApplication::installTranslator(&longTexts);
   Sheet::setAnimated(false);
