@@ -27,6 +27,10 @@ set(CPACK_DEBIAN_PACKAGE_DEPENDS
     "fonts-dejavu-core | fonts-noto-core | fonts-liberation, libqt6svg6, qt6-image-formats-plugins")
 # Labels in scripts that the font above has not, and in pictures.
 set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "fonts-noto-core, fonts-noto-color-emoji")
+if(QUORVANE_UPDATER)
+  # Who a server is when it is asked for newer versions.
+  string(APPEND CPACK_DEBIAN_PACKAGE_RECOMMENDS ", ca-certificates")
+endif()
 # Keeps the settings from which GNOME's, Cinnamon's and MATE's file managers take a folder's icon.
 set(CPACK_DEBIAN_PACKAGE_SUGGESTS gvfs)
 include(CPack)

@@ -3,7 +3,8 @@
 #
 # Embeds resources/cursors/*.svg as :/cursors/NAME.svg and resources/actions/*.svg as :/actions/NAME.svg. They stay
 # vectors: the program draws them at the density of the screen and in the colours of its palette. The program's own
-# icon is embedded as :/application/SIZE.png, for where the desktop's theme has it not.
+# icon is embedded as :/application/SIZE.png, for where the desktop's theme has it not, and the text of the licence as
+# :/licence.txt.
 function(quorvane_window_resources target)
   set(output ${CMAKE_BINARY_DIR}/window-resources)
   set(files)
@@ -16,6 +17,8 @@ function(quorvane_window_resources target)
       string(APPEND entries "<file alias=\"${folder}/${name}\">${picture}</file>\n")
     endforeach()
   endforeach()
+  list(APPEND files ${CMAKE_SOURCE_DIR}/LICENSE)
+  string(APPEND entries "<file alias=\"licence.txt\">${CMAKE_SOURCE_DIR}/LICENSE</file>\n")
   foreach(size 16 32 48 128)
     set(source ${CMAKE_SOURCE_DIR}/resources/icons/quorvane-${size}.svg)
     if(NOT EXISTS ${source})

@@ -8,10 +8,11 @@
 #include <QFile>
 #include <QPushButton>
 
-#include "app/BaseColumn.h"
+#include "app/AboutController.h"
 #include "app/BusyIndicator.h"
 #include "app/MainMenu.h"
 #include "app/NoticeLabel.h"
+#include "app/PreferenceController.h"
 #include "app/QVWindow.h"
 #include "app/core/EditHistory.h"
 #include "app/core/FolderWork.h"
@@ -21,6 +22,7 @@
 #include "composition/view/ImageView.h"
 #include "composition/view/PreviewStrip.h"
 #include "foundation/UserDefaults.h"
+#include "system/HVUtility.h"
 #include "ui/HVTableView.h"
 #include "ui/PopUpButton.h"
 #include "ui/Slider.h"
@@ -45,7 +47,7 @@ std::shared_ptr<AppController> AppController::init(const AppServices& services) 
   if (auto controller = sharedController()) return controller;
   std::shared_ptr<AppController> controller(new AppController(services));
   shared() = controller;
-  services.defaults.registerDefaults(settings::factoryDefaults());
+  controller->_init();
   return controller;
 }
 
@@ -53,13 +55,25 @@ std::shared_ptr<AppController> AppController::sharedController() {
   return shared().lock();
 }
 
-AppController::AppController(const AppServices& services) : _services(services) {
+AppController::AppController(const AppServices& services)
+    : _services(services), _scratch(QFile::encodeName(tmpdirString()).toStdString()) {
   _busyTimer.setSingleShot(true);
   _busyTimer.setInterval(briefly);
   connect(&_busyTimer, &QTimer::timeout, this, &AppController::_showBusy);
 }
 
 AppController::~AppController() = default;
+
+void AppController::_init() {
+  _appInitialized = false;
+  _preferenceController =
+      std::make_unique<PreferenceController>(*this, _services.defaults, _services.panels, hasUpdater());
+  _services.defaults.registerDefaults(PreferenceController::factoryDefaults());
+  settings::setValue(_services.defaults, settings::feedAddress, feedAddress(HVUtility::systemVersion()));
+  _ignoreChangeColor = false;
+  // The first table of a process sets up what all of them share; nothing keeps it.
+  static_cast<void>(HVTableView());
+}
 
 void AppController::setOutlets(const Outlets& outlets) {
   static_cast<Outlets&>(*this) = outlets;
@@ -73,6 +87,7 @@ void AppController::setOutlets(const Outlets& outlets) {
 void AppController::awakeFromNib() {
   const bool isRemembered = _mainWindow->setFrameAutosaveName(settings::mainWindowAutosaveName);
   if (!isRemembered || settings::value(_services.defaults, settings::launchCount) == 0) _mainWindow->center();
+  migrateCheckAtStartup();
   setPath(std::nullopt);
 }
 
@@ -85,6 +100,7 @@ void AppController::applicationDidFinishLaunching() {
   for (int item = 0; item < _effectPopUp->count(); ++item)
     _effectPopUp->setItemEnabled(item, _effectPopUp->tagAt(item) >= 0);
   _services.defaults.incrementIntegerForKey(settings::launchCount.name);
+  if (settings::value(_services.defaults, settings::checkAtStartup)) checkForUpdatesInBackground();
   _history->clear();
   _appInitialized = true;
   Q_EMIT stateChanged();
@@ -96,7 +112,9 @@ void AppController::applicationWillTerminate() {
 }
 
 bool AppController::windowShouldClose(HVWindow& window) {
-  if (&window == _mainWindow) Q_EMIT terminateRequested();
+  if (&window != _mainWindow) return true;
+  _isTerminating = true;
+  Q_EMIT terminateRequested();
   return true;
 }
 

@@ -13,7 +13,9 @@
 
 #include "app/AppServices.h"
 #include "app/Outlets.h"
+#include "app/core/SettingsTable.h"
 #include "composition/core/LabelValues.h"
+#include "foundation/ScratchFolder.h"
 #include "foundation/base/Result.h"
 #include "imaging/Image.h"
 #include "ui/LabelTextField.h"
@@ -23,7 +25,9 @@ class QAction;
 
 namespace quorvane {
 
+class AboutController;
 class EditHistory;
+class PreferenceController;
 enum class MenuCommand;
 struct BrandingResult;
 struct LoadedFolder;
@@ -39,7 +43,8 @@ class AppController : public QObject, public HVWindowDelegate, public LabelTextF
  public:
   using Path = std::filesystem::path;
 
-  /// The shared controller: made by the first call, and given again by later ones for as long as anybody holds it.
+  /// The shared controller: made by the first call, and given again by later ones for as long as anybody holds it. The
+  /// first one registers the factory settings and chooses the feed of new versions.
   static std::shared_ptr<AppController> init(const AppServices& services);
   /// Null before the first init().
   static std::shared_ptr<AppController> sharedController();
@@ -51,11 +56,47 @@ class AppController : public QObject, public HVWindowDelegate, public LabelTextF
   [[nodiscard]] QVWindow* mainWindow() const { return _mainWindow; }
 
   // Life. In this order.
+  /// Places the window, without a folder.
   void awakeFromNib();
   void applicationDidFinishLaunching();
   /// Saves what is kept over runs and waits, for a bounded time, for what is being written.
   void applicationWillTerminate();
   [[nodiscard]] bool isInitialized() const { return _appInitialized; }
+  /// Ends the program without asking anybody, whatever is open: who is being asked has not answered.
+  void terminate();
+
+  // Housekeeping.
+  /// The address of the feed of new versions for a system of that version (see HVUtility::systemVersion).
+  [[nodiscard]] QString feedAddress(std::uint32_t systemVersion) const;
+  /// The program's own switch takes over from the one that the update framework would act on by itself.
+  void migrateCheckAtStartup();
+  /// Starts of the program including this one, counted by the first call.
+  qint64 runCount();
+  [[nodiscard]] static QString appName();
+  void runDockTipSheet();
+  void runShareOnFacebookSheet();
+  void runRateOnAppStoreSheet();
+  /// The path of a folder for this process's temporary files; tmpdir() makes it and gives nothing when that fails.
+  [[nodiscard]] QString tmpdirString() const;
+  std::optional<QString> tmpdir();
+  /// True when there is no such folder afterwards.
+  [[nodiscard]] bool cleanupTmpdir() const { return _scratch.cleanUp(); }
+
+  // New versions. Without an updater these do nothing.
+  [[nodiscard]] bool hasUpdater() const { return static_cast<bool>(_services.makeUpdater); }
+  /// Made by the first call; nullptr in a build that has none.
+  Updater* updater();
+  void checkForUpdates(QObject* sender);
+  /// Later when a sheet is up, and not at all when one is still up then.
+  void checkForUpdatesInBackground();
+  void checkForUpdatesInBackgroundLastAttempt();
+
+  void showAboutWindow(QObject* sender);
+  void showPreference(QObject* sender);
+  /// Preferences take effect at the next start.
+  void preferenceDidChange() {}
+  [[nodiscard]] PreferenceController& preferenceController() { return *_preferenceController; }
+  [[nodiscard]] AboutController* aboutController() { return _aboutController.get(); }
 
   // The folder.
   void open();
@@ -78,7 +119,7 @@ class AppController : public QObject, public HVWindowDelegate, public LabelTextF
   [[nodiscard]] bool _isIconModified() const;
   void closeFolder();
   void showFirstStep(QWidget* sender);
-  /// Counts a successful apply.
+  /// Counts a successful apply; the first one and some later ones lead to a question.
   void incrementUsageCount();
   /// Whether the answer to something that touches the folder is still to come.
   [[nodiscard]] bool isBusy() const { return _busyCount > 0; }
@@ -136,8 +177,6 @@ class AppController : public QObject, public HVWindowDelegate, public LabelTextF
  Q_SIGNALS:
   /// Whatever menus and such show may have changed.
   void stateChanged();
-  /// So many applies have succeeded by now.
-  void usageCounted(qint64 count);
   /// The main window closes: the application ends.
   void terminateRequested();
 
@@ -147,6 +186,11 @@ class AppController : public QObject, public HVWindowDelegate, public LabelTextF
 
  private:
   explicit AppController(const AppServices& services);
+  void _init();
+  void _visitPage(const QString& page);
+  /// A question that asks a favour, once or until the user has had enough: each answer but "later" ends it.
+  void _askFavour(const settings::Key<bool>& key, const QString& title, const QString& message,
+                  const QString& defaultButton, const QString& page);
 
   void _connectControls();
   void _connectSlider(Slider& slider, void (AppController::*action)(Slider&));
@@ -182,6 +226,12 @@ class AppController : public QObject, public HVWindowDelegate, public LabelTextF
   void _waitBriefly(const std::function<bool()>& done);
 
   AppServices _services;
+  std::unique_ptr<PreferenceController> _preferenceController;
+  std::unique_ptr<AboutController> _aboutController;
+  std::unique_ptr<Updater> _updater;
+  ScratchFolder _scratch;
+  std::optional<qint64> _runCount;
+  bool _isTerminating = false;
   std::unique_ptr<EditHistory> _history;
   std::optional<Path> _path;
   bool _appInitialized = false;

@@ -204,10 +204,6 @@ void AppController::_applied(const Path& path, const Result<BrandingResult>& res
   QTimer::singleShot(0, this, &AppController::incrementUsageCount);
 }
 
-void AppController::incrementUsageCount() {
-  Q_EMIT usageCounted(_services.defaults.incrementIntegerForKey(settings::usageCount.name));
-}
-
 void AppController::revert() {
   if (isBusy() || !_path) return;
   const Path path = *_path;

@@ -22,10 +22,23 @@
 
 namespace quorvane {
 
+namespace {
+
+bool isTextField(const QWidget* focus) {
+  return qobject_cast<const QLineEdit*>(focus) || qobject_cast<const QPlainTextEdit*>(focus);
+}
+
+}  // namespace
+
 void AppController::_connectMenu() {
   connect(_mainMenu, &MainMenu::chosen, this, &AppController::perform);
-  connect(this, &AppController::stateChanged, _mainMenu, [this] {
+  if (!hasUpdater()) _mainMenu->remove(MenuCommand::CheckForUpdates);
+  const auto validate = [this] {
     _mainMenu->validate([this](MenuCommand command) { return validateMenuItem(command); });
+  };
+  connect(_mainMenu, &MainMenu::opening, this, validate);
+  connect(this, &AppController::stateChanged, _mainMenu, [this, validate] {
+    validate();
     _mainMenu->setUndoTexts(_history->undoText(), _history->redoText());
     _mainMenu->setOriginalIconShown(_origIconDrawer->isOpen());
   });
@@ -59,6 +72,10 @@ bool AppController::validateMenuItem(MenuCommand command) const {
     case MenuCommand::ManageLooks:
     case MenuCommand::Looks:
       return _services.looks != nullptr;
+    case MenuCommand::Cut:
+    case MenuCommand::Paste:
+    case MenuCommand::SelectAll:
+      return isTextField(QApplication::focusWidget());
     case MenuCommand::OpenRecent:
       return !_isWriting() && _services.recentFolders;
     case MenuCommand::Open:
@@ -78,7 +95,7 @@ void AppController::help(int tag) {
   static constexpr Page pages[] = {{0, "/quorvane/help/"}, {2, "forum"},        {3, "blog"},        {4, ""},
                                    {5, "quorvane/faq/"},   {6, "quorvane/fb/"}, {7, "quorvane/mu/"}};
   for (const Page& page : pages) {
-    if (page.tag == tag && _services.visitPage) _services.visitPage(page.path);
+    if (page.tag == tag) _visitPage(QLatin1String(page.path));
   }
 }
 
@@ -162,6 +179,12 @@ void AppController::perform(MenuCommand command) {
       return help(4);
     case MenuCommand::Questions:
       return help(5);
+    case MenuCommand::Preferences:
+      return showPreference(_mainMenu);
+    case MenuCommand::CheckForUpdates:
+      return checkForUpdates(_mainMenu);
+    case MenuCommand::About:
+      return showAboutWindow(_mainMenu);
     default:
       return;
   }
@@ -169,8 +192,7 @@ void AppController::perform(MenuCommand command) {
 
 void AppController::_edit(MenuCommand command) {
   QWidget* focus = QApplication::focusWidget();
-  const bool isText = qobject_cast<QLineEdit*>(focus) || qobject_cast<QPlainTextEdit*>(focus);
-  if (!isText) {
+  if (!isTextField(focus)) {
     // The icon as it would be written, for other programs.
     if (command != MenuCommand::Copy) return;
     const auto icon = _folderView->composition().canvasIconImage();

@@ -5,6 +5,7 @@
 
 #include "app/AppController.h"
 #include "app/BaseColumn.h"
+#include "app/PreferenceController.h"
 #include "app/QVWindow.h"
 #include "app/core/EditHistory.h"
 #include "app/core/SettingsTable.h"
@@ -30,8 +31,11 @@ void AppController::_initColorPanel() {
 void AppController::_initFontPanel() {
   const LabelFont font = settings::startFont(_services.defaults);
   FontPanel& panel = _services.panels.fontPanel();
-  connect(&panel, &FontPanel::fontChanged, _mainWindow,
-          [window = _mainWindow, &panel] { window->myChangeFont(panel); });
+  // The sheet that has the panel's content comes first.
+  connect(&panel, &FontPanel::fontChanged, this, [this, &panel] {
+    if (_preferenceController->isFontSheetUp()) return _preferenceController->myChangeFont(panel);
+    _mainWindow->myChangeFont(panel);
+  });
   connect(&panel, &FontPanel::panelClosed, this, &AppController::fontPanelWillClose);
   connect(_folderView, &FolderView::selectedFontChanged, &panel,
           [&panel](const LabelFont& selected) { panel.setPanelFont(selected.family, selected.style, selected.size); });

@@ -1,11 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <QString>
 #include <filesystem>
 #include <functional>
+#include <memory>
 #include <optional>
 #include <vector>
 
+#include "app/Updater.h"
 #include "app/core/BasePicture.h"
 #include "system/RecentFolders.h"
 
@@ -40,8 +43,14 @@ struct AppServices {
   std::function<std::vector<RecentFolder>()> recentFolders = {};  ///< the last one first
   std::function<void()> clearRecentFolders = {};
   std::function<void(const Path& folder)> revealInFileManager = {};
-  /// Opens a page of the program's web site.
-  std::function<void(const char* page)> visitPage = {};
+  /// Opens a page of the maker's web site.
+  std::function<void(const QString& page)> visitPage = {};
+  /// Begins a message to the maker.
+  std::function<void()> writeToMaker = {};
+  /// The product's folder on the maker's web site, ending in "/": the feeds lie there.
+  QString feedFolder = {};
+  /// Called when it is first needed. None: the program does not look for newer versions, and nothing offers to.
+  std::function<std::unique_ptr<Updater>()> makeUpdater = {};
 };
 
 }  // namespace quorvane

@@ -12,6 +12,7 @@
 #include "app/RecentList.h"
 #include "app/SheetPrompts.h"
 #include "app/TerminationSignals.h"
+#include "app/UpdaterFactory.h"
 #include "app/WindowArguments.h"
 #include "app/core/FolderWork.h"
 #include "app/core/LookStore.h"
@@ -25,6 +26,7 @@
 #include "iconfamily/AppleDoubleForkStore.h"
 #include "system/FileManagerNotices.h"
 #include "system/FolderMarks.h"
+#include "system/HVUtility.h"
 #include "system/KindIcons.h"
 #include "system/Links.h"
 #include "system/Reveal.h"
@@ -75,6 +77,8 @@ int runApplication(int argc, char** argv) {
         stderr);
     return 1;
   }
+  const auto systemServices = makeDesktopServices();
+  HVUtility::setServices(systemServices.get());
   QApplication application(argc, argv);
   QCoreApplication::setApplicationName(QStringLiteral("Quorvane"));
   QCoreApplication::setApplicationVersion(QStringLiteral(QUORVANE_VERSION));
@@ -129,7 +133,10 @@ int runApplication(int argc, char** argv) {
                            .recentFolders = [&] { return recent.folders(); },
                            .clearRecentFolders = [&] { recent.clear(); },
                            .revealInFileManager = [&](const auto& folder) { reveal.show(folder); },
-                           .visitPage = [&](const char* page) { website.visitPage(QString::fromLatin1(page)); }});
+                           .visitPage = [&](const QString& page) { website.visitPage(page); },
+                           .writeToMaker = [&] { opener.open(QUrl(QStringLiteral("mailto:" QUORVANE_MAIL))); },
+                           .feedFolder = QStringLiteral(QUORVANE_PRODUCT_FOLDER),
+                           .makeUpdater = updaterFactory(window, defaults, opener)});
   controller->setOutlets(layOutMainWindow(window, panels));
   window.setOutlets(controller->outlets()._folderView, controller.get());
   // Not quit(): that would ask every window once more.
@@ -137,13 +144,7 @@ int runApplication(int argc, char** argv) {
       controller.get(), &AppController::terminateRequested, &application, [] { QCoreApplication::exit(0); },
       Qt::QueuedConnection);
   TerminationSignals signals_;
-  QObject::connect(&signals_, &TerminationSignals::received, &window, [&window] {
-    window.cancelSheets();
-    // Those who waited for an answer get to know first. Closing saves the frame.
-    QTimer::singleShot(0, &window, [&window] {
-      if (!window.close()) QCoreApplication::exit(0);
-    });
-  });
+  QObject::connect(&signals_, &TerminationSignals::received, controller.get(), &AppController::terminate);
 
   controller->awakeFromNib();
   controller->outlets()._folderView->awakeFromNib(settings::startFont(defaults));
@@ -160,6 +161,11 @@ int runApplication(int argc, char** argv) {
     // What the desktop gave the other process lets this window come to the front.
     if (!wish.activationToken.empty()) qputenv("XDG_ACTIVATION_TOKEN", QByteArray::fromStdString(wish.activationToken));
     window.bringToFront();
+    // What has to be answered first stays in front of it.
+    if (QWidget* modal = QApplication::activeModalWidget()) {
+      modal->raise();
+      modal->activateWindow();
+    }
     open(wish, [](const auto&) {});
   });
   QTimer::singleShot(0, controller.get(), &AppController::applicationDidFinishLaunching);

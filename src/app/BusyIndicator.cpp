@@ -5,6 +5,8 @@
 #include <QLabel>
 #include <QProgressBar>
 
+#include "ui/Motion.h"
+
 namespace quorvane {
 
 BusyIndicator::BusyIndicator(QWidget* parent) : QWidget(parent), _words(new QLabel(this)) {
@@ -26,7 +28,8 @@ void BusyIndicator::begin(const QString& words) {
   _words->setText(words);
   _bar->setAccessibleDescription(words);
   _words->setVisible(true);
-  _bar->setVisible(true);
+  // The words say it too.
+  _bar->setVisible(wantsMotion(*this));
 }
 
 void BusyIndicator::end() {
@@ -35,7 +38,7 @@ void BusyIndicator::end() {
 }
 
 bool BusyIndicator::isShown() const {
-  return !_bar->isHidden();
+  return !_words->isHidden();
 }
 
 }  // namespace quorvane

@@ -2,7 +2,8 @@
 #include "app/Drawer.h"
 
 #include <QEvent>
-#include <QStyle>
+
+#include "ui/Motion.h"
 
 namespace quorvane {
 
@@ -46,7 +47,7 @@ void Drawer::_setOpen(bool open) {
   _open = open;
   _slide.stop();
   if (open) show();
-  if (isAnimated && isVisible() && style()->styleHint(QStyle::SH_Widget_Animation_Duration, nullptr, this) > 0) {
+  if (isAnimated && isVisible() && wantsMotion(*this)) {
     _slide.setStartValue(_shown);
     _slide.setEndValue(open ? 1.0 : 0.0);
     _slide.start();

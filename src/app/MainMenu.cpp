@@ -28,6 +28,7 @@ MainMenu::MainMenu(QMainWindow& window) : QObject(&window), _window(window) {
   const auto addMenu = [this](const QString& title, const std::vector<Row>& rows) {
     _menus.push_back(_window.menuBar()->addMenu(title));
     _fill(*_menus.back(), rows);
+    connect(_menus.back(), &QMenu::aboutToShow, this, &MainMenu::opening);
   };
   addMenu(tr("&File"),
           {{C::Open, tr("&Open…"), K::keyBindings(K::Open), "open"},
@@ -48,7 +49,9 @@ MainMenu::MainMenu(QMainWindow& window) : QObject(&window), _window(window) {
                         {C::SelectAll, tr("Select &All"), {K(Qt::CTRL | Qt::Key_A)}},
                         line,
                         {C::PasteFolderPath, tr("Paste &Folder Path"), {K(Qt::CTRL | Qt::SHIFT | Qt::Key_V)}},
-                        {C::CenterLabel, tr("C&enter Label"), {K(Qt::CTRL | Qt::Key_Period)}, "center"}});
+                        {C::CenterLabel, tr("C&enter Label"), {K(Qt::CTRL | Qt::Key_Period)}, "center"},
+                        line,
+                        {C::Preferences, tr("Prefere&nces…"), {K(Qt::CTRL | Qt::Key_Comma)}, "settings"}});
   addMenu(tr("St&yle"), {{C::ShowFont, tr("&Font"), {K(Qt::CTRL | Qt::Key_T)}, "font"},
                          {C::ShowColor, tr("&Colour…"), {K(Qt::CTRL | Qt::SHIFT | Qt::Key_C)}},
                          line,
@@ -66,7 +69,10 @@ MainMenu::MainMenu(QMainWindow& window) : QObject(&window), _window(window) {
                         {C::Questions, tr("Frequently Asked &Questions")},
                         {C::Forum, tr("&Forum")},
                         {C::Blog, tr("&Blog")},
-                        {C::HomePage, tr("Home &Page")}});
+                        {C::HomePage, tr("Home &Page")},
+                        line,
+                        {C::CheckForUpdates, tr("Check for &Updates…")},
+                        {C::About, tr("&About Quorvane")}});
   // What is in the looks' submenu before the looks themselves.
   _fill(*_looksMenu, {{C::SaveLook, tr("&Save Look…"), {K(Qt::CTRL | Qt::Key_S)}, "save"},
                       {C::ManageLooks, tr("&Manage Looks…")},
@@ -76,6 +82,15 @@ MainMenu::MainMenu(QMainWindow& window) : QObject(&window), _window(window) {
   for (const C command : {C::Magnify1, C::Magnify2, C::Magnify3, C::ShowFont, C::ToggleOriginalIcon})
     action(command)->setCheckable(true);
   action(C::Quit)->setMenuRole(QAction::QuitRole);
+  action(C::Preferences)->setMenuRole(QAction::PreferencesRole);
+  action(C::About)->setMenuRole(QAction::AboutRole);
+}
+
+void MainMenu::remove(MenuCommand command) {
+  const auto found = _actions.find(command);
+  if (found == _actions.end()) return;
+  delete found->second;
+  _actions.erase(found);
 }
 
 void MainMenu::_fill(QMenu& menu, const std::vector<Row>& rows) {

@@ -30,6 +30,7 @@ enum class MenuCommand {
   SelectAll,
   PasteFolderPath,
   CenterLabel,
+  Preferences,
   ShowFont,
   ShowColor,
   ResetTransform,
@@ -46,6 +47,8 @@ enum class MenuCommand {
   Forum,
   Blog,
   HomePage,
+  CheckForUpdates,
+  About,
 };
 
 /// The menu bar. It knows what can be chosen, not what that does: whoever listens does it.
@@ -54,6 +57,8 @@ class MainMenu : public QObject {
  public:
   /// Fills the window's menu bar; owned by the window.
   explicit MainMenu(QMainWindow& window);
+  /// Takes an item out for good: for what this build does not have.
+  void remove(MenuCommand command);
 
   /// Of a submenu the action that opens it.
   [[nodiscard]] QAction* action(MenuCommand command) const { return _actions.at(command); }
@@ -82,6 +87,8 @@ class MainMenu : public QObject {
 
  Q_SIGNALS:
   void chosen(quorvane::MenuCommand command);
+  /// A menu is about to be shown: what can be chosen may depend on what has the focus.
+  void opening();
 
  private:
   struct Row;

@@ -3,6 +3,8 @@
 
 #include <QAccessible>
 
+#include "ui/Motion.h"
+
 namespace quorvane {
 
 NoticeLabel::NoticeLabel(QWidget* parent) : QLabel(parent), _opacity(new QGraphicsOpacityEffect(this)) {
@@ -17,16 +19,19 @@ NoticeLabel::NoticeLabel(QWidget* parent) : QLabel(parent), _opacity(new QGraphi
   _fade.setStartValue(1.0);
   _fade.setEndValue(0.0);
   connect(&_stay, &QTimer::timeout, this, [this] {
+    if (!wantsMotion(*this)) return _end();
     _opacity->setEnabled(true);
     _fade.start();
   });
   connect(&_fade, &QVariantAnimation::valueChanged, this,
           [this](const QVariant& value) { _opacity->setOpacity(value.toDouble()); });
-  connect(&_fade, &QVariantAnimation::finished, this, [this] {
-    _opacity->setEnabled(false);
-    clear();
-    setAccessibleName(tr("Notice"));
-  });
+  connect(&_fade, &QVariantAnimation::finished, this, &NoticeLabel::_end);
+}
+
+void NoticeLabel::_end() {
+  _opacity->setEnabled(false);
+  clear();
+  setAccessibleName(tr("Notice"));
 }
 
 void NoticeLabel::notice(const QString& words) {

@@ -17,6 +17,8 @@ class NoticeLabel : public QLabel {
   void notice(const QString& words);
 
  private:
+  void _end();
+
   QGraphicsOpacityEffect* _opacity;
   QTimer _stay;
   QVariantAnimation _fade;

@@ -13,7 +13,14 @@ namespace quorvane {
 class ColorPanel : public FloatingPanel {
   Q_OBJECT
  public:
+  /// Ways to choose a colour, by the numbers under which panels of that kind know them. This panel has one, which is
+  /// always in sight: the field of hues and saturations.
+  enum class Mode { Wheel = 6 };
+
   ColorPanel();
+
+  [[nodiscard]] Mode mode() const { return _mode; }
+  void setMode(Mode mode) { _mode = mode; }
 
   [[nodiscard]] QColor color() const { return _color; }
   /// Shows the colour; tells no one.
@@ -28,6 +35,7 @@ class ColorPanel : public FloatingPanel {
 
   QColorDialog* _dialog = nullptr;
   QColor _color = Qt::white;
+  Mode _mode = Mode::Wheel;
 };
 
 }  // namespace quorvane

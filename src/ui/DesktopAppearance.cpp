@@ -16,6 +16,21 @@ const QString path = QStringLiteral("/org/freedesktop/portal/desktop");
 const QString interface = QStringLiteral("org.freedesktop.portal.Settings");
 const QString appearance = QStringLiteral("org.freedesktop.appearance");
 
+struct Setting {
+  const char* group;
+  const char* key;
+};
+/// All that is asked for. Of motion the desktops speak in three ways.
+constexpr Setting reducedMotion{"org.freedesktop.appearance", "reduced-motion"};
+constexpr Setting enableAnimations{"org.gnome.desktop.interface", "enable-animations"};
+constexpr Setting durationFactor{"org.kde.kdeglobals.KDE", "AnimationDurationFactor"};
+constexpr Setting settings[] = {{"org.freedesktop.appearance", "color-scheme"},
+                                {"org.freedesktop.appearance", "accent-color"},
+                                {"org.freedesktop.appearance", "contrast"},
+                                reducedMotion,
+                                enableAnimations,
+                                durationFactor};
+
 /// Read wraps its answer once more than the signal does.
 QVariant unwrapped(QVariant value) {
   while (value.canConvert<QDBusVariant>()) value = value.value<QDBusVariant>().variant();
@@ -50,16 +65,16 @@ void DesktopAppearance::start() {
   if (!bus.isConnected()) return;
   // The whole message: a slot with the three arguments is found by name and yet never called.
   bus.connect(service, path, interface, QStringLiteral("SettingChanged"), this, SLOT(settingChanged(QDBusMessage)));
-  for (const char* key : {"color-scheme", "accent-color", "contrast"}) _ask(QLatin1String(key));
+  for (const Setting& setting : settings) _ask(QLatin1String(setting.group), QLatin1String(setting.key));
 }
 
-void DesktopAppearance::_ask(const QString& key) {
+void DesktopAppearance::_ask(const QString& group, const QString& key) {
   QDBusMessage message = QDBusMessage::createMethodCall(service, path, interface, QStringLiteral("Read"));
-  message << appearance << key;
+  message << group << key;
   auto* watcher = new QDBusPendingCallWatcher(QDBusConnection::sessionBus().asyncCall(message), this);
-  connect(watcher, &QDBusPendingCallWatcher::finished, this, [this, key](QDBusPendingCallWatcher* finished) {
+  connect(watcher, &QDBusPendingCallWatcher::finished, this, [this, group, key](QDBusPendingCallWatcher* finished) {
     const QDBusPendingReply<QDBusVariant> reply = *finished;
-    if (!reply.isError()) take(appearance, key, reply.value().variant());
+    if (!reply.isError()) take(group, key, reply.value().variant());
     finished->deleteLater();
   });
 }
@@ -70,10 +85,22 @@ void DesktopAppearance::settingChanged(const QDBusMessage& message) {
 }
 
 void DesktopAppearance::take(const QString& group, const QString& key, const QVariant& value) {
-  if (group != appearance) return;
   const QVariant plain = unwrapped(value);
-  const auto before = std::make_tuple(_prefersDark, _accent, _highContrast);
-  if (key == QLatin1String("color-scheme")) {
+  const auto before = std::make_tuple(_prefersDark, _accent, _highContrast, prefersReducedMotion());
+  const auto is = [&](const Setting& setting) {
+    return group == QLatin1String(setting.group) && key == QLatin1String(setting.key);
+  };
+  if (is(reducedMotion)) {
+    _takeMotion(key, plain.toUInt() == 1);
+  } else if (is(enableAnimations)) {
+    _takeMotion(key, plain.typeId() == QMetaType::Bool && !plain.toBool());
+  } else if (is(durationFactor)) {
+    bool isNumber = false;
+    const double factor = plain.toDouble(&isNumber);
+    _takeMotion(key, isNumber && factor <= 0);
+  } else if (group != appearance) {
+    return;
+  } else if (key == QLatin1String("color-scheme")) {
     // 0: no preference; 1: dark; 2: light.
     const uint scheme = plain.toUInt();
     _prefersDark = scheme == 1 || scheme == 2 ? std::optional(scheme == 1) : std::nullopt;
@@ -82,7 +109,12 @@ void DesktopAppearance::take(const QString& group, const QString& key, const QVa
   } else if (key == QLatin1String("contrast")) {
     _highContrast = plain.toUInt() == 1;
   }
-  if (before != std::make_tuple(_prefersDark, _accent, _highContrast)) Q_EMIT changed();
+  if (before != std::make_tuple(_prefersDark, _accent, _highContrast, prefersReducedMotion())) Q_EMIT changed();
+}
+
+void DesktopAppearance::_takeMotion(const QString& key, bool isAgainst) {
+  _againstMotion.removeAll(key);
+  if (isAgainst) _againstMotion.append(key);
 }
 
 }  // namespace quorvane

@@ -12,11 +12,11 @@
 #include <QPainter>
 #include <QPlainTextEdit>
 #include <QPushButton>
-#include <QStyle>
 #include <QTextEdit>
 #include <QVBoxLayout>
 #include <algorithm>
 
+#include "ui/Motion.h"
 #include "ui/SheetFrame.h"
 #include "ui/Tag.h"
 
@@ -107,7 +107,7 @@ void Sheet::begin() {
   if (auto* dialog = qobject_cast<QDialog*>(_content.data()))
     connect(dialog, &QDialog::finished, this, &Sheet::answered);
 
-  const bool animated = slides && style()->styleHint(QStyle::SH_Widget_Animation_Duration, nullptr, this) > 0;
+  const bool animated = slides && wantsMotion(*this);
   _shown = animated ? 0 : 1;
   _place();
   raise();

@@ -8,6 +8,7 @@
 
 #include "ui/ColorText.h"
 #include "ui/DesktopAppearance.h"
+#include "ui/Motion.h"
 #include "ui/WindowResources.h"
 
 namespace quorvane {
@@ -142,7 +143,8 @@ QCheckBox::indicator:checked { background: %accent; border-color: %accent; image
 QRadioButton::indicator:checked { border: 5px solid %accent; width: 6px; height: 6px; background: %onaccent; }
 QCheckBox::indicator:disabled, QRadioButton::indicator:disabled { border-color: %hairline; background: %window; }
 QCheckBox::indicator:checked:disabled { background: %disabled; border-color: %disabled; }
-QCheckBox::indicator:checked:focus { border-color: %text; }
+QCheckBox::indicator:checked:focus, QRadioButton::indicator:checked:focus { border-color: %text; }
+QRadioButton::indicator:checked:focus { background: %accent; }
 
 QFrame[card="true"] { background: %base; border: 1px solid %hairline; border-radius: 12px; }
 QLabel[caption="true"] { color: %muted; font-weight: 600; }
@@ -185,6 +187,7 @@ void Theme::apply() {
   windowResource({});
   const QPalette colors = palette(isDark(), _appearance ? _appearance->accent() : std::nullopt,
                                   _appearance && _appearance->prefersHighContrast());
+  setMotionReduced(_appearance && _appearance->prefersReducedMotion());
   QApplication::setPalette(colors);
   qApp->setStyleSheet(styleSheet(colors));
   Q_EMIT changed();

@@ -109,7 +109,8 @@ TEST_F(AppControllerTest, EachStepOfAFolderLeavesTheControlsAsTheRulesSay) {
   EXPECT_EQ(shownIcon(), backup);
   EXPECT_TRUE(ui._folderView->showsPlaceholder());
   EXPECT_EQ(settings::value(test.defaults, settings::usageCount), 2);
-  EXPECT_TRUE(test.prompts.shown.empty());
+  ASSERT_EQ(test.prompts.shown.size(), 1U);
+  EXPECT_EQ(test.prompts.shown[0].title, QStringLiteral("Important Dock Tip"));
 }
 
 TEST_F(AppControllerTest, AFailedApplyTellsTheCauseAndKeepsTheComposition) {

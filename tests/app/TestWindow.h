@@ -10,6 +10,7 @@
 #include "app/Drawer.h"
 #include "app/MainMenu.h"
 #include "app/MainWindowLayout.h"
+#include "app/PreferenceController.h"
 #include "app/QVWindow.h"
 #include "app/core/EditHistory.h"
 #include "app/core/FolderWork.h"
@@ -35,6 +36,15 @@ struct TestWindow {
     FileManagerNotices* notices = nullptr;  ///< in place of the recording ones
     KindIcons* kinds = nullptr;             ///< in place of the program's own
     std::function<Result<Image>(const BaseReference&)> readPicture = readBasePicture;
+    std::function<void(UserDefaults&)> arrangeSettings = {};  ///< as former runs have left them
+    bool hasUpdater = true;
+  };
+  /// Notes what it is asked for: "check", "background".
+  struct RecordingUpdater : Updater {
+    explicit RecordingUpdater(std::vector<std::string>& asked) : heard(asked) {}
+    void checkForUpdates() override { heard.emplace_back("check"); }
+    void checkForUpdatesInBackground() override { heard.emplace_back("background"); }
+    std::vector<std::string>& heard;
   };
 
   TestWindow() : TestWindow(Options()) {}
@@ -47,9 +57,14 @@ struct TestWindow {
         work(services, options.mode),
         window(defaults) {
     std::filesystem::create_directory(folder);
+    if (options.arrangeSettings) options.arrangeSettings(defaults);
     window.setFrameStore(&frames);
     const auto choose = [this](QWidget&, const std::function<void(const std::filesystem::path&)>& chosen) {
       if (choice) chosen(*choice);
+    };
+    const std::function<std::unique_ptr<Updater>()> makeUpdater = [this] {
+      ++updaters;
+      return std::make_unique<RecordingUpdater>(asked);
     };
     controller = AppController::init({.defaults = defaults,
                                       .prompts = options.prompts ? *options.prompts : prompts,
@@ -60,7 +75,10 @@ struct TestWindow {
                                       .chooseFolder = choose,
                                       .choosePicture = choose,
                                       .revealInFileManager = [this](const auto& path) { revealed.push_back(path); },
-                                      .visitPage = [this](const char* page) { pages.emplace_back(page); }});
+                                      .visitPage = [this](const QString& page) { pages.push_back(page.toStdString()); },
+                                      .writeToMaker = [this] { pages.emplace_back("mail"); },
+                                      .feedFolder = QStringLiteral("https://maker.test/product/"),
+                                      .makeUpdater = options.hasUpdater ? makeUpdater : nullptr});
     controller->setOutlets(layOutMainWindow(window, panels));
     window.setOutlets(controller->outlets()._folderView, controller.get());
   }
@@ -94,6 +112,8 @@ struct TestWindow {
   std::optional<std::filesystem::path> choice;
   std::vector<std::filesystem::path> revealed;
   std::vector<std::string> pages;
+  int updaters = 0;                ///< made
+  std::vector<std::string> asked;  ///< of them
   SharedPanels panels;
   FolderWork work;
   QVWindow window;

@@ -11,8 +11,11 @@
 #include <QUrl>
 
 #include "TestWindow.h"
+#include "app/AboutController.h"
 #include "app/SheetPrompts.h"
+#include "app/SheetUpdateView.h"
 #include "composition/view/PreviewStrip.h"
+#include "ui/ApplicationIcon.h"
 #include "ui/HVColorWell.h"
 #include "ui/LabelTextField.h"
 #include "ui/Sheet.h"
@@ -106,6 +109,37 @@ void takeAll(Pictures& pictures) {
   pictures.take(test.panels.fontPanel(), QStringLiteral("12-font-panel"));
 }
 
+/// The windows beside the main one, and the sheets on them.
+void takeSideWindows(Pictures& pictures) {
+  TestWindow test;
+  test.launch();
+  PreferenceController& preferences = test.controller->preferenceController();
+  QTimer::singleShot(400, [&] {
+    preferences._setFont({QStringLiteral("Noto Sans"), QStringLiteral("Bold"), 50});
+    preferences.outlets()._colorWell->setColor(QColor(QStringLiteral("#b00020")));
+    // The screen that there is not is small.
+    preferences.window().resize(preferences.window().wantedSize());
+    pictures.take(preferences.window(), QStringLiteral("15-preferences"));
+    preferences.showColorPanel(nullptr);
+    pictures.take(preferences.window(), QStringLiteral("16-default-color"));
+    preferences.closeColorPanel(nullptr);
+    preferences.showFontPanel(nullptr);
+    pictures.take(preferences.window(), QStringLiteral("17-default-font"));
+    preferences.closeFontPanel(nullptr);
+    preferences.cancel(nullptr);
+  });
+  test.controller->perform(MenuCommand::Preferences);
+  test.controller->perform(MenuCommand::About);
+  SideWindow& about = test.controller->aboutController()->window();
+  about.resize(about.wantedSize());
+  pictures.take(about, QStringLiteral("18-about"));
+  QTimer::singleShot(400, [&] {
+    pictures.take(about, QStringLiteral("19-licence"));
+    about.cancelSheets();
+  });
+  test.controller->aboutController()->showLicence(nullptr);
+}
+
 void takeSheets(Pictures& pictures) {
   struct Asked {
     QString name;
@@ -123,6 +157,30 @@ void takeSheets(Pictures& pictures) {
       {QStringLiteral("8-shortcuts"), [](TestWindow& test) { test.controller->perform(MenuCommand::Shortcuts); }},
       {QStringLiteral("9-save-look"), [](TestWindow& test) { test.controller->perform(MenuCommand::SaveLook); }},
       {QStringLiteral("10-looks"), [](TestWindow& test) { test.controller->perform(MenuCommand::ManageLooks); }},
+      {QStringLiteral("20-newer-version"),
+       [](TestWindow& test) {
+         SheetUpdateView(test.window).offer({.version = QStringLiteral("1.2"),
+                                             .runningVersion = QStringLiteral("1.1"),
+                                             .published = QStringLiteral("3 March 2026"),
+                                             .news = QStringLiteral("Version 1.2 mends what you told us of.\n\n• Labels of "
+                                                                    "many lines are fitted in half the time\n• The base "
+                                                                    "pictures can be searched\n• Folders on read-only disks "
+                                                                    "are named before anything is tried"),
+                                             .pageHost = QStringLiteral("quorvane.test")});
+       }},
+      {QStringLiteral("21-newest-version"),
+       [](TestWindow& test) {
+         SheetUpdateView(test.window).tell(QStringLiteral("You Have the Newest Version"),
+                                           QStringLiteral("Quorvane 1.1 is the newest version there is."), {});
+       }},
+      {QStringLiteral("22-waiting"),
+       [](TestWindow& test) {
+         SheetUpdateView view(test.window);
+         view.beginWaiting([] {});
+         settle(2500);
+       }},
+      {QStringLiteral("13-dock-tip"), [](TestWindow& test) { test.controller->runDockTipSheet(); }},
+      {QStringLiteral("14-share"), [](TestWindow& test) { test.controller->runShareOnFacebookSheet(); }},
   };
   for (const Asked& sheet : sheets) {
     // The prompts need the window, and the window the prompts.
@@ -132,8 +190,10 @@ void takeSheets(Pictures& pictures) {
       int run(const Prompt& prompt) override {
         if (prompt.kind == Prompt::Kind::Message)
           return window->runMessageSheetWithTitle(prompt.title, prompt.message), 1;
-        window->runPromptSheetWithTitle(prompt.title, prompt.message, prompt.defaultButton, {}, {}, prompt.details);
-        return 1;
+        const auto button = [](const QString& title) { return title.isEmpty() ? std::nullopt : std::optional(title); };
+        return window->runPromptSheetWithTitle(prompt.title, prompt.message, button(prompt.defaultButton),
+                                               button(prompt.alternateButton), button(prompt.otherButton),
+                                               prompt.details);
       }
     } prompts;
     TestWindow test({.mode = WorkQueue::Mode::AtOnce, .prompts = &prompts, .notices = nullptr});
@@ -156,6 +216,8 @@ int main(int argc, char** argv) {
   if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
   QApplication application(argc, argv);
   QCoreApplication::setApplicationName(QStringLiteral("Quorvane"));
+  QCoreApplication::setApplicationVersion(QStringLiteral("0.1.0"));
+  QGuiApplication::setWindowIcon(applicationIcon({}));
   QApplication::setQuitOnLastWindowClosed(false);
   if (argc < 2) return 2;
   QDir().mkpath(QString::fromLocal8Bit(argv[1]));
@@ -174,8 +236,11 @@ int main(int argc, char** argv) {
     test::Pictures pictures(
         QString::fromLocal8Bit(argv[1]),
         prefix + (scheme == Theme::Scheme::Dark ? QStringLiteral("dark-") : QStringLiteral("light-")));
-    test::takeAll(pictures);
-    test::takeSheets(pictures);
+    if (!qEnvironmentVariableIsSet("QUORVANE_SIDE_ONLY")) {
+      test::takeAll(pictures);
+      test::takeSheets(pictures);
+    }
+    test::takeSideWindows(pictures);
   }
   return 0;
 }
