@@ -29,6 +29,10 @@ set(CPACK_DEBIAN_PACKAGE_DEPENDS
 # the user's language.
 set(CPACK_DEBIAN_PACKAGE_RECOMMENDS
     "fonts-noto-core, fonts-noto-color-emoji, fonts-noto-cjk | fonts-japanese-gothic, qt6-translations-l10n")
+if(QUORVANE_UPDATER)
+  # Who a server is when it is asked for newer versions.
+  string(APPEND CPACK_DEBIAN_PACKAGE_RECOMMENDS ", ca-certificates")
+endif()
 # Keeps the settings from which GNOME's, Cinnamon's and MATE's file managers take a folder's icon.
 set(CPACK_DEBIAN_PACKAGE_SUGGESTS gvfs)
 include(CPack)

@@ -22,11 +22,13 @@ class InstallTest(EndToEndTest):
                  f"share/metainfo/{APP_ID}.metainfo.xml", f"share/icons/hicolor/scalable/apps/{APP_ID}.svg",
                  f"share/icons/hicolor/symbolic/apps/{APP_ID}-symbolic.svg"}
         files |= {f"share/icons/hicolor/{size}x{size}/apps/{APP_ID}.png" for size in SIZES}
-        files |= {"share/doc/quorvane/" + text for text in ("LICENSE", "copyright", "changelog.gz", "what-it-writes.md",
+        files |= {"share/doc/quorvane/" + text for text in ("LICENSE", "copyright", "changelog.gz", "what-it-writes.md", "updates.md",
                                                             "thunar.md", "examples/quorvane-folder.thumbnailer")}
         if os.path.exists(os.path.join(BUILD, "src/app/quorvane-window")):
             files |= {"bin/quorvane-window", f"share/applications/{APP_ID}.desktop",
                       "share/man/man1/quorvane-window.1.gz"}
+        if os.path.exists(os.path.join(BUILD, "src/libexec/quorvane/quorvane-feed")):
+            files.add("libexec/quorvane/quorvane-feed")
         return files
 
     def listed(self, top):
@@ -39,7 +41,7 @@ class InstallTest(EndToEndTest):
         self.assertEqual(self.listed(prefix), self.expected())
         for path in self.listed(prefix):
             mode = os.stat(os.path.join(prefix, path)).st_mode & 0o7777
-            self.assertEqual(mode, 0o755 if path.startswith("bin/") else 0o644, path)
+            self.assertEqual(mode, 0o755 if path.startswith(("bin/", "libexec/")) else 0o644, path)
         original = support.PROGRAM
         self.addCleanup(setattr, support, "PROGRAM", original)
         for place in (prefix, moved):

@@ -2,6 +2,7 @@
 """Starting and ending: with every kind of name, once more, without a bus, with a signal in each state; and what the
 program touches and speaks to meanwhile."""
 import base64
+import contextlib
 import json
 import os
 import re
@@ -12,8 +13,9 @@ import time
 import unittest
 
 from driver import SIZE, WindowTest
-from support import CUSTOM_ICON, ICON_COMPANION, folder_flags, read, tree, write
+from support import BUILD, CUSTOM_ICON, ICON_COMPANION, folder_flags, read, tree, write
 
+FEED = os.path.join(BUILD, "src/libexec/quorvane/quorvane-feed")
 FRAME = "Window Frame MainWindowAutosave"
 NO_BUS = {"DBUS_SESSION_BUS_ADDRESS": "unix:path=/nowhere"}
 
@@ -150,12 +152,41 @@ class StartsTest(WindowTest):
         folder = self.folder()
         write(os.path.join(self.home, "mine"), b"mine")
         before = tree(self.home)
-        self.assertEqual(self.trace(folder, act=lambda: self._apply_blindly(folder)), ([], []))
+
+        def act():
+            self._apply_blindly(folder)
+            for keys, title in ((["ctrl+comma"], "Preferences"), (["alt+h", "a"], "About Quorvane")):
+                self.key(*keys)
+                shown = lambda: self.xdotool("search", "--onlyvisible", "--name", f"^{title}$")
+                self.wait(lambda: shown() and shown() == self.xdotool("getactivewindow"), title)
+                self.key("Escape")
+                self.wait(lambda: not shown(), title + " to go")
+
+        self.assertEqual(self.trace(folder, act=act), ([], []))
         after = tree(self.home)
         new = {name.split("/")[1] for name in set(after) - set(before)}
         self.assertLessEqual(new, {"config", "data", "cache", "state"})
         self.assertEqual({name: after[name] for name in before if name != "."},
                          {name: before[name] for name in before if name != "."})
+
+    def test_with_the_switch_on_it_asks_for_the_one_feed(self):
+        if not os.path.exists(FEED):
+            self.skipTest("this build has no updater")
+        settings = os.path.join(self.home, "config/quorvane/settings.json")
+        os.makedirs(os.path.dirname(settings))
+        write(settings, b'{"quorvane-settings": 1, "values": {"HVCheckAtStartup": true}}')
+
+        def is_asked():
+            with contextlib.suppress(OSError, KeyError):
+                return b"quorvane-feed" in read(os.path.join(self.place, "trace"))
+
+        calls, feeds = self.trace(act=lambda: self.wait(is_asked, "the feed to be asked for", patience=60))
+        address = json.loads(read(settings))["values"]["SUFeedURL"]
+        self.assertRegex(address, r"^https://[^/]+/.*appcast-\d+\.xml$")
+        self.assertEqual(len(feeds), 1, feeds)
+        self.assertIn(f'"{address}"', feeds[0])
+        # The name leads nowhere: all that goes out asks for it.
+        self.assertEqual([call for call in calls if not re.search(r"htons\((53|0)\)", call)], [])
 
     def test_a_window_that_cannot_be_seen_is_brought_back(self):
         with self.start() as program:

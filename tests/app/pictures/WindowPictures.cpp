@@ -16,6 +16,7 @@
 #include "TestWindow.h"
 #include "app/AboutController.h"
 #include "app/SheetPrompts.h"
+#include "app/SheetUpdateView.h"
 #include "app/Translations.h"
 #include "composition/view/PreviewStrip.h"
 #include "library/view/LibraryPanels.h"
@@ -223,6 +224,28 @@ void takeSheets(Pictures& pictures) {
       {QStringLiteral("8-shortcuts"), [](TestWindow& test) { test.controller->perform(MenuCommand::Shortcuts); }},
       {QStringLiteral("9-save-look"), [](TestWindow& test) { test.controller->perform(MenuCommand::SaveLook); }},
       {QStringLiteral("10-looks"), [](TestWindow& test) { test.controller->perform(MenuCommand::ManageLooks); }},
+      {QStringLiteral("20-newer-version"),
+       [](TestWindow& test) {
+         SheetUpdateView(test.window).offer({.version = QStringLiteral("1.2"),
+                                             .runningVersion = QStringLiteral("1.1"),
+                                             .published = QStringLiteral("3 March 2026"),
+                                             .news = QStringLiteral("Version 1.2 mends what you told us of.\n\n• Labels of "
+                                                                    "many lines are fitted in half the time\n• The base "
+                                                                    "pictures can be searched\n• Folders on read-only disks "
+                                                                    "are named before anything is tried"),
+                                             .pageHost = QStringLiteral("quorvane.test")});
+       }},
+      {QStringLiteral("21-newest-version"),
+       [](TestWindow& test) {
+         SheetUpdateView(test.window).tell(QStringLiteral("You Have the Newest Version"),
+                                           QStringLiteral("Quorvane 1.1 is the newest version there is."), {});
+       }},
+      {QStringLiteral("22-waiting"),
+       [](TestWindow& test) {
+         SheetUpdateView view(test.window);
+         view.beginWaiting([] {});
+         settle(2500);
+       }},
       {QStringLiteral("13-dock-tip"), [](TestWindow& test) { test.controller->runDockTipSheet(); }},
       {QStringLiteral("14-share"), [](TestWindow& test) { test.controller->runShareOnFacebookSheet(); }},
   };
