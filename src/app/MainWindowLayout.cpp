@@ -11,7 +11,9 @@
 #include "app/LayoutPieces.h"
 #include "app/MainMenu.h"
 #include "app/NoticeLabel.h"
+#include "app/OverlayGroup.h"
 #include "app/QVWindow.h"
+#include "app/TintBar.h"
 #include "composition/view/FolderView.h"
 #include "ui/ActionIcons.h"
 #include "ui/ElidedLabel.h"
@@ -19,6 +21,7 @@
 #include "ui/HVTableView.h"
 #include "ui/LabelTextField.h"
 #include "ui/PopUpButton.h"
+#include "ui/SharedPanels.h"
 #include "ui/Slider.h"
 
 namespace quorvane {
@@ -31,11 +34,12 @@ QString tr(const char* text) {
 
 /// Tab goes as one reads: the canvas before what changes it, the buttons that end the work last.
 void setTabOrder(const Outlets& outlets) {
-  QWidget* const order[] = {
-      outlets._openBtn,       outlets._baseTableView, outlets._customTableView, outlets._folderView,
-      outlets._labelTF,       outlets._fontBtn,       outlets._fontSizeSlider,  outlets._lineSpacingSlider,
-      outlets._colorWell,     outlets._effectPopUp,   outlets._shearSlider,     outlets._rotationSlider,
-      outlets._opacitySlider, outlets._resetBtn,      outlets._revertBtn,       outlets._applyBtn};
+  QWidget* const order[] = {outlets._openBtn,        outlets._baseTableView,     outlets._customTableView,
+                            outlets._folderView,     outlets._labelTF,           outlets._fontBtn,
+                            outlets._fontSizeSlider, outlets._lineSpacingSlider, outlets._colorWell,
+                            outlets._effectPopUp,    outlets._shearSlider,       outlets._rotationSlider,
+                            outlets._opacitySlider,  outlets._resetBtn,          outlets._overlayGroup->chooseButton(),
+                            outlets._revertBtn,      outlets._applyBtn};
   for (std::size_t i = 1; i < std::size(order); ++i) QWidget::setTabOrder(order[i - 1], order[i]);
 }
 
@@ -85,7 +89,13 @@ Outlets layOutMainWindow(QVWindow& window, SharedPanels& panels) {
   outlets._baseColumn->setFixedWidth(baseColumnWidth);
   outlets._baseTableView = outlets._baseColumn->baseTableView();
   outlets._customTableView = outlets._baseColumn->customTableView();
-  columns->addWidget(outlets._baseColumn);
+  outlets._tintBar = new TintBar(&panels.colorPanel());
+  outlets._tintBar->setFixedWidth(baseColumnWidth);
+  auto* bases = new QVBoxLayout;
+  bases->setSpacing(layoutGap);
+  bases->addWidget(outlets._tintBar);
+  bases->addWidget(outlets._baseColumn, 1);
+  columns->addLayout(bases);
   columns->addWidget(makeCanvasColumn(outlets), 1);
   columns->addWidget(makeInspector(outlets, panels));
   rows->addLayout(columns, 1);

@@ -11,6 +11,7 @@
 #include <QUrl>
 
 #include "TestWindow.h"
+#include "app/OverlayGroup.h"
 #include "app/SheetPrompts.h"
 #include "composition/view/PreviewStrip.h"
 #include "ui/HVColorWell.h"
@@ -98,6 +99,18 @@ void takeAll(Pictures& pictures) {
   test.controller->setBaseIcon(plainImage(QColor(QStringLiteral("#3a9d5d")), 512));
   test.ui()._folderView->setMagnification(3);
   pictures.take(test.window, QStringLiteral("5-base-picture"));
+
+  test.controller->setBaseIcon(std::nullopt);
+  test.ui()._folderView->setMagnification(2);
+  test.controller->setTint(QColor(0x58, 0xB3, 0x68));
+  test.controller->setOverlayDrawing(OverlayEmblem{QStringLiteral("star")});
+  test.ui()._folderView->setOverlaySelected(true);
+  test.ui()._folderView->setFocus();
+  test.window.resize(1180, 760);
+  pictures.take(test.window, QStringLiteral("13-overlay"));
+  OverlayPopup* chooser = test.ui()._overlayGroup->choose();
+  pictures.take(*chooser, QStringLiteral("14-choose-overlay"));
+  chooser->close();
 
   test.panels.colorPanel().showPanel();
   pictures.take(test.panels.colorPanel(), QStringLiteral("11-color-panel"));
