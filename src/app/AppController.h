@@ -14,6 +14,7 @@
 #include "app/AppServices.h"
 #include "app/Outlets.h"
 #include "app/core/SettingsTable.h"
+#include "composition/core/IconOverlay.h"
 #include "composition/core/LabelValues.h"
 #include "foundation/ScratchFolder.h"
 #include "foundation/base/Result.h"
@@ -150,6 +151,21 @@ class AppController : public QObject, public HVWindowDelegate, public LabelTextF
   /// Everything but what the label says, as one step.
   void applyLook(const QString& name);
 
+  // Tint and overlay.
+  /// nullopt: none. Needs a folder, as all of these do.
+  void setTint(const std::optional<QColor>& tint);
+  /// Another drawing in the place of the one that is there; the first one where overlays usually stand.
+  void setOverlayDrawing(const OverlayDrawing& drawing);
+  void removeOverlay();
+  void setOverlaySize(Slider& sender);
+  void setOverlayOpacity(Slider& sender);
+  /// nullopt: the one that suits the picture.
+  void setOverlayColor(const std::optional<QColor>& color);
+  /// Any picture file as the overlay.
+  void chooseOverlayPicture();
+  /// Reads it and shows it, be it later, as setBasePicture().
+  void setOverlayPicture(const Path& path);
+
   /// Any picture file as the base icon; without a folder the first step is shown.
   void chooseBasePicture();
   /// Reads it and shows it, be it later; another picture, or another folder, replaces one that has not been read yet.
@@ -208,6 +224,14 @@ class AppController : public QObject, public HVWindowDelegate, public LabelTextF
   void _fillLooksMenu();
   void _setBaseReference(const BaseReference& reference);
   void _showBaseReference(const BaseReference& reference, const Result<Image>& picture);
+  /// Reads a picture in another thread and has it shown, be it later.
+  void _readPicture(const std::function<Result<Image>()>& read, const std::function<void(const Result<Image>&)>& show);
+  void _connectTintAndOverlay();
+  void _showTintAndOverlay();
+  void _clearTintAndOverlay();
+  void _changeOverlay(const std::function<void(IconOverlay&)>& change);
+  /// Whether the colour panel's colours go to another well than the label's.
+  [[nodiscard]] bool _isOtherWellActive() const;
   void _cancelLook();
   void _cancelPicture();
   void _endReading();
@@ -246,7 +270,8 @@ class AppController : public QObject, public HVWindowDelegate, public LabelTextF
   bool _isLooking = false;  ///< whether there is a folder at the path to open
   bool _isLoading = false;  ///< what the folder shows
   bool _isReading = false;  ///< a base picture
-  int _briefWaits = 0;      ///< how many calls of _waitBriefly() are under way
+  bool _hasTintOrOverlay = false;
+  int _briefWaits = 0;  ///< how many calls of _waitBriefly() are under way
   // Each counts the calls of the like, to tell one from a later one.
   unsigned _look = 0;     ///< applicationOpenFile()
   unsigned _opening = 0;  ///< setPath()

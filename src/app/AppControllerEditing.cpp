@@ -24,7 +24,7 @@
 namespace quorvane {
 
 void AppController::setColor(const QColor& color) {
-  if (_ignoreChangeColor) return;
+  if (_ignoreChangeColor || _isOtherWellActive()) return;
   _folderView->setColor(color);
   _colorWell->setColor(color);
 }
@@ -160,7 +160,7 @@ void AppController::_showValues() {
   _updateFontToolTip();
   if (look.color) {
     _colorWell->setColor(*look.color);
-    _services.panels.colorPanel().setColor(*look.color);
+    if (!_isOtherWellActive()) _services.panels.colorPanel().setColor(*look.color);
   }
   for (int item = 0; item < _effectPopUp->count(); ++item) {
     const int tag = _effectPopUp->tagAt(item);
@@ -181,6 +181,7 @@ void AppController::_canvasChanged() {
   _previewStrip->setComposition(_folderView->composition());
   _previewStrip->setVisible(_folderView->baseIcon() || _folderView->currentIcon());
   _baseColumn->showPicture(_folderView->baseIcon());
+  _showTintAndOverlay();
 }
 
 void AppController::chooseBasePicture() {
@@ -196,6 +197,12 @@ void AppController::setBasePicture(const Path& path) {
 }
 
 void AppController::_setBaseReference(const BaseReference& reference) {
+  _readPicture([read = _services.readPicture, reference] { return read(reference); },
+               [this, reference](const Result<Image>& picture) { _showBaseReference(reference, picture); });
+}
+
+void AppController::_readPicture(const std::function<Result<Image>()>& read,
+                                 const std::function<void(const Result<Image>&)>& show) {
   _cancelPicture();
   struct Answer {
     std::optional<Result<Image>> picture;
@@ -205,18 +212,17 @@ void AppController::_setBaseReference(const BaseReference& reference) {
   const unsigned reading = _reading;
   _isReading = true;
   _beginWork(tr("Reading the picture…"));
-  _services.work.readPicture([read = _services.readPicture, reference] { return read(reference); },
-                             [this, self = QPointer(this), answer, reference, reading](Result<Image> picture) {
-                               if (!self || reading != _reading) return;
-                               _endReading();
-                               if (answer->isLate)
-                                 _showBaseReference(reference, picture);
-                               else
-                                 answer->picture = std::move(picture);
-                             });
+  _services.work.readPicture(read, [this, self = QPointer(this), answer, show, reading](Result<Image> picture) {
+    if (!self || reading != _reading) return;
+    _endReading();
+    if (answer->isLate)
+      show(picture);
+    else
+      answer->picture = std::move(picture);
+  });
   _waitBriefly([&] { return answer->picture || reading != _reading; });
   answer->isLate = true;
-  if (answer->picture && reading == _reading) _showBaseReference(reference, *answer->picture);
+  if (answer->picture && reading == _reading) show(*answer->picture);
 }
 
 void AppController::_endReading() {

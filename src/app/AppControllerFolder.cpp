@@ -138,6 +138,7 @@ void AppController::setPath(const std::optional<Path>& path) {
   if (opening != _opening) return;
   answer->isLate = !answer->loaded;
 
+  _clearTintAndOverlay();
   if (answer->loaded)
     _showLoaded(*answer->loaded);
   else
@@ -198,6 +199,7 @@ void AppController::_applied(const Path& path, const Result<BrandingResult>& res
     return;
   }
   for (const std::string& note : result->notes) logMessage("window", note);
+  _clearTintAndOverlay();
   setBaseIcon(std::nullopt);
   setLabel(std::nullopt);
   setPath(path);
@@ -223,6 +225,7 @@ void AppController::_reverted(const Path& path, const Result<BrandingResult>& re
   const bool hadBackup =
       result ? result->outcome != BrandingOutcome::NothingToRevert : _origIconView->image().has_value();
   if (!hadBackup) return;
+  _clearTintAndOverlay();
   _labelTF->setStringValue(QString());
   setLabel(std::nullopt);
   const auto answer = std::make_shared<bool>(false);
@@ -246,7 +249,8 @@ void AppController::_reverted(const Path& path, const Result<BrandingResult>& re
 bool AppController::_isIconModified() const {
   if (!_path) return false;
   const auto& label = _folderView->label();
-  return (label && !label->isEmpty()) || _folderView->baseIcon();
+  const IconComposition& composition = _folderView->composition();
+  return (label && !label->isEmpty()) || _folderView->baseIcon() || composition.tint() || composition.overlay();
 }
 
 void AppController::closeFolder() {
@@ -254,6 +258,7 @@ void AppController::closeFolder() {
   _baseTableView->clearSelection();
   setPath(std::nullopt);
   _labelTF->setStringValue(QString());
+  _clearTintAndOverlay();
   _folderView->setCurrentIcon(std::nullopt);
   setBaseIcon(std::nullopt);
   setLabel(std::nullopt);

@@ -95,6 +95,7 @@ void AppController::_connectControls() {
   connect(_baseColumn, &BaseColumn::clearPicture, this, [this] { setBaseIcon(std::nullopt); });
 
   connect(_folderView, &FolderView::labelMoved, this, [this] { _history->note(); });
+  _connectTintAndOverlay();
   _connectMenu();
 
   _labelTF->setUndoRedoEnabled(false);

@@ -7,9 +7,12 @@
 #include <QScrollBar>
 #include <QStyle>
 #include <QVBoxLayout>
+#include <initializer_list>
 
+#include "app/InspectorCard.h"
 #include "app/LayoutPieces.h"
 #include "app/MainWindowLayout.h"
+#include "app/OverlayGroup.h"
 #include "ui/HVColorWell.h"
 #include "ui/PopUpButton.h"
 #include "ui/SharedPanels.h"
@@ -22,54 +25,6 @@ namespace {
 QString tr(const char* text) {
   return QCoreApplication::translate("quorvane", text);
 }
-
-QString withoutAccessKey(QString text) {
-  return text.remove(QLatin1Char('&'));
-}
-
-/// A card with a caption and rows of controls.
-class Card {
- public:
-  explicit Card(const QString& caption) : frame(makeCard()), _rows(new QVBoxLayout(frame)) {
-    _rows->setContentsMargins(cardPadding, cardPadding - 4, cardPadding, cardPadding - 2);
-    _rows->setSpacing(2);
-    if (!caption.isEmpty()) _rows->addWidget(makeCaption(caption));
-  }
-
-  /// The name beside a control that is told to assistive tools by it.
-  void addRow(const QString& name, QWidget* control, bool isCaption = false) {
-    control->setAccessibleName(withoutAccessKey(name));
-    auto* row = new QHBoxLayout;
-    row->setSpacing(10);
-    row->addWidget(isCaption ? makeCaption(name, control) : makeControlName(name, control), 2);
-    row->addWidget(control, 5);
-    _rows->addSpacing(isCaption ? 0 : 4);
-    _rows->addLayout(row);
-  }
-
-  /// The name above: tracks want all the width they can get.
-  Slider* addSlider(const QString& name, const Slider::Range& range) {
-    auto* slider = new Slider;
-    slider->setRange(range);
-    slider->setValue(range.defaultValue);
-    slider->setName(withoutAccessKey(name));
-    slider->setAccessibleName(withoutAccessKey(name));
-    _rows->addSpacing(4);
-    _rows->addWidget(makeControlName(name, slider->track()));
-    _rows->addWidget(slider);
-    return slider;
-  }
-
-  void addWidget(QWidget* widget) {
-    _rows->addSpacing(6);
-    _rows->addWidget(widget);
-  }
-
-  QFrame* frame;
-
- private:
-  QVBoxLayout* _rows;
-};
 
 PopUpButton* makeEffects() {
   // Captions have negative tags.
@@ -93,7 +48,7 @@ PopUpButton* makeEffects() {
 }  // namespace
 
 QWidget* makeInspector(Outlets& outlets, SharedPanels& panels) {
-  Card text(tr("Text"));
+  InspectorCard text(tr("Text"));
   outlets._fontBtn = new QPushButton;
   outlets._fontBtn->setCheckable(true);
   text.addRow(tr("Fon&t"), outlets._fontBtn);
@@ -118,11 +73,11 @@ QWidget* makeInspector(Outlets& outlets, SharedPanels& panels) {
                                                                     .typedMaximum = 5,
                                                                     .suffix = {}});
   // One control: its name is the caption.
-  Card effect({});
+  InspectorCard effect({});
   outlets._effectPopUp = makeEffects();
   effect.addRow(tr("Effe&ct"), outlets._effectPopUp, true);
 
-  Card transform(tr("Transform"));
+  InspectorCard transform(tr("Transform"));
   outlets._shearSlider = transform.addSlider(tr("&Shear"), {.minimum = -1,
                                                             .maximum = 1,
                                                             .step = 0.02,
@@ -155,7 +110,10 @@ QWidget* makeInspector(Outlets& outlets, SharedPanels& panels) {
   auto* layout = new QVBoxLayout(cards);
   layout->setContentsMargins({});
   layout->setSpacing(layoutGap);
-  for (const Card* card : {&text, &effect, &transform}) layout->addWidget(card->frame);
+  outlets._overlayGroup = new OverlayGroup(&panels.colorPanel());
+  for (QWidget* card :
+       std::initializer_list<QWidget*>{text.frame, effect.frame, transform.frame, outlets._overlayGroup->card()})
+    layout->addWidget(card);
   layout->addStretch();
 
   // With large fonts the cards are higher than a small screen.

@@ -11,7 +11,9 @@
 #include "app/LayoutPieces.h"
 #include "app/MainMenu.h"
 #include "app/NoticeLabel.h"
+#include "app/OverlayGroup.h"
 #include "app/QVWindow.h"
+#include "app/TintBar.h"
 #include "composition/view/FolderView.h"
 #include "library/view/LibraryTableView.h"
 #include "library/view/LibraryView.h"
@@ -20,6 +22,7 @@
 #include "ui/HVColorWell.h"
 #include "ui/LabelTextField.h"
 #include "ui/PopUpButton.h"
+#include "ui/SharedPanels.h"
 #include "ui/Slider.h"
 
 namespace quorvane {
@@ -34,11 +37,11 @@ QString tr(const char* text) {
 void setTabOrder(const Outlets& outlets) {
   QList<QWidget*> order{outlets._openBtn};
   order += outlets._baseColumn->tabOrder();
-  order +=
-      QList<QWidget*>{outlets._folderView,     outlets._labelTF,           outlets._fontBtn,     outlets._colorWell,
-                      outlets._fontSizeSlider, outlets._lineSpacingSlider, outlets._effectPopUp, outlets._shearSlider,
-                      outlets._rotationSlider, outlets._opacitySlider,     outlets._resetBtn,    outlets._revertBtn,
-                      outlets._applyBtn};
+  order += QList<QWidget*>{outlets._folderView,     outlets._labelTF,           outlets._fontBtn,
+                           outlets._fontSizeSlider, outlets._lineSpacingSlider, outlets._colorWell,
+                           outlets._effectPopUp,    outlets._shearSlider,       outlets._rotationSlider,
+                           outlets._opacitySlider,  outlets._resetBtn,          outlets._overlayGroup->chooseButton(),
+                           outlets._revertBtn,      outlets._applyBtn};
   for (qsizetype i = 1; i < order.size(); ++i) QWidget::setTabOrder(order[i - 1], order[i]);
 }
 
@@ -89,6 +92,8 @@ Outlets layOutMainWindow(QVWindow& window, SharedPanels& panels, BaseIconControl
   outlets._baseColumn->setFixedWidth(baseColumnWidth);
   outlets._baseTableView = outlets._baseColumn->library()->builtinTableView();
   outlets._customTableView = outlets._baseColumn->library()->customTableView();
+  outlets._tintBar = new TintBar(&panels.colorPanel());
+  outlets._baseColumn->tintSlot()->layout()->addWidget(outlets._tintBar);
   columns->addWidget(outlets._baseColumn);
   columns->addWidget(makeCanvasColumn(outlets), 1);
   columns->addWidget(makeInspector(outlets, panels));

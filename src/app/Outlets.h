@@ -17,10 +17,12 @@ class ImageView;
 class LabelTextField;
 class MainMenu;
 class NoticeLabel;
+class OverlayGroup;
 class PopUpButton;
 class PreviewStrip;
 class QVWindow;
 class Slider;
+class TintBar;
 
 /// The parts of the main window that its controller works with. They belong to the window.
 struct Outlets {
@@ -42,6 +44,9 @@ struct Outlets {
 
   Drawer* _origIconDrawer = nullptr;
   ImageView* _origIconView = nullptr;
+
+  TintBar* _tintBar = nullptr;
+  OverlayGroup* _overlayGroup = nullptr;
 
   HVColorWell* _colorWell = nullptr;
   QPushButton* _fontBtn = nullptr;  ///< on while the font panel is shown

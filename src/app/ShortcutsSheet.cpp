@@ -16,12 +16,14 @@ namespace quorvane {
 ShortcutsSheet::ShortcutsSheet(const MainMenu& menu) {
   setWindowTitle(tr("Keyboard Shortcuts"));
   std::vector<MainMenu::ShortcutGroup> groups = menu.shortcuts();
-  groups.push_back({tr("Canvas"),
-                    {{tr("Move the label by 1"), tr("Arrow keys")},
-                     {tr("Move the label by 10"), tr("Shift+Arrow keys")},
-                     {tr("Center the label"), QKeySequence(Qt::Key_Home).toString(QKeySequence::NativeText)},
-                     {tr("Put the label back while it is dragged"),
-                      QKeySequence(Qt::Key_Escape).toString(QKeySequence::NativeText)}}});
+  groups.push_back(
+      {tr("Canvas"),
+       {{tr("Move the label by 1"), tr("Arrow keys")},
+        {tr("Move the label by 10"), tr("Shift+Arrow keys")},
+        {tr("Center the label"), QKeySequence(Qt::Key_Home).toString(QKeySequence::NativeText)},
+        {tr("Put the label back while it is dragged"), QKeySequence(Qt::Key_Escape).toString(QKeySequence::NativeText)},
+        {tr("Move the overlay instead, or the label again"),
+         QKeySequence(Qt::Key_Space).toString(QKeySequence::NativeText)}}});
 
   // Two columns of groups, each a name and its keys.
   auto* list = new QWidget;

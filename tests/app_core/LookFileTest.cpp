@@ -8,6 +8,7 @@
 #include "app/core/LabelPattern.h"
 #include "foundation/base/Limits.h"
 #include "imaging/PngCodec.h"
+#include "support/Bitmaps.h"
 #include "support/BrandingFixture.h"
 #include "support/TemporaryFolder.h"
 
@@ -151,6 +152,43 @@ TEST(LookFile, ItsBasePictureStaysInTheFolderOfTheFile) {
   fs::create_symlink(place / "elsewhere/victim", place / "looks/planted.look");
   EXPECT_FALSE(writeLookFile(place / "looks/planted.look", {}).ok());
   EXPECT_FALSE(fs::exists(place / "elsewhere/victim"));
+}
+
+TEST(LookFile, BringsTintAndOverlayAlong) {
+  const auto picture =
+      OverlayPicture::fromImage(Image::imageWithBitmapImageRep(test::filledBitmap(3, 2, {9, 8, 7, 255})));
+  ASSERT_TRUE(picture.ok());
+  for (const OverlayDrawing& drawing : {OverlayDrawing(OverlayEmblem{QStringLiteral("star")}),
+                                        OverlayDrawing(OverlayEmoji{QStringLiteral("🎉")}), OverlayDrawing(*picture)}) {
+    SavedLook saved;
+    saved.look.tint = QColor(1, 2, 3, 128);
+    saved.look.overlay = {drawing, {20.5F, -3}, 77, 0.25F, QColor(Qt::yellow)};
+    const auto read = lookFromJson(*lookToJson(saved));
+    ASSERT_TRUE(read.ok()) << read.error().message();
+    EXPECT_EQ(read->look.tint, saved.look.tint);
+    EXPECT_EQ(read->look.overlay, saved.look.overlay);
+    EXPECT_TRUE(read->others.isEmpty());
+  }
+  const auto plain = lookFromJson(bytesOf(withKeys(R"("color": "red")")));
+  EXPECT_FALSE(plain->look.tint || plain->look.overlay.hasDrawing());
+  EXPECT_EQ(textOf(*lookToJson(*plain)).find("overlay"), std::string::npos);
+
+  const std::string tooLong(600'000, 'A');
+  const auto wide = encodePng(test::filledBitmap(513, 1));
+  const auto base64 = [](const Bytes& bytes) {
+    return QByteArray(reinterpret_cast<const char*>(bytes.data()), static_cast<qsizetype>(bytes.size()))
+        .toBase64()
+        .toStdString();
+  };
+  for (const std::string& keys : std::vector<std::string>{
+           R"("tint": "none of these")", R"("tint": 7)", R"("overlay": "/etc/passwd")", R"("overlay": "../a.png")",
+           R"("overlay": "emblem:../../pictures/folder")", R"("overlay": "emblem:")", R"("overlay": "emoji:ab")",
+           R"("overlay": ["emoji:a"])", R"("overlay-picture": "/etc/passwd")", R"("overlay-picture": "AAAA")",
+           R"("overlay-picture": ")" + tooLong + "\"", R"("overlay-picture": ")" + base64(*wide) + "\"",
+           R"("overlay": "emoji:a", "overlay-picture": ")" + base64(picture->png()) + "\"", R"("overlay-size": 1e308)",
+           R"("overlay-size": 0)", R"("overlay-opacity": -1)", R"("overlay-center": [1e308, 0])",
+           R"("overlay-center": 5)", R"("overlay-size": NaN)"})
+    EXPECT_FALSE(lookFromJson(bytesOf(withKeys(keys))).ok()) << keys.substr(0, 100);
 }
 
 TEST(LabelPattern, PutsTheNameInAndLeavesTheRest) {

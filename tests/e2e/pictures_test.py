@@ -63,6 +63,37 @@ class PicturesTest(EndToEndTest):
         self.assertEqual(read(file), before)
         self.assertEqual(sorted(os.listdir(self.work)), ["a.jpg", "large.jpg"])
 
+    def test_tint_and_overlay_are_drawn_and_kept_in_looks(self):
+        image = pictures()
+        if image is None:
+            self.skipTest("needs python3-pil")
+        file, look, again = (os.path.join(self.work, name) for name in ("a.png", "a.look", "b.png"))
+        red = os.path.join(self.work, "red.png")
+        image.new("RGB", (40, 40), "red").save(red)
+        blue = os.path.join(self.work, "blue.png")
+        image.new("RGB", (512, 512), "#3060c0").save(blue)
+        self.expect(0, "render", "--base", blue, "--tint", "#46a758", "--overlay", red, "--overlay-center", "32,96",
+                    "--overlay-size", "32", "--save-look", look, file)
+        made = image.open(file).convert("RGBA")
+        self.assertEqual(made.getpixel((128, 128)), (255, 0, 0, 255))
+        self.assertEqual(made.getpixel((128, 200)), (0x46, 0xA7, 0x58, 255))
+        # The look alone draws the same, without the picture that it was made with.
+        os.remove(red)
+        self.expect(0, "render", "--look", look, again)
+        self.assertEqual(read(file), read(again))
+        self.expect(0, "render", "--look", look, "--tint", "none", "--overlay", "none", again)
+        self.assertEqual(image.open(again).convert("RGB").getcolors(), [(512 * 512, (0x30, 0x60, 0xC0))])
+        # Rows have them, too.
+        rows = os.path.join(self.work, "rows.csv")
+        folder = self.folder("branded")
+        write(rows, f"folder,tint,overlay,overlay-size\n{folder},red,emblem:star,40\n".encode())
+        self.expect(0, "apply", "--from", rows)
+        for wrong in (["--overlay", "emblem:stra"], ["--overlay-size", "40"], ["--tint", "reddish"],
+                      ["--overlay", "emoji:ab"], ["--overlay", os.path.join(self.work, "none.png")]):
+            with self.subTest(wrong=wrong):
+                self.assertIn(self.run_program("render", *wrong, file).code, (1, 2))
+        self.assertRegex(self.expect(0, "--list-emblems").out, r"(?m)^star +")
+
     def test_links_and_folders_are_left_alone(self):
         target = os.path.join(self.work, "target")
         write(target, b"not ours")

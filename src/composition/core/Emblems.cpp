@@ -16,8 +16,9 @@ namespace quorvane {
 
 namespace {
 
-// Up to here the drawings for 16 pixels are the clearer ones.
-constexpr double smallPixels = 20;
+// Where the drawings for 16 pixels are the clearer ones.
+constexpr double fewestSmallPixels = 13.5;
+constexpr double mostSmallPixels = 18.5;
 
 QByteArray resource(const QString& name) {
   registerEmblems();
@@ -56,7 +57,7 @@ const Emblem* emblemNamed(const QString& name) {
 QByteArray emblemDrawing(const QString& name, double pixels) {
   // Names come from looks of others: only those of the list lead anywhere.
   if (emblemNamed(name) == nullptr) return {};
-  if (pixels <= smallPixels)
+  if (pixels >= fewestSmallPixels && pixels <= mostSmallPixels)
     if (QByteArray drawing = resource(name + QLatin1String("-16.svg")); !drawing.isEmpty()) return drawing;
   return resource(name + QLatin1String(".svg"));
 }

@@ -25,7 +25,7 @@ void IconComposition::setTint(std::optional<QColor> tint) {
 
 void IconComposition::setOverlay(std::optional<IconOverlay> overlay) {
   _overlay = std::move(overlay);
-  changed();
+  changed({.overlay = true});
 }
 
 std::optional<Image> IconComposition::picture() const {

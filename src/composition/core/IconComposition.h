@@ -16,6 +16,7 @@ namespace quorvane {
 struct CompositionChange {
   bool displayedImage = false;  ///< show displayedImage()
   bool label = false;           ///< whether there is text may have changed, and with it the cursor
+  bool overlay = false;         ///< there may be another overlay, or none
   bool selectedFont = false;    ///< font() is the font that a font panel should show as selected
   bool operator==(const CompositionChange&) const = default;
 };

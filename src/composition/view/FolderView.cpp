@@ -47,6 +47,11 @@ void FolderView::compositionDidChange(const CompositionChange& change) {
     resetCursorRects();
     tellAssistiveTechnology();
   }
+  if (change.overlay) {
+    if (!_composition.overlay()) setOverlaySelected(false);
+    resetCursorRects();
+    tellAssistiveTechnology();
+  }
   update();
   if (change.selectedFont) Q_EMIT selectedFontChanged(font());
   Q_EMIT compositionChanged();
@@ -80,7 +85,7 @@ void FolderView::setFolderName(const QString& name) {
 }
 
 QString FolderView::labelDescription() const {
-  if (!label() || label()->isEmpty()) return tr("no label");
+  if (!label() || label()->isEmpty()) return tr("no label") + overlayDescription();
   QString oneLine = *label();
   oneLine.replace(QLatin1Char('\n'), QLatin1Char(' '));
   // The label may hold anything, also what would be taken for the place of a number.
@@ -90,7 +95,7 @@ QString FolderView::labelDescription() const {
   text.replace(QLatin1String("%y"), place(canvasLabelCenter().y));
   text.replace(QLatin1String("%side"), place(canvasSide));
   text.replace(QLatin1String("%label"), oneLine);
-  return text;
+  return text + overlayDescription();
 }
 
 void FolderView::tellAssistiveTechnology() {
@@ -110,10 +115,10 @@ bool FolderView::hasMovableLabel() const {
 }
 
 void FolderView::resetCursorRects() {
-  if (!hasMovableLabel())
+  if (!hasMovableLabel() && !hasOverlay())
     setCursor(Qt::ArrowCursor);
   else
-    setCursor(_mouseDown ? hvClosedHandCursor() : hvOpenHandCursor());
+    setCursor(isMouseDown() ? hvClosedHandCursor() : hvOpenHandCursor());
 }
 
 bool FolderView::event(QEvent* event) {

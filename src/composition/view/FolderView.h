@@ -62,8 +62,16 @@ class FolderView : public ImageView {
   /// The folder's name as people are to read it; empty without a folder. Said to assistive technology only.
   void setFolderName(const QString& name);
   [[nodiscard]] const QString& folderName() const { return _folderName; }
-  /// The label and where it stands, in words.
+  /// The label and where it stands, in words; and the overlay, if there is one.
   [[nodiscard]] QString labelDescription() const;
+
+  /// While the overlay is selected, what moves the label by keys moves it instead, and a frame shows it. A press on
+  /// what is seen of it selects it, one elsewhere the label; so does the space bar in turn.
+  void setOverlaySelected(bool selected);
+  [[nodiscard]] bool isOverlaySelected() const { return _overlaySelected; }
+  /// Whether what is seen of the overlay, and nothing of the label, lies under the place (logical pixels of the view)
+  /// as it was last drawn.
+  [[nodiscard]] bool isOverlayAt(QPointF place) const;
 
   /// Bottom-left corner of a box of that size centred on `center`.
   [[nodiscard]] static Point _originForCenter(Point center, Size size);
@@ -76,11 +84,12 @@ class FolderView : public ImageView {
   void mouseDown(Point place);
   void mouseDragged(Point place);
   void mouseUp();
-  [[nodiscard]] bool isMouseDown() const { return _mouseDown; }
-  /// Puts the label back where the drag found it; the rest of the drag then moves nothing.
+  /// Also while the overlay is dragged.
+  [[nodiscard]] bool isMouseDown() const { return _mouseDown || _overlayDrag; }
+  /// Puts the label, or the overlay, back where the drag found it; the rest of the drag then moves nothing.
   void cancelDrag();
-  /// Ends a run of key presses that moved the label, if there is one. Done by itself half a second after the last of
-  /// them, and before anything else that could be undone.
+  /// Ends a run of key presses that moved the label or the overlay, if there is one. Done by itself half a second after
+  /// the last of them, and before anything else that could be undone.
   void finishKeyMoves();
 
   // Dropping a folder.
@@ -102,6 +111,8 @@ class FolderView : public ImageView {
   void dropRefused(const QString& reason);
   /// The label was moved from one place (canvas units) to another by one drag or one run of key presses.
   void labelMoved(quorvane::Point from, quorvane::Point to);
+  /// The same of the overlay.
+  void overlayMoved(quorvane::Point from, quorvane::Point to);
   /// Anything of the composition changed, the label's place included.
   void compositionChanged();
   /// The font panel should show this font as the selected one.
@@ -124,8 +135,16 @@ class FolderView : public ImageView {
  private:
   void compositionDidChange(const CompositionChange& change);
   void drawLabel(QPainter& painter);
+  void drawOverlay(QPainter& painter);
+  [[nodiscard]] bool hasOverlay() const { return !_showsPlaceholder && _composition.overlay().has_value(); }
+  void setOverlayCenter(Point center);
+  void overlayDown(QPointF place);
+  void overlayDragged(QPointF place);
+  void overlayUp();
+  void tellOverlayMove(Point from);
   void drawInvitation(QPainter& painter) const;
   [[nodiscard]] bool hasMovableLabel() const;
+  [[nodiscard]] QString overlayDescription() const;
   void moveByKeys(Point to);
   void finishKeyMovesBeforeShortcut(QKeyEvent* event);
   void tellMove(Point from);
@@ -134,6 +153,16 @@ class FolderView : public ImageView {
   IconComposition _composition;
   LabelCache _labels;
   LabelCache _silhouettes;  ///< of labels that are lost on the ground, where the icon cuts them off
+  // What was drawn of overlay and label, for telling what lies under the mouse.
+  struct DrawnOverlay {
+    IconOverlay overlay;
+    Image ground;
+    QTransform toPixels;
+    LabelLayer layer;
+  };
+  std::optional<DrawnOverlay> _drawnOverlay;
+  LabelLayer _drawnLabel;
+  double _drawnDensity = 1;  ///< pixels a logical pixel
   bool _showsPlaceholder = false;
   QString _folderName;
 
@@ -144,6 +173,14 @@ class FolderView : public ImageView {
   std::optional<Point> _dragOrigin;  ///< the label centre that the drag began at; none once it is cancelled
   std::optional<Point> _keysOrigin;  ///< the same of a run of key presses
   QTimer _keysEnd;
+  struct OverlayDrag {
+    QPointF start;  ///< of the mouse, in logical pixels
+    Point center;   ///< of the overlay
+    bool isCancelled = false;
+  };
+  bool _overlaySelected = false;
+  std::optional<OverlayDrag> _overlayDrag;
+  std::optional<Point> _overlayKeysOrigin;
   RefusedDropWatch _refused;
 };
 

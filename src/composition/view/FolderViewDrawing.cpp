@@ -6,6 +6,7 @@
 #include <cmath>
 
 #include "composition/core/LabelRenderer.h"
+#include "composition/core/OverlayRenderer.h"
 #include "composition/view/FolderView.h"
 
 namespace quorvane {
@@ -63,10 +64,55 @@ void drawEdge(QPainter& painter, const QRect& picture, const QColor& text, doubl
 void FolderView::drawRect(QPainter& painter) {
   ImageView::drawRect(painter);
   if (_showsPlaceholder) drawInvitation(painter);
+  _drawnDensity = pixelsPerLogicalPixel(painter);
+  drawOverlay(painter);
   drawLabel(painter);
 }
 
+void FolderView::drawOverlay(QPainter& painter) {
+  if (!hasOverlay() || !image()) {
+    _drawnOverlay.reset();
+    return;
+  }
+  const IconOverlay& overlay = *_composition.overlay();
+  const OverlayRenderer renderer(overlay);
+  const PixelGrid grid = imageGrid(painter);
+  const QRect picture = grid.pictureRect();
+  const bool isKnown = _drawnOverlay && _drawnOverlay->overlay == overlay && _drawnOverlay->toPixels == grid.toPixels &&
+                       _drawnOverlay->ground.isSameAs(*image());
+  if (!isKnown) {
+    // A label's room beyond the picture is enough for an overlay's.
+    const QRect room = QRectF(0, 0, width() * _drawnDensity, height() * _drawnDensity).toAlignedRect();
+    const QColor color = overlay.takesColor() ? renderer.colorOn(*image()) : QColor();
+    _drawnOverlay = {overlay, *image(), grid.toPixels,
+                     renderer.layer(imageSize().width, grid.toPixels, room | picture, color)};
+  }
+  const LabelLayer& layer = _drawnOverlay->layer;
+
+  painter.save();
+  enterPixels(painter);
+  if (!layer.pixels.isNull()) {
+    const QRect whole(layer.topLeft, layer.pixels.size());
+    painter.setOpacity(renderer.drawnOpacity());
+    drawPart(painter, layer, whole & picture);
+    painter.setOpacity(renderer.drawnOpacity() * cutOffShare);
+    for (const QRect& part : around(whole, picture)) drawPart(painter, layer, part);
+    painter.setOpacity(1);
+    if (!picture.contains(whole)) drawEdge(painter, picture, palette().color(QPalette::Text), _drawnDensity);
+  }
+  if (_overlaySelected && (hasFocus() || _overlayDrag)) {
+    const double line = std::max(1.0, std::round(_drawnDensity));
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(palette().color(QPalette::Highlight), 1.5 * line));
+    painter.setBrush(Qt::NoBrush);
+    const QRectF square = renderer.square(imageSize().width, grid.toPixels).adjusted(-line, -line, line, line);
+    painter.drawRoundedRect(square, 4 * line, 4 * line);
+  }
+  painter.restore();
+}
+
 void FolderView::drawLabel(QPainter& painter) {
+  _drawnLabel = {};
   if (!label() || label()->isEmpty()) return;
   const LabelLook look = _composition.look();
   const PixelGrid grid = imageGrid(painter);
@@ -74,6 +120,8 @@ void FolderView::drawLabel(QPainter& painter) {
   const Point origin = _originForCenter(look.labelCenter, imageSize());
   const QTransform toPixels = QTransform::fromTranslate(origin.x, origin.y) * grid.toPixels;
   const PlacedLabel placed = _labels.placedLabel(*label(), look, imageSize(), toPixels);
+
+  _drawnLabel = placed.layer;
 
   painter.save();
   enterPixels(painter);

@@ -79,6 +79,7 @@ void FolderView::mouseUp() {
 }
 
 void FolderView::cancelDrag() {
+  if (_overlayDrag && !std::exchange(_overlayDrag->isCancelled, true)) setOverlayCenter(_overlayDrag->center);
   _dragging = false;
   if (const auto origin = std::exchange(_dragOrigin, std::nullopt)) _composition.setCanvasLabelCenter(*origin);
 }
@@ -91,6 +92,7 @@ void FolderView::tellMove(Point from) {
 
 void FolderView::finishKeyMoves() {
   _keysEnd.stop();
+  if (const auto overlayOrigin = std::exchange(_overlayKeysOrigin, std::nullopt)) tellOverlayMove(*overlayOrigin);
   const auto origin = std::exchange(_keysOrigin, std::nullopt);
   if (!origin) return;
   update();  // the edge is no longer drawn
@@ -98,6 +100,11 @@ void FolderView::finishKeyMoves() {
 }
 
 void FolderView::moveByKeys(Point to) {
+  if (_overlaySelected) {
+    if (!_overlayKeysOrigin) _overlayKeysOrigin = _composition.overlay()->center;
+    _keysEnd.start();
+    return setOverlayCenter(to);
+  }
   if (!_keysOrigin) _keysOrigin = canvasLabelCenter();
   _keysEnd.start();
   _composition.setCanvasLabelCenter(to);
@@ -107,37 +114,52 @@ void FolderView::finishKeyMovesBeforeShortcut(QKeyEvent* event) {
   // Whatever else is pressed may undo or apply; and the keys of ours are not a window's shortcuts.
   if (arrowStep(*event) || isCenterKey(*event))
     event->accept();
-  else if (_mouseDown && event->key() == Qt::Key_Escape)
+  else if ((isMouseDown() || _overlaySelected) && event->key() == Qt::Key_Escape)
+    event->accept();
+  else if (_overlaySelected && (event->key() == Qt::Key_Delete || event->key() == Qt::Key_Backspace))
     event->accept();
   else if (!isModifierKey(event->key()))
     finishKeyMoves();
 }
 
 void FolderView::keyPressEvent(QKeyEvent* event) {
-  if (_mouseDown) {
+  if (isMouseDown()) {
     if (event->key() == Qt::Key_Escape) cancelDrag();
     return;  // a drag has the label to itself
   }
-  if (const auto by = arrowStep(*event)) {
-    const Point center = canvasLabelCenter();
-    moveByKeys({center.x + by->x, center.y + by->y});
-  } else if (isCenterKey(*event)) {
-    moveByKeys({canvasSide / 2, canvasSide / 2});
+  const auto by = arrowStep(*event);
+  if (hasOverlay() && event->key() == Qt::Key_Space) {
+    setOverlaySelected(!_overlaySelected);
+  } else if (_overlaySelected && event->key() == Qt::Key_Escape) {
+    setOverlaySelected(false);
+  } else if (_overlaySelected && (event->key() == Qt::Key_Delete || event->key() == Qt::Key_Backspace)) {
+    finishKeyMoves();
+    _composition.setOverlay(std::nullopt);
+  } else if (by || isCenterKey(*event)) {
+    const Point center = _overlaySelected ? _composition.overlay()->center : canvasLabelCenter();
+    moveByKeys(by ? Point{center.x + by->x, center.y + by->y} : Point{canvasSide / 2, canvasSide / 2});
   } else {
     ImageView::keyPressEvent(event);
   }
 }
 
 void FolderView::mousePressEvent(QMouseEvent* event) {
-  if (event->button() == Qt::LeftButton) mouseDown(windowPlace(*event, *window()));
+  if (event->button() != Qt::LeftButton) return;
+  const bool isOverlay = isOverlayAt(event->position());
+  setOverlaySelected(isOverlay);
+  isOverlay ? overlayDown(event->position()) : mouseDown(windowPlace(*event, *window()));
 }
 
 void FolderView::mouseMoveEvent(QMouseEvent* event) {
-  if (_mouseDown && event->buttons().testFlag(Qt::LeftButton)) mouseDragged(windowPlace(*event, *window()));
+  if (!event->buttons().testFlag(Qt::LeftButton)) return;
+  if (_overlayDrag) overlayDragged(event->position());
+  if (_mouseDown) mouseDragged(windowPlace(*event, *window()));
 }
 
 void FolderView::mouseReleaseEvent(QMouseEvent* event) {
-  if (event->button() == Qt::LeftButton && _mouseDown) mouseUp();
+  if (event->button() != Qt::LeftButton) return;
+  if (_overlayDrag) overlayUp();
+  if (_mouseDown) mouseUp();
 }
 
 void FolderView::focusOutEvent(QFocusEvent* event) {
@@ -147,6 +169,7 @@ void FolderView::focusOutEvent(QFocusEvent* event) {
 
 void FolderView::hideEvent(QHideEvent* event) {
   // The release of a button over a hidden view is told to nobody.
+  if (_overlayDrag) overlayUp();
   if (_mouseDown) mouseUp();
   finishKeyMoves();
   ImageView::hideEvent(event);

@@ -15,6 +15,7 @@
 #include "LongTexts.h"
 #include "TestWindow.h"
 #include "app/AboutController.h"
+#include "app/OverlayGroup.h"
 #include "app/SheetPrompts.h"
 #include "app/SheetUpdateView.h"
 #include "app/Translations.h"
@@ -96,6 +97,18 @@ void takeAll(Pictures& pictures) {
   test.controller->setBaseIcon(plainImage(QColor(QStringLiteral("#3a9d5d")), 512));
   test.ui()._folderView->setMagnification(3);
   pictures.take(test.window, QStringLiteral("5-base-picture"));
+
+  test.controller->setBaseIcon(std::nullopt);
+  test.ui()._folderView->setMagnification(2);
+  test.controller->setTint(QColor(0x58, 0xB3, 0x68));
+  test.controller->setOverlayDrawing(OverlayEmblem{QStringLiteral("star")});
+  test.ui()._folderView->setOverlaySelected(true);
+  test.ui()._folderView->setFocus();
+  test.window.resize(1180, 760);
+  pictures.take(test.window, QStringLiteral("13-overlay"));
+  OverlayPopup* chooser = test.ui()._overlayGroup->choose();
+  pictures.take(*chooser, QStringLiteral("14-choose-overlay"));
+  chooser->close();
 
   test.panels.colorPanel().showPanel();
   pictures.take(test.panels.colorPanel(), QStringLiteral("11-color-panel"));
@@ -226,19 +239,21 @@ void takeSheets(Pictures& pictures) {
       {QStringLiteral("10-looks"), [](TestWindow& test) { test.controller->perform(MenuCommand::ManageLooks); }},
       {QStringLiteral("20-newer-version"),
        [](TestWindow& test) {
-         SheetUpdateView(test.window).offer({.version = QStringLiteral("1.2"),
-                                             .runningVersion = QStringLiteral("1.1"),
-                                             .published = QStringLiteral("3 March 2026"),
-                                             .news = QStringLiteral("Version 1.2 mends what you told us of.\n\n• Labels of "
-                                                                    "many lines are fitted in half the time\n• The base "
-                                                                    "pictures can be searched\n• Folders on read-only disks "
-                                                                    "are named before anything is tried"),
-                                             .pageHost = QStringLiteral("quorvane.test")});
+         SheetUpdateView(test.window)
+             .offer({.version = QStringLiteral("1.2"),
+                     .runningVersion = QStringLiteral("1.1"),
+                     .published = QStringLiteral("3 March 2026"),
+                     .news = QStringLiteral("Version 1.2 mends what you told us of.\n\n• Labels of "
+                                            "many lines are fitted in half the time\n• The base "
+                                            "pictures can be searched\n• Folders on read-only disks "
+                                            "are named before anything is tried"),
+                     .pageHost = QStringLiteral("quorvane.test")});
        }},
       {QStringLiteral("21-newest-version"),
        [](TestWindow& test) {
-         SheetUpdateView(test.window).tell(QStringLiteral("You Have the Newest Version"),
-                                           QStringLiteral("Quorvane 1.1 is the newest version there is."), {});
+         SheetUpdateView(test.window)
+             .tell(QStringLiteral("You Have the Newest Version"),
+                   QStringLiteral("Quorvane 1.1 is the newest version there is."), {});
        }},
       {QStringLiteral("22-waiting"),
        [](TestWindow& test) {

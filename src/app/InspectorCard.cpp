@@ -1,0 +1,52 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/InspectorCard.h"
+
+#include <QFrame>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QVBoxLayout>
+
+#include "app/LayoutPieces.h"
+
+namespace quorvane {
+
+QString withoutAccessKey(QString text) {
+  return text.remove(QLatin1Char('&'));
+}
+
+InspectorCard::InspectorCard(const QString& caption) : frame(makeCard()), _rows(new QVBoxLayout(frame)) {
+  _rows->setContentsMargins(cardPadding, cardPadding - 4, cardPadding, cardPadding - 2);
+  _rows->setSpacing(2);
+  if (!caption.isEmpty()) _rows->addWidget(makeCaption(caption));
+}
+
+QWidget* InspectorCard::addRow(const QString& name, QWidget* control, bool isCaption) {
+  control->setAccessibleName(withoutAccessKey(name));
+  auto* row = new QWidget;
+  auto* layout = new QHBoxLayout(row);
+  layout->setContentsMargins(0, isCaption ? 0 : 4, 0, 0);
+  layout->setSpacing(10);
+  layout->addWidget(isCaption ? makeCaption(name, control) : makeControlName(name, control), 2);
+  layout->addWidget(control, 5);
+  _rows->addWidget(row);
+  return row;
+}
+
+Slider* InspectorCard::addSlider(const QString& name, const Slider::Range& range) {
+  auto* slider = new Slider;
+  slider->setRange(range);
+  slider->setValue(range.defaultValue);
+  slider->setName(withoutAccessKey(name));
+  slider->setAccessibleName(withoutAccessKey(name));
+  _rows->addSpacing(4);
+  _rows->addWidget(makeControlName(name, slider->track()));
+  _rows->addWidget(slider);
+  return slider;
+}
+
+void InspectorCard::addWidget(QWidget* widget) {
+  _rows->addSpacing(6);
+  _rows->addWidget(widget);
+}
+
+}  // namespace quorvane
