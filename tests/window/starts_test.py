@@ -107,6 +107,11 @@ class StartsTest(WindowTest):
             "the font panel": (True, lambda program: self.key("ctrl+t")),
             "the colour panel": (True, lambda program: self.key("ctrl+shift+c")),
             "the shortcuts": (True, lambda program: self.key("ctrl+question")),
+            "the preferences": (True, lambda program: self.key("ctrl+comma")),
+            "the default colour": (False, lambda program: self._sheet_of_preferences(program, "color chooser")),
+            "the default font": (False, lambda program: self._sheet_of_preferences(program, "push button", "^Change")),
+            "about": (True, lambda program: self._about(program)),
+            "the licence": (False, lambda program: self._licence(program)),
             "a drag": (True, lambda program: self.xdotool("mousemove", *self.canvas(program), "mousedown", 1,
                                                          "mousemove_relative", "--", 30, 30)),
         }
@@ -124,6 +129,21 @@ class StartsTest(WindowTest):
                     self.assertEqual(program.said(), "")
                     self.xdotool("mouseup", 1)
 
+    def _sheet_of_preferences(self, program, role, name="^Default"):
+        self.key("ctrl+comma")
+        program.get("frame", "^Preferences$")
+        self.click(program.get(role, name))
+        program.get("push button", "^Done$")
+
+    def _about(self, program):
+        self.key("alt+h", "a")
+        program.get("frame", "^About")
+
+    def _licence(self, program):
+        self._about(program)
+        self.key("alt+l")
+        program.get("text", "licence")
+
     @staticmethod
     def canvas(program):
         x, y, width, height = program.get("canvas").extents
@@ -138,7 +158,7 @@ class StartsTest(WindowTest):
         before = tree(self.home)
         program = self.start(folder, command=["strace", "-f", "-qq", "-e", "trace=connect,sendto,bind", "-o", trace])
         self._apply_blindly(folder)
-        self.key("ctrl+q")
+        self.key("Return", "ctrl+q")  # the first one away is the tip
         self.assertEqual(program.wait_end(), 0)
         calls = [line for line in read(trace).decode().splitlines() if "sa_family" in line]
         self.assertTrue(calls, "it speaks to the display at least")
