@@ -36,6 +36,7 @@
 #include "system/SingleInstance.h"
 #include "system/Trash.h"
 #include "ui/ApplicationIcon.h"
+#include "ui/CaretRest.h"
 #include "ui/DesktopAppearance.h"
 #include "ui/SharedPanels.h"
 #include "ui/Theme.h"
@@ -100,6 +101,7 @@ int runApplication(int argc, char** argv) {
   appearance.start();
   Theme theme(&appearance);
   theme.apply();
+  const CaretRest caretRest;
 
   const auto storage = openSettings();
   UserDefaults defaults(*storage);

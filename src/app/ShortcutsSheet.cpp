@@ -25,6 +25,9 @@ ShortcutsSheet::ShortcutsSheet(const MainMenu& menu) {
         {tr("Move the overlay instead, or the label again"),
          QKeySequence(Qt::Key_Space).toString(QKeySequence::NativeText)}}});
 
+  groups.push_back(
+      {tr("Window"), {{tr("Open the menus"), QKeySequence(Qt::Key_F10).toString(QKeySequence::NativeText)}}});
+
   // Two columns of groups, each a name and its keys.
   auto* list = new QWidget;
   auto* columns = new QHBoxLayout(list);

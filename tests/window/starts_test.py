@@ -109,6 +109,11 @@ class StartsTest(WindowTest):
             "the font panel": (True, lambda program: self.key("ctrl+t")),
             "the colour panel": (True, lambda program: self.key("ctrl+shift+c")),
             "the shortcuts": (True, lambda program: self.key("ctrl+question")),
+            "the preferences": (True, lambda program: self.key("ctrl+comma")),
+            "the default colour": (False, lambda program: self._sheet_of_preferences(program, "color chooser")),
+            "the default font": (False, lambda program: self._sheet_of_preferences(program, "push button", "^Change")),
+            "about": (True, lambda program: self._about(program)),
+            "the licence": (False, lambda program: self._licence(program)),
             "a drag": (True, lambda program: self.xdotool("mousemove", *self.canvas(program), "mousedown", 1,
                                                          "mousemove_relative", "--", 30, 30)),
         }
@@ -125,6 +130,21 @@ class StartsTest(WindowTest):
                     self.assertEqual(program.end(kind), 0)
                     self.assertEqual(program.said(), "")
                     self.xdotool("mouseup", 1)
+
+    def _sheet_of_preferences(self, program, role, name="^Default"):
+        self.key("ctrl+comma")
+        program.get("frame", "^Preferences$")
+        self.click(program.get(role, name))
+        program.get("push button", "^Done$")
+
+    def _about(self, program):
+        self.key("alt+h", "a")
+        program.get("frame", "^About")
+
+    def _licence(self, program):
+        self._about(program)
+        self.key("alt+l")
+        program.get("text", "licence")
 
     @staticmethod
     def canvas(program):
@@ -155,6 +175,7 @@ class StartsTest(WindowTest):
 
         def act():
             self._apply_blindly(folder)
+            self.key("Return")  # puts away the tip
             for keys, title in ((["ctrl+comma"], "Preferences"), (["alt+h", "a"], "About Quorvane")):
                 self.key(*keys)
                 shown = lambda: self.xdotool("search", "--onlyvisible", "--name", f"^{title}$")
