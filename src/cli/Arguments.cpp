@@ -56,6 +56,20 @@ PathCount pathCount(Command command) {
       return {1, SIZE_MAX, "FILE"};
     case Command::List:
       return {1, SIZE_MAX, "TREE"};
+    case Command::Sets:
+      return {0, SIZE_MAX, "SET"};
+    case Command::SetsAdd:
+      return {2, SIZE_MAX, "SET and FILE"};
+    case Command::SetsNew:
+      return {1, 1, "NAME"};
+    case Command::SetsRemove:
+      return {1, SIZE_MAX, "SET"};
+    case Command::SetsRename:
+      return {2, 2, "OLD and NEW"};
+    case Command::SetsExport:
+      return {2, 2, "SET and FILE.zip"};
+    case Command::SetsImport:
+      return {1, SIZE_MAX, "FILE.zip or FOLDER"};
     default:
       return {1, SIZE_MAX, "FOLDER"};
   }
@@ -210,13 +224,27 @@ std::string commandName(Command command) {
       return "icns list";
     case Command::IcnsExtract:
       return "icns extract";
+    case Command::Sets:
+      return "sets";
+    case Command::SetsAdd:
+      return "sets add";
+    case Command::SetsNew:
+      return "sets new";
+    case Command::SetsRemove:
+      return "sets remove";
+    case Command::SetsRename:
+      return "sets rename";
+    case Command::SetsExport:
+      return "sets export";
+    case Command::SetsImport:
+      return "sets import";
   }
   return {};
 }
 
 const std::vector<std::string>& commandWords() {
   static const std::vector<std::string> words{"apply",  "revert", "reset",  "repair", "status",
-                                              "verify", "list",   "render", "icns"};
+                                              "verify", "list",   "render", "icns",   "sets"};
   return words;
 }
 

@@ -31,6 +31,13 @@ enum class Command {
   IcnsMake,
   IcnsList,
   IcnsExtract,
+  Sets,
+  SetsAdd,
+  SetsNew,
+  SetsRemove,
+  SetsRename,
+  SetsExport,
+  SetsImport,
 };
 
 /// The command's name as it is typed and reported ("icns make").
@@ -39,7 +46,8 @@ std::string commandName(Command command);
 /// What one call of the program asks for.
 struct Arguments {
   Command command = Command::Apply;
-  /// Folders, or for the icns commands and render the files, in the order given. Raw bytes.
+  /// Folders, or for the icns commands and render the files, for the sets commands names as well, in the order given.
+  /// Raw bytes.
   std::vector<std::filesystem::path> paths;
   /// What the look's options alone say.
   Look look;

@@ -105,6 +105,15 @@ int run(const Arguments& arguments, const IconServices& services) {
     case Command::IcnsExtract:
       runIcns(arguments, reporter);
       break;
+    case Command::Sets:
+    case Command::SetsAdd:
+    case Command::SetsNew:
+    case Command::SetsRemove:
+    case Command::SetsRename:
+    case Command::SetsExport:
+    case Command::SetsImport:
+      runSets(arguments, services, reporter);
+      break;
   }
   secondNotices.finish();
   reporter.finish(pendingSignal() != 0);

@@ -25,6 +25,7 @@ bool runStatus(const Arguments& arguments, const FolderBranding& branding, Repor
 /// Returns true when a branded folder was found.
 bool runList(const Arguments& arguments, const FolderBranding& branding, Reporter& reporter);
 void runRender(const Arguments& arguments, const IconServices& services, Reporter& reporter);
+void runSets(const Arguments& arguments, const IconServices& services, Reporter& reporter);
 void runIcns(const Arguments& arguments, Reporter& reporter);
 
 /// The notes of a result, for the reporter's details and for people (over many folders most are the same).

@@ -198,6 +198,41 @@ Parser::Parser() {
   listElements->add_option("FILE", paths, "One or more icns files")->type_name("");
   extract->add_option("FILES", paths, "FILE and DIR")->type_name("");
   for (CLI::App* command : {make, listElements, extract}) addCommon(*command);
+  addSets();
+}
+
+void Parser::addSets() {
+  CLI::App* sets =
+      app.add_subcommand("sets", "List the icon library, and change your own part of it")->group("Commands");
+  sets->set_help_flag("-h,--help", "Print this help");
+  describeUse(*sets, "sets [SET...] | sets add|new|remove|rename|export|import ...",
+              {"quorvane sets", "quorvane sets \"My Folders\"",
+               "quorvane apply --base \"My Folders/box\" --label Taxes ~/Taxes"});
+  sets->require_subcommand(0, 1);
+  sets->add_option("SET", paths, "Sets whose icons are listed; without any, the sets are")->type_name("");
+  const auto one = [&](Command command, const std::string& name, const std::string& what, const std::string& use,
+                       const std::string& operand, const std::string& operandText,
+                       const std::vector<std::string>& examples) {
+    CLI::App* added = add(*sets, command, name, what, "sets " + name + " " + use, examples);
+    added->add_option(operand, paths, operandText)->type_name("");
+    addCommon(*added);
+  };
+  one(Command::SetsAdd, "add", "Make icons of a set of pictures, icns files or what files and folders show",
+      "SET FILE...", "FILES", "SET and one or more files or folders", {"quorvane sets add \"My Folders\" box.png"});
+  one(Command::SetsNew, "new", "Make an empty set", "NAME", "NAME", "Name of the set",
+      {"quorvane sets new \"My Folders\""});
+  one(Command::SetsRemove, "remove", "Move icons of a set to the trash; without any, remove an empty set",
+      "SET [ICON...]", "NAMES", "SET and icons in it",
+      {"quorvane sets remove \"My Folders\" box", "quorvane sets remove \"My Folders\""});
+  one(Command::SetsRename, "rename", "Give a set another name", "OLD NEW", "NAMES", "OLD and NEW",
+      {"quorvane sets rename \"New Set\" \"My Folders\""});
+  one(Command::SetsExport, "export", "Write a set as a zip file", "SET FILE.zip", "FILES", "SET and FILE.zip",
+      {"quorvane sets export \"My Folders\" folders.zip"});
+  one(Command::SetsImport, "import", "Make sets of zip files and of folders of pictures", "FILE.zip|FOLDER...", "FILES",
+      "One or more zip files or folders", {"quorvane sets import folders.zip ~/Pictures/icons"});
+  addCommon(*sets);
+  // Behind those inside: of several commands that were given the first one counts.
+  commands.emplace_back(Command::Sets, sets);
 }
 
 }  // namespace quorvane::cli

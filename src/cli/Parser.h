@@ -41,6 +41,7 @@ struct Parser {
                 const std::string& use, const std::vector<std::string>& examples);
   void addLook(CLI::App& command);
   void addMany(CLI::App& command);
+  void addSets();
   void addCommon(CLI::App& command);
   void addVerbose(CLI::App& command, const std::string& what) { command.add_flag("-v,--verbose", isVerbose, what); }
   void addDryRun(CLI::App& command) {

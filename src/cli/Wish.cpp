@@ -3,6 +3,7 @@
 
 #include "app/core/LabelPattern.h"
 #include "app/core/LookValues.h"
+#include "library/core/IconLibrary.h"
 
 namespace quorvane::cli {
 
@@ -12,9 +13,16 @@ constexpr const char* baseName = "base";
 constexpr const char* labelName = "label";
 constexpr const char* overlayName = "overlay";
 
+/// A picture file, or an icon of the library where there is no such file.
+Result<std::filesystem::path> basePicture(const std::string& text) {
+  std::error_code error;
+  if (std::filesystem::exists(std::filesystem::symlink_status(text, error))) return std::filesystem::path(text);
+  return TRY(findLibraryIcon(text)).value_or(std::filesystem::path(text));
+}
+
 Result<void> setValue(Wish& wish, const std::string& name, const std::string& text, std::string_view prefix) {
   if (name == baseName) {
-    if (!text.empty()) wish.base = BaseReference{.path = text, .within = {}};
+    if (!text.empty()) wish.base = BaseReference{.path = TRY(basePicture(text)), .within = {}};
     return {};
   }
   if (name == overlayName && isOverlayFile(text)) {

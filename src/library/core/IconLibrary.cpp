@@ -28,7 +28,7 @@ void note(const Error& error) {
 }
 
 /// The names of a library's sets in their order; `isWhole` becomes false when not all could be read.
-std::vector<std::string> setNames(const Folder& library, const std::vector<std::string>& listed, bool& isWhole) {
+std::vector<std::string> foundSets(const Folder& library, const std::vector<std::string>& listed, bool& isWhole) {
   std::vector<std::string> names;
   std::set<std::pair<dev_t, ino_t>> seen;
   const auto add = [&](const std::string& name) {
@@ -64,7 +64,7 @@ Result<void> rewriteSetList(const fs::path& library, const std::vector<std::stri
   std::vector<std::string> names = known;
   addMissing(names, list.names);
   bool isWhole = true;
-  names = setNames(folder, names, isWhole);
+  names = foundSets(folder, names, isWhole);
   return isWhole ? writeList(folder, setListName, names) : Result<void>();
 }
 
@@ -107,7 +107,7 @@ IconLibrary::Sets IconLibrary::_iconSetsInDirectory(const fs::path& path) const 
   if (folder) {
     const auto list = readList(*folder, setListName);
     if (!list) note(list.error());
-    names = setNames(*folder, list ? list->names : std::vector<std::string>(), isWhole);
+    names = foundSets(*folder, list ? list->names : std::vector<std::string>(), isWhole);
   }
   Sets sets;
   for (const std::string& name : names) sets.push_back(IconSet::initWithPath(path / name, _services));

@@ -25,6 +25,12 @@ struct LibraryPlaces {
   static LibraryPlaces usual();
 };
 
+/// The file of an icon by the words "SET/ICON", the icon's name with or without its ending: in the user's library, else
+/// in the built-in one. nullopt when the words name no set; fails, with what there is, when they name a set alone or no
+/// icon of it, or two.
+Result<std::optional<std::filesystem::path>> findLibraryIcon(const std::string& words,
+                                                             const LibraryPlaces& places = LibraryPlaces::usual());
+
 /// The two libraries of icon sets. Each call reads the disk. Main thread.
 class IconLibrary {
  public:
@@ -49,6 +55,9 @@ class IconLibrary {
   /// The sets of any library, in the order of its list; where there is none, a new one of the name "New Set".
   [[nodiscard]] Sets _iconSetsInDirectory(const std::filesystem::path& path) const;
 
+  /// The names of a library's sets in order, as it stands: nothing is made or written. Of the built-in one those that
+  /// are listed. A library that is missing has none.
+  [[nodiscard]] std::vector<std::string> setNames(const std::filesystem::path& path) const;
   /// Where a set is made that has none of those names: "New Set", "New Set 1" ...
   [[nodiscard]] std::filesystem::path pathToNewSet(const std::vector<std::string>& names) const;
 

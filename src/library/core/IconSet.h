@@ -36,6 +36,8 @@ class IconSet : public std::enable_shared_from_this<IconSet> {
   /// when it says anything else. A missing folder is made, with those above it, and has no icons. nullopt when that
   /// cannot be. A folder that cannot be read shows what can be, and its list stays as it is.
   static std::optional<Icons> _iconsInDirectory(const std::filesystem::path& path, const LibraryServices& services);
+  /// The same as the folder stands: nothing is made or written. Fails when there is no folder to be read.
+  static Result<Icons> iconsAt(const std::filesystem::path& path, const LibraryServices& services);
   /// The record of a file or folder; nullopt when no picture can be had.
   static std::optional<IconRecord> _iconForPath(const std::filesystem::path& path, const LibraryServices& services);
   /// What is shown for it: a ".png" or ".icns" file's pictures (exactly these endings), or a folder's icon at 128 x 128

@@ -77,6 +77,12 @@ class Scanner {
 
 }  // namespace
 
+Result<IconSet::Icons> IconSet::iconsAt(const std::filesystem::path& path, const LibraryServices& services) {
+  const Folder folder = TRY(openSetFolder(path, Folder::Access::Read));
+  const ListFile list = TRY(readList(folder, iconListName));
+  return Scanner(folder, path, services).scan(list.names).icons;
+}
+
 std::optional<IconSet::Icons> IconSet::_iconsInDirectory(const std::filesystem::path& path,
                                                          const LibraryServices& services) {
   auto folder = openSetFolder(path, Folder::Access::Read);

@@ -1,0 +1,128 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
+"""Kills and hinders the program at each point where it changes the icon library: no icon and no set is ever lost or
+half there, the library can be listed afterwards, and the next run completes the work and leaves nothing lying about."""
+import json
+import os
+import plistlib
+import shutil
+import subprocess
+import tempfile
+import unittest
+import zipfile
+
+from places import fast_place
+from points import Tracer, points, thin
+
+PATIENCE = float(os.environ.get("QUORVANE_PATIENCE", "10"))
+QUORVANE = os.environ.get("QUORVANE", "")
+STRIDE = max(1, int(os.environ.get("QUORVANE_STRIDE", "61")) // 10)
+ICONS = ["b.icns", "a.icns", "c.icns"]
+
+
+class LibraryTest(unittest.TestCase):
+    def setUp(self):
+        self.place = tempfile.mkdtemp(prefix="quorvane-library-", dir=fast_place())
+        self.addCleanup(shutil.rmtree, self.place, ignore_errors=True)
+        self.root = os.path.join(self.place, "home")
+        self.library = os.path.join(self.root, "test.quorvane.Quorvane")
+        self.environment = {"PATH": os.environ["PATH"], "LANG": "C.UTF-8", "HOME": self.root,
+                            "XDG_DATA_HOME": self.root, "QUORVANE_BASE_ICONS": os.path.join(self.place, "none")}
+        self.tracer = Tracer(QUORVANE, self.environment, 6 * PATIENCE)
+        if not QUORVANE or shutil.which("strace") is None or not self.tracer.works():
+            self.skipTest("nothing can be traced here")
+        self.icon, self.zip = os.path.join(self.place, "new.icns"), os.path.join(self.place, "In.zip")
+        self.run_program("render", "--label", "x", self.icon)
+        with open(self.icon, "rb") as file:
+            self.content = file.read()
+        with zipfile.ZipFile(self.zip, "w") as file:
+            for name in ICONS:
+                file.writestr(name, self.content)
+
+    def run_program(self, *arguments):
+        done = subprocess.run([QUORVANE, *arguments], capture_output=True, check=False, timeout=6 * PATIENCE,
+                              env=self.environment)
+        self.assertEqual(done.returncode, 0, done.stderr)
+        return done.stdout
+
+    def lay(self):
+        shutil.rmtree(self.root, ignore_errors=True)
+        for name in ("Blue", "Red"):
+            os.makedirs(os.path.join(self.library, name))
+            for icon in ICONS:
+                with open(os.path.join(self.library, name, icon), "wb") as file:
+                    file.write(self.content)
+            with open(os.path.join(self.library, name, "QVIcons.plist"), "wb") as file:
+                plistlib.dump(ICONS, file)
+        with open(os.path.join(self.library, "sets.plist"), "wb") as file:
+            plistlib.dump(["Red", "Blue"], file)
+
+    def state(self):
+        """The sets as the program lists them, each with its icons in order; every one of them is whole."""
+        items = json.loads(self.run_program("sets", "--json"))["results"]
+        for item in items:
+            for icon in item["icons"]:
+                with open(os.path.join(self.library, item["set"], icon), "rb") as file:
+                    self.assertTrue(file.read().startswith(b"icns"))
+                    file.seek(0)
+                    self.assertEqual(len(file.read()), int.from_bytes(self.head(file.name)[4:8], "big"), icon)
+        return [(item["set"], item["icons"]) for item in items]
+
+    @staticmethod
+    def head(path):
+        with open(path, "rb") as file:
+            return file.read(8)
+
+    def around(self):
+        return sorted(os.path.relpath(os.path.join(folder, name), self.root)
+                      for folder, folders, names in os.walk(self.root) for name in folders + names)
+
+    def each_point(self, arguments, is_good):
+        self.lay()
+        old = self.state()
+        done, calls = self.tracer.calls(arguments, self.root, self.root)
+        self.assertEqual(done.returncode, 0, done.stderr)
+        new = self.state()
+        self.assertGreater(len(calls), 5)
+        for point in thin(points(calls, ("kill", "fail", "stuck")), STRIDE):
+            with self.subTest(point=str(point)):
+                self.lay()
+                done = self.tracer.run(point.options(), arguments, self.root)
+                self.assertIn(done.returncode, (-9, 137) if point.kind == "kill" else (0, 1), done.stderr)
+                after = self.state()
+                if done.returncode == 0:
+                    self.assertEqual(after, new)
+                if after not in (old, new):
+                    is_good(dict(after))
+                # Whoever writes there next clears away what was left.
+                for name in dict(after):
+                    self.run_program("sets", "add", name, self.icon)
+                self.run_program("sets", "new", "Last")
+                self.assertEqual([name for name in self.around() if name.endswith(".tmp")], [])
+
+    def test_adding(self):
+        def is_good(after):
+            self.assertEqual(after["Red"], ICONS)
+            self.assertIn(after["Blue"], (ICONS, [*ICONS, "new.icns"]))
+        self.each_point(["sets", "add", "Blue", self.icon], is_good)
+
+    def test_renaming(self):
+        def is_good(after):
+            self.assertEqual(after["Red"], ICONS)
+            self.assertIn(sorted(after), (["Blue", "Red"], ["Green", "Red"]))
+            self.assertEqual(after.get("Blue", after.get("Green")), ICONS)
+        self.each_point(["sets", "rename", "Blue", "Green"], is_good)
+
+    def test_removing(self):
+        def is_good(after):
+            self.assertEqual(after["Red"], ICONS)
+            self.assertEqual([name for name in after["Blue"] if name != "a.icns"], ["b.icns", "c.icns"])
+        self.each_point(["sets", "remove", "Blue", "a"], is_good)
+
+    def test_importing(self):
+        def is_good(after):
+            self.assertEqual(after, {"Red": ICONS, "Blue": ICONS, "In": ICONS})
+        self.each_point(["sets", "import", self.zip], is_good)
+
+
+if __name__ == "__main__":
+    unittest.main(verbosity=2)
