@@ -22,7 +22,7 @@ namespace quorvane {
 
 namespace {
 
-constexpr int thumbnailSide = 64;
+constexpr int thumbnailSide = 48;
 
 /// The path of a dragged picture, judged by its name alone: it is not on the way of the pointer that files are read.
 std::optional<std::filesystem::path> draggedPicture(const QMimeData& data) {
@@ -115,7 +115,7 @@ BaseColumn::BaseColumn(BaseIconController& library, QWidget* parent)
 
 QWidget* BaseColumn::_makeCard() {
   auto* inside = new QHBoxLayout(_card);
-  inside->setContentsMargins(10, 10, 12, 10);
+  inside->setContentsMargins(10, 8, 10, 8);
   inside->setSpacing(12);
   _thumbnail->setFixedSize(thumbnailSide, thumbnailSide);
   _thumbnail->setAlignment(Qt::AlignCenter);
@@ -128,7 +128,7 @@ QWidget* BaseColumn::_makeCard() {
   _clearButton->setToolTip(tr("Use Folder’s Icon"));
   _clearButton->setAccessibleName(tr("Use Folder’s Icon"));
   auto* texts = new QVBoxLayout;
-  texts->setSpacing(6);
+  texts->setSpacing(4);
   texts->addStretch();
   texts->addWidget(_heading);
   auto* buttons = new QHBoxLayout;

@@ -82,7 +82,7 @@ QWidget* makeCanvasColumn(Outlets& outlets) {
 
   outlets._previewStrip = new PreviewStrip(writtenForms);
   // The two grounds stand side by side at every width: one above the other they would push the canvas away.
-  column->setMinimumWidth(outlets._previewStrip->sizeHint().width());
+  column->setMinimumWidth(outlets._previewStrip->minimumSizeHint().width());
   outlets._previewStrip->setFixedHeight(outlets._previewStrip->sizeHint().height());
   // Without a folder there is nothing to preview: then the canvas has its place.
   outlets._previewStrip->hide();

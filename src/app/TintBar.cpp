@@ -5,11 +5,12 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPainter>
-#include <QPushButton>
+#include <QToolButton>
 #include <QVBoxLayout>
 #include <array>
 
 #include "app/LayoutPieces.h"
+#include "ui/ActionIcons.h"
 #include "ui/HVColorWell.h"
 
 namespace quorvane {
@@ -74,7 +75,7 @@ class Swatch : public QAbstractButton {
 }  // namespace
 
 TintBar::TintBar(ColorPanel* panel, QWidget* parent)
-    : QWidget(parent), _noneButton(new QPushButton(tr("No Tint"))), _well(new HVColorWell(panel)) {
+    : QWidget(parent), _noneButton(new QToolButton), _well(new HVColorWell(panel)) {
   auto* layout = new QVBoxLayout(this);
   layout->setContentsMargins({});
   layout->setSpacing(layoutGap / 2);
@@ -87,18 +88,20 @@ TintBar::TintBar(ColorPanel* panel, QWidget* parent)
       setTint(color);
       Q_EMIT tintChosen(color);
     });
-    if (!_swatches.empty()) swatches->addStretch(1);
     swatches->addWidget(swatch);
+    swatches->addStretch(1);
     _swatches.push_back(swatch);
   }
+  _well->setFixedWidth(44);
+  swatches->addWidget(_well);
+  swatches->addSpacing(layoutGap / 2);
+  swatches->addWidget(_noneButton);
   layout->addLayout(swatches);
-  auto* more = new QHBoxLayout;
-  more->setSpacing(layoutGap / 2);
-  more->addWidget(_noneButton, 1);
-  more->addWidget(_well);
-  layout->addLayout(more);
+  _noneButton->setIcon(actionIcon(QStringLiteral("revert")));
+  _noneButton->setToolTip(tr("No Tint"));
+  _noneButton->setAccessibleName(tr("No Tint"));
   _well->setAccessibleName(tr("Other tint"));
-  connect(_noneButton, &QPushButton::clicked, this, [this] {
+  connect(_noneButton, &QToolButton::clicked, this, [this] {
     setTint(std::nullopt);
     Q_EMIT tintChosen(std::nullopt);
   });

@@ -7,7 +7,7 @@
 #include <vector>
 
 class QAbstractButton;
-class QPushButton;
+class QToolButton;
 
 namespace quorvane {
 
@@ -31,7 +31,7 @@ class TintBar : public QWidget {
 
  private:
   std::vector<QAbstractButton*> _swatches;
-  QPushButton* _noneButton;
+  QToolButton* _noneButton;
   HVColorWell* _well;
 };
 

@@ -32,6 +32,9 @@ constexpr std::array iconOrigins{
 };
 constexpr QSize groundSize(padding + 128 + gap + 64 + gap + 32 + padding, padding + 128 + padding);
 static_assert(iconOrigins.size() == previewSizes.size());
+// A narrow ground goes without the largest icon, which the canvas shows larger still.
+constexpr int largestWidth = 128 + gap;
+constexpr int narrowWidth = groundSize.width() - largestWidth;
 
 // Not the palette's: they stand for the windows of file managers, light and dark, whatever ours is.
 struct Ground {
@@ -46,7 +49,7 @@ int hintHeight(const QWidget& widget) {
 }
 
 bool fitsSideBySide(int width) {
-  return width >= 2 * groundSize.width() + spacing;
+  return width >= 2 * narrowWidth + spacing;
 }
 
 }  // namespace
@@ -127,7 +130,7 @@ QSize PreviewStrip::sizeHint() const {
 }
 
 QSize PreviewStrip::minimumSizeHint() const {
-  return {groundSize.width(), heightForWidth(width())};
+  return {2 * narrowWidth + spacing, heightForWidth(width())};
 }
 
 std::array<QRect, 2> PreviewStrip::grounds() const {
@@ -139,9 +142,11 @@ std::array<QRect, 2> PreviewStrip::grounds() const {
 }
 
 std::array<QRect, previewSizes.size()> PreviewStrip::iconPlaces(const QRect& ground) {
-  const QPoint left = ground.topLeft() + QPoint((ground.width() - groundSize.width()) / 2, 0);
+  const bool isNarrow = ground.width() < groundSize.width();
+  const int wide = isNarrow ? narrowWidth : groundSize.width();
+  const QPoint left = ground.topLeft() + QPoint((ground.width() - wide) / 2 - (isNarrow ? largestWidth : 0), 0);
   std::array<QRect, previewSizes.size()> places;
-  for (std::size_t i = 0; i < places.size(); ++i)
+  for (std::size_t i = isNarrow ? 1 : 0; i < places.size(); ++i)
     places[i] = QRect(left + iconOrigins[i], QSize(previewSizes[i], previewSizes[i]));
   return places;
 }
@@ -180,7 +185,7 @@ void PreviewStrip::drawIcons(QPainter& painter) {
     for (std::size_t i = 0; i < places.size(); ++i) {
       const QPointF place = QPointF(places[i].topLeft()) * density;
       const double side = std::round(previewSizes[i] * density);
-      if (!_icons.icons[i].isNull())
+      if (!_icons.icons[i].isNull() && !places[i].isEmpty())
         painter.drawImage(QRectF(QPointF(place.toPoint()), QSizeF(side, side)), _icons.icons[i]);
     }
   }

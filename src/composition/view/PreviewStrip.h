@@ -50,7 +50,7 @@ class PreviewStrip : public QWidget {
 
  private:
   [[nodiscard]] std::array<QRect, 2> grounds() const;
-  /// Where the icons stand, in the order of previewSizes: in the middle of the ground.
+  /// Where the icons stand, in the order of previewSizes: in the middle of the ground. Nowhere, when it is too narrow.
   [[nodiscard]] static std::array<QRect, previewSizes.size()> iconPlaces(const QRect& ground);
   [[nodiscard]] QRect hintRect() const;
   void drawIcons(QPainter& painter);

@@ -52,7 +52,7 @@ void LibraryRowDelegate::drawText(QPainter& painter, const QStyleOptionViewItem&
   painter.setFont(option.font);
   painter.setPen(option.palette.color(QPalette::Active, role));
   painter.drawText(place, static_cast<int>(QStyle::visualAlignment(option.direction, alignment) | Qt::TextSingleLine),
-                   option.fontMetrics.elidedText(text, Qt::ElideMiddle, place.width()));
+                   option.fontMetrics.elidedText(text, Qt::ElideRight, place.width()));
 }
 
 int SetDelegate::rowHeight(const QFont& font) {
