@@ -13,7 +13,7 @@ namespace quorvane {
 inline constexpr int windowMargin = 16;
 inline constexpr int layoutGap = 12;
 inline constexpr int cardPadding = 14;
-inline constexpr int baseColumnWidth = 300;
+inline constexpr int baseColumnWidth = 280;
 inline constexpr int inspectorWidth = 280;
 
 /// A white card with a hairline round it.

@@ -11,30 +11,45 @@
 namespace quorvane::test {
 namespace {
 
-bool sameObject(char a, char b) {
-  return a == b;
+struct Letter {
+  char letter;
+};
+
+bool sameObject(Letter a, Letter b) {
+  return a.letter == b.letter;
+}
+
+std::vector<Letter> lettersOf(const std::string& text) {
+  std::vector<Letter> letters;
+  for (const char letter : text) letters.push_back({letter});
+  return letters;
+}
+
+std::string textOf(const std::vector<Letter>& letters) {
+  std::string text;
+  for (const Letter each : letters) text += each.letter;
+  return text;
 }
 
 /// Letters in a list that is shown by a table.
 struct Letters {
-  explicit Letters(const std::string& letters) : content(letters.begin(), letters.end()) {
+  explicit Letters(const std::string& letters) : content(lettersOf(letters)) {
     controller.bindContent({.read = [this] { return std::optional(content); },
-                            .write = [this](const std::vector<char>& changed) { content = changed; }});
+                            .write = [this](const std::vector<Letter>& changed) { content = changed; }});
     table.bindController(controller, model);
   }
-  std::string arranged() { return {controller.arrangedObjects().begin(), controller.arrangedObjects().end()}; }
+  std::string arranged() { return textOf(controller.arrangedObjects()); }
   std::string selected() {
-    const auto objects = controller.selectedObjects();
     QList<int> rows;
     for (const QModelIndex& index : table.selectionModel()->selectedRows()) rows << index.row();
     EXPECT_EQ(IndexSet::indexSetWithArray(rows), controller.selectionIndexes()) << "table and controller differ";
-    return {objects.begin(), objects.end()};
+    return textOf(controller.selectedObjects());
   }
 
-  std::vector<char> content;
-  ArrayController<char> controller;
+  std::vector<Letter> content;
+  ArrayController<Letter> controller;
   ArrayModel model{controller, {.value = [this](int row, int role) {
-                     return role == Qt::DisplayRole ? QVariant(QChar::fromLatin1(controller.objectAt(row)))
+                     return role == Qt::DisplayRole ? QVariant(QChar::fromLatin1(controller.objectAt(row).letter))
                                                     : QVariant();
                    }}};
   QAbstractItemModelTester tester{&model, QAbstractItemModelTester::FailureReportingMode::Fatal};
@@ -61,7 +76,7 @@ TEST(ArrayControllerTest, MovesRowsTogetherAndTheSelectionWithThem) {
     letters.controller.setSelectionIndexes(IndexSet::indexSetWithArray({0, 3}));
     letters.controller.moveObjectsInArrangedObjectsFromIndexes(IndexSet::indexSetWithArray(move.rows), move.to);
     EXPECT_EQ(letters.arranged(), move.arranged);
-    EXPECT_EQ(std::string(letters.content.begin(), letters.content.end()), move.arranged) << "written back";
+    EXPECT_EQ(textOf(letters.content), move.arranged) << "written back";
     const std::string selected = letters.selected();
     EXPECT_TRUE(selected == "AD" || selected == "DA") << selected;
   }
@@ -72,7 +87,7 @@ TEST(ArrayControllerTest, KeepsTheSelectionInStepBothWays) {
   EXPECT_EQ(letters.selected(), "");
   letters.table.selectRow(1);
   EXPECT_EQ(letters.selected(), "B");
-  letters.controller.insertObjectAtArrangedObjectIndex('X', 0);
+  letters.controller.insertObjectAtArrangedObjectIndex({'X'}, 0);
   EXPECT_EQ(letters.arranged() + letters.selected(), "XABCX") << "a new one is selected";
   letters.controller.setSelectionIndexes(IndexSet::indexSetWithArray({1, 2, 7}));
   EXPECT_EQ(letters.selected(), "AB");
@@ -80,7 +95,7 @@ TEST(ArrayControllerTest, KeepsTheSelectionInStepBothWays) {
   EXPECT_EQ(letters.arranged() + letters.selected(), "ABCAB");
   letters.controller.removeObjectsAtArrangedObjectIndexes(IndexSet::indexSetWithArray({0, 2}));
   EXPECT_EQ(letters.arranged() + letters.selected(), "BB");
-  letters.content = {'Q', 'B', 'R'};
+  letters.content = lettersOf("QBR");
   letters.controller.readContent();
   EXPECT_EQ(letters.arranged() + letters.selected(), "QBRB") << "found again";
   letters.controller.setAvoidsEmptySelection(true);

@@ -176,9 +176,17 @@ TEST_F(BaseIconControllerTest, TheDividerStaysWithinItsLimits) {
     EXPECT_EQ(BaseIconController::splitViewConstrainSplitPosition(proposed), position);
   open();
   view->resize(500, 400);
+  LibraryPage& page = *view->page(LibraryView::Custom);
+  QWidget* divider = page.findChild<QSplitter*>()->handle(1);
   for (const auto& [wanted, width] : {std::pair{20, 80}, {150, 150}, {300, 200}}) {
     view->setSetsWidth(wanted);
-    EXPECT_EQ(view->page(LibraryView::Custom)->setsWidth(), width);
+    EXPECT_EQ(page.setsWidth(), width);
+    view->setSetsWidth(120);
+    QTest::mousePress(divider, Qt::LeftButton, {}, QPoint(1, 9));
+    QTest::mouseMove(divider, QPoint(1 + wanted - 120, 9));
+    QTest::mouseRelease(divider, Qt::LeftButton, {}, QPoint(1, 9));
+    EXPECT_EQ(page.setsWidth(), width) << "dragged";
+    EXPECT_EQ(view->page(LibraryView::Builtin)->setsWidth(), width) << "both libraries alike";
   }
 }
 

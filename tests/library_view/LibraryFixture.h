@@ -67,6 +67,7 @@ class LibraryFixture : public ::testing::Test {
     controller->awakeFromNib();
     controller->restoreIconSetSelection();
     view->setLibrary(LibraryView::Custom);
+    view->setIconSide(32);
     view->resize(320, 500);
     view->show();
   }
@@ -88,9 +89,9 @@ class LibraryFixture : public ::testing::Test {
   LibraryTableView& iconTable() { return *view->customTableView(); }
   LibraryTableView& setTable() { return *view->page(LibraryView::Custom)->setTableView(); }
   void select(LibraryTableView& table, const QList<int>& rows) {
-    table.clearSelection();
-    for (const int row : rows)
-      table.selectionModel()->select(table.model()->index(row, 0), QItemSelectionModel::Select);
+    QItemSelection selection;
+    for (const int row : rows) selection.select(table.model()->index(row, 0), table.model()->index(row, 0));
+    table.selectionModel()->select(selection, QItemSelectionModel::ClearAndSelect);
   }
 
   /// "A B C": the names in the list.
@@ -120,7 +121,7 @@ class LibraryFixture : public ::testing::Test {
                       Qt::DropActions offered = Qt::CopyAction | Qt::MoveAction) {
     const QRect place = row < table.model()->rowCount() ? table.visualRect(table.model()->index(row, 0))
                                                         : QRect(0, table.viewport()->height() - 2, 10, 2);
-    const QPoint point(20, above ? place.top() + 1 : place.center().y());
+    const QPoint point(20, above ? place.top() + 1 : place.center().y() + 2);
     Dropped dropped;
     QDragEnterEvent enter(point, offered, &data, Qt::LeftButton, {});
     QApplication::sendEvent(table.viewport(), &enter);

@@ -47,7 +47,7 @@ class LibraryTest(WindowTest):
         program.move_aside()
         self.click(program.get("radio button", "My Icons"))
         table = program.get("table", "^My Icons$")
-        self.wait(lambda: program.find("table cell", "^Blue"), "the sets")
+        self.wait(lambda: program.find("cell", "^Blue"), "the sets")
 
         first = item_of("A.png")
         x, y = middle(first)
@@ -57,7 +57,7 @@ class LibraryTest(WindowTest):
         self.wait_listed("Blue", ["C", "B", "A"])
         self.assertEqual({name: read(os.path.join(source, name + ".png")) for name in COLOURS}, before)
 
-        cell = lambda name: program.get("table cell", f"^{name}\\b")
+        cell = lambda name: program.get("cell", f"^{name}\\b")
         x, y, width, height = cell("A").extents
         self.drag(cell("C"), (x + width // 2, y + height - 4), before_drop=lambda: self.picture("library-2-order"))
         self.wait_listed("Blue", ["B", "A", "C"])

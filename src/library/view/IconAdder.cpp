@@ -58,7 +58,7 @@ void IconAdder::addIcons(std::vector<Path> files, const std::shared_ptr<IconSet>
                          std::function<void(Records)> added, const Path& temporary) {
   const int count = static_cast<int>(files.size());
   // The thread gets a copy of the path: the set may be renamed meanwhile, and what is added then fails with a reason.
-  _enqueue(tr("Adding %n icon(s)…", nullptr, count),
+  _enqueue(count == 1 ? tr("Adding an icon…") : tr("Adding %n icons…", nullptr, count),
            [this, files = std::move(files), folder = set->path(), services = _services, added = std::move(added),
             temporary](const LibraryProgress& progress) -> WorkQueue::Delivery {
              auto outcomes = std::make_shared<std::vector<Result<IconRecord>>>();
@@ -81,7 +81,7 @@ void IconAdder::addIcons(std::vector<Path> files, const std::shared_ptr<IconSet>
                }
                added(std::move(records));
                if (failures > 1)
-                 reason = tr("%n file(s) cannot be added.", nullptr, failures) + QLatin1Char(' ') + reason;
+                 reason = tr("%n files cannot be added.", nullptr, failures) + QLatin1Char(' ') + reason;
                if (failures > 0) Q_EMIT failed(reason);
              };
            });

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "library/view/LibraryDelegates.h"
 
-#include <QAbstractItemView>
 #include <QFontMetrics>
 #include <QPainter>
+#include <QTableView>
 #include <algorithm>
 #include <cmath>
 
@@ -20,6 +20,13 @@ QRect mirrored(const QStyleOptionViewItem& option, const QRect& place) {
 }
 
 }  // namespace
+
+void LibraryRowDelegate::drawRowsOf(QTableView& table) {
+  table.setItemDelegate(this);
+  table.setMouseTracking(true);
+  table.viewport()->setAttribute(Qt::WA_Hover);
+  table.setStyleSheet(QStringLiteral("QTableView { show-decoration-selected: 0; }"));
+}
 
 void LibraryRowDelegate::updateEditorGeometry(QWidget* editor, const QStyleOptionViewItem& option,
                                               const QModelIndex& /*index*/) const {

@@ -5,6 +5,8 @@
 
 #include "library/core/IconRecord.h"
 
+class QTableView;
+
 namespace quorvane {
 
 class Thumbnails;
@@ -20,6 +22,8 @@ class LibraryRowDelegate : public QStyledItemDelegate {
   Q_OBJECT
  public:
   using QStyledItemDelegate::QStyledItemDelegate;
+  /// Becomes the table's delegate, and the only one to draw what is behind its rows.
+  void drawRowsOf(QTableView& table);
   void updateEditorGeometry(QWidget* editor, const QStyleOptionViewItem& option,
                             const QModelIndex& index) const override;
 

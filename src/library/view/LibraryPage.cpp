@@ -70,7 +70,7 @@ QVariant setValue(const IconSetArrayController& sets, int row, int role) {
       return QLocale().toString(icons);
     case Qt::ToolTipRole:
     case Qt::AccessibleTextRole:
-      return LibraryPage::tr("%1, %n icon(s)", nullptr, icons).arg(IconSetArrayController::shownName(set));
+      return LibraryPage::tr("%1, %2").arg(IconSetArrayController::shownName(set), iconCount(icons));
     default:
       return {};
   }
@@ -114,12 +114,8 @@ LibraryPage::LibraryPage(Parts parts, QWidget* parent)
     _icons->setSelectionMode(QAbstractItemView::SingleSelection);
     _sets->setSelectionMode(QAbstractItemView::SingleSelection);
   }
-  _sets->setItemDelegate(new SetDelegate(this));
-  _icons->setItemDelegate(_iconDelegate);
-  for (LibraryTableView* table : {_sets, _icons}) {
-    table->setMouseTracking(true);
-    table->viewport()->setAttribute(Qt::WA_Hover);
-  }
+  (new SetDelegate(this))->drawRowsOf(*_sets);
+  _iconDelegate->drawRowsOf(*_icons);
   _sets->bindController(sets, *new ArrayModel(sets, std::move(setColumn), this));
   _icons->bindController(icons, *new ArrayModel(icons, std::move(iconColumn), this));
   _icons->setEmptyState(_emptyState);
@@ -164,8 +160,8 @@ int LibraryPage::setsWidth() const {
 }
 
 void LibraryPage::setSetsWidth(int width) {
-  const int rest = std::max(0, _splitter->width() - _splitter->handleWidth() - width);
-  _splitter->setSizes({width, rest});
+  const int sets = static_cast<int>(BaseIconController::splitViewConstrainSplitPosition(width));
+  _splitter->setSizes({sets, std::max(0, _splitter->width() - _splitter->handleWidth() - sets)});
 }
 
 }  // namespace quorvane

@@ -63,12 +63,11 @@ LibrarySearch::LibrarySearch(BaseIconController& controller, Thumbnails& thumbna
       _emptyState(new EmptyState(viewport())) {
   setAccessibleName(tr("Icons found"));
   setModel(_finds);
-  setItemDelegate(_delegate);
+  _delegate->drawRowsOf(*this);
   setSelectionMode(QAbstractItemView::SingleSelection);
   setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
   setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   setFrameShape(QFrame::NoFrame);
-  setMouseTracking(true);
   verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
   verticalHeader()->setMinimumSectionSize(1);
   connect(&thumbnails, &Thumbnails::ready, viewport(), qOverload<>(&QWidget::update));

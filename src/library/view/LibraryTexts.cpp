@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "library/view/LibraryTexts.h"
 
+#include <QCoreApplication>
 #include <QFile>
 
 #include "ui/ElidedLabel.h"
@@ -13,6 +14,11 @@ QString shownIconName(const IconRecord& icon) {
     if (name.size() > 5 && name.endsWith(QLatin1String(ending))) name.chop(static_cast<int>(qstrlen(ending)));
   }
   return visibleText(name);
+}
+
+QString iconCount(int icons) {
+  return icons == 1 ? QCoreApplication::translate("Library", "1 icon")
+                    : QCoreApplication::translate("Library", "%n icons", nullptr, icons);
 }
 
 }  // namespace quorvane

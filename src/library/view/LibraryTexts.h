@@ -10,4 +10,7 @@ namespace quorvane {
 /// What an icon is called: its file's name without an ending that says what kind of picture it is.
 QString shownIconName(const IconRecord& icon);
 
+/// "12 icons".
+QString iconCount(int icons);
+
 }  // namespace quorvane
