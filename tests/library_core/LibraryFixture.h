@@ -57,6 +57,7 @@ class LibraryFixture : public ::testing::Test {
   }
   /// A set with these icons, listed in this order.
   std::shared_ptr<IconSet> setOf(const std::string& name, const Names& icons) {
+    fs::create_directories(root / name);
     for (const std::string& icon : icons) picture(root / name / icon);
     list(root / name / iconListName, icons);
     return set(name);
