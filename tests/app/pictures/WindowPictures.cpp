@@ -159,19 +159,21 @@ void takeSheets(Pictures& pictures) {
       {QStringLiteral("10-looks"), [](TestWindow& test) { test.controller->perform(MenuCommand::ManageLooks); }},
       {QStringLiteral("20-newer-version"),
        [](TestWindow& test) {
-         SheetUpdateView(test.window).offer({.version = QStringLiteral("1.2"),
-                                             .runningVersion = QStringLiteral("1.1"),
-                                             .published = QStringLiteral("3 March 2026"),
-                                             .news = QStringLiteral("Version 1.2 mends what you told us of.\n\n• Labels of "
-                                                                    "many lines are fitted in half the time\n• The base "
-                                                                    "pictures can be searched\n• Folders on read-only disks "
-                                                                    "are named before anything is tried"),
-                                             .pageHost = QStringLiteral("quorvane.test")});
+         SheetUpdateView(test.window)
+             .offer({.version = QStringLiteral("1.2"),
+                     .runningVersion = QStringLiteral("1.1"),
+                     .published = QStringLiteral("3 March 2026"),
+                     .news = QStringLiteral("Version 1.2 mends what you told us of.\n\n• Labels of "
+                                            "many lines are fitted in half the time\n• The base "
+                                            "pictures can be searched\n• Folders on read-only disks "
+                                            "are named before anything is tried"),
+                     .pageHost = QStringLiteral("quorvane.test")});
        }},
       {QStringLiteral("21-newest-version"),
        [](TestWindow& test) {
-         SheetUpdateView(test.window).tell(QStringLiteral("You Have the Newest Version"),
-                                           QStringLiteral("Quorvane 1.1 is the newest version there is."), {});
+         SheetUpdateView(test.window)
+             .tell(QStringLiteral("You Have the Newest Version"),
+                   QStringLiteral("Quorvane 1.1 is the newest version there is."), {});
        }},
       {QStringLiteral("22-waiting"),
        [](TestWindow& test) {
