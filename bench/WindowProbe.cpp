@@ -2,6 +2,8 @@
 // The window program with a stop-watch. Without QUORVANE_ROUNDS: as EmptyWindow. With it: that many times, the icon of
 // the folder it was started with is applied by a click and, in turn, composed and written straight away as the command
 // line does it; prints wall and processor seconds of both, from the click until the window says that it is written.
+// With QUORVANE_APPLIES instead: that many icons are applied, and after each tenth of them it prints how many kilobytes
+// the process holds.
 #include <QApplication>
 #include <QPushButton>
 #include <cstdio>
@@ -10,10 +12,13 @@
 #include "app/AppController.h"
 #include "app/Application.h"
 #include "app/core/FolderBranding.h"
+#include "app/core/SettingsTable.h"
 #include "composition/view/FolderView.h"
+#include "foundation/SettingsFile.h"
 #include "iconfamily/AppleDoubleForkStore.h"
 #include "system/FileManagerNotices.h"
 #include "system/FolderMarks.h"
+#include "system/HVUtility.h"
 #include "system/KindIcons.h"
 #include "ui/LabelTextField.h"
 
@@ -87,10 +92,41 @@ void compareApplies(int rounds) {
   QCoreApplication::quit();
 }
 
+void applyManyTimes(int count) {
+  const auto controller = AppController::sharedController();
+  const Outlets& outlets = controller->outlets();
+  const auto isReady = [&] {
+    return controller->path() && !controller->isBusy() && outlets._labelTF->stringValue().isEmpty();
+  };
+  waitUntil(isReady);
+  for (int done = 1; done <= count; ++done) {
+    controller->setLabel(QStringLiteral("Invoices\n%1").arg(done));
+    outlets._applyBtn->click();
+    waitUntil(isReady);
+    if (done % std::max(1, count / 10) != 0) continue;
+    settle();
+    std::printf("%d %llu\n", done, static_cast<unsigned long long>(HVUtility::residentSetSize()));
+    std::fflush(stdout);
+  }
+  QCoreApplication::quit();
+}
+
+/// Nobody is there to answer.
+void askNothing() {
+  const auto path = SettingsFile::usualPath();
+  if (!path) std::exit(1);
+  SettingsFile file(*path);
+  UserDefaults defaults(file);
+  for (const auto& key : {settings::showDockTip, settings::askToShareOnFacebook}) setValue(defaults, key, false);
+}
+
 void watch() {
   const int rounds = qEnvironmentVariableIntValue("QUORVANE_ROUNDS");
-  new FirstPaint([rounds] {
+  const int applies = qEnvironmentVariableIntValue("QUORVANE_APPLIES");
+  if (rounds > 0 || applies > 0) askNothing();
+  new FirstPaint([rounds, applies] {
     if (rounds > 0) return compareApplies(rounds);
+    if (applies > 0) return applyManyTimes(applies);
     std::printf("%.6f %.6f\n", seconds(CLOCK_MONOTONIC), seconds(CLOCK_PROCESS_CPUTIME_ID));
     std::fflush(stdout);
     QCoreApplication::quit();

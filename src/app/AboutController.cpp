@@ -40,6 +40,7 @@ QLayout* makeHead() {
   // Drawn for the screens of all densities.
   icon->setPixmap(QGuiApplication::windowIcon().pixmap(QSize(iconSide, iconSide), icon->devicePixelRatioF()));
   icon->setFixedSize(iconSide, iconSide);
+  icon->setAccessibleName(AboutController::tr("The program's icon"));
   auto* name = new QLabel(QCoreApplication::applicationName());
   QFont large = name->font();
   large.setPointSizeF(large.pointSizeF() * 1.9);

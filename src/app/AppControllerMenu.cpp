@@ -28,10 +28,26 @@ bool isTextField(const QWidget* focus) {
   return qobject_cast<const QLineEdit*>(focus) || qobject_cast<const QPlainTextEdit*>(focus);
 }
 
+bool waitsForAnswer(MenuCommand command) {
+  switch (command) {
+    case MenuCommand::SaveLook:
+    case MenuCommand::ManageLooks:
+    case MenuCommand::Shortcuts:
+    case MenuCommand::Preferences:
+      return true;
+    default:
+      return false;
+  }
+}
+
 }  // namespace
 
 void AppController::_connectMenu() {
-  connect(_mainMenu, &MainMenu::chosen, this, &AppController::perform);
+  connect(_mainMenu, &MainMenu::chosen, this, [this](MenuCommand command) {
+    if (!waitsForAnswer(command)) return perform(command);
+    // Assistive tools choose by a call, and whoever calls must not wait for the answer.
+    QTimer::singleShot(0, this, [this, command] { perform(command); });
+  });
   if (!hasUpdater()) _mainMenu->remove(MenuCommand::CheckForUpdates);
   const auto validate = [this] {
     _mainMenu->validate([this](MenuCommand command) { return validateMenuItem(command); });

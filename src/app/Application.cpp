@@ -32,6 +32,7 @@
 #include "system/Reveal.h"
 #include "system/SingleInstance.h"
 #include "ui/ApplicationIcon.h"
+#include "ui/CaretRest.h"
 #include "ui/DesktopAppearance.h"
 #include "ui/SharedPanels.h"
 #include "ui/Theme.h"
@@ -95,6 +96,7 @@ int runApplication(int argc, char** argv) {
   appearance.start();
   Theme theme(&appearance);
   theme.apply();
+  const CaretRest caretRest;
 
   const auto storage = openSettings();
   UserDefaults defaults(*storage);

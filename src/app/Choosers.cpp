@@ -4,6 +4,7 @@
 #include <QCoreApplication>
 #include <QFileDialog>
 #include <QImageReader>
+#include <QTimer>
 
 #include "composition/view/DroppedFolder.h"
 
@@ -18,8 +19,11 @@ QString tr(const char* text) {
 void run(QFileDialog* dialog, std::function<void(const std::filesystem::path&)> chosen) {
   dialog->setAttribute(Qt::WA_DeleteOnClose);
   dialog->setSupportedSchemes({QStringLiteral("file")});
-  QObject::connect(dialog, &QFileDialog::urlSelected, dialog, [chosen = std::move(chosen)](const QUrl& address) {
-    if (const auto path = localPath(address)) chosen(*path);
+  // Of addresses only the desktops' own dialogs tell by a signal, not the toolkit's.
+  QObject::connect(dialog, &QDialog::accepted, dialog, [dialog, chosen = std::move(chosen)] {
+    const auto path = localPath(dialog->selectedUrls().value(0));
+    // What is done with it may wait for a disk, and the dialog is at its end.
+    if (path) QTimer::singleShot(0, dialog->parent(), [chosen, path] { chosen(*path); });
   });
   // Modal to the window, as a sheet would be.
   dialog->open();

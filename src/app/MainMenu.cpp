@@ -6,6 +6,7 @@
 #include <QMainWindow>
 #include <QMenu>
 #include <QMenuBar>
+#include <QShortcut>
 #include <optional>
 
 #include "ui/ActionIcons.h"
@@ -81,6 +82,10 @@ MainMenu::MainMenu(QMainWindow& window) : QObject(&window), _window(window) {
   for (const C command : {C::Magnify1, C::Magnify2, C::Magnify3}) magnifications->addAction(action(command));
   for (const C command : {C::Magnify1, C::Magnify2, C::Magnify3, C::ShowFont, C::ToggleOriginalIcon})
     action(command)->setCheckable(true);
+  // The toolkit leaves the usual key for the menu bar to us.
+  auto* menus = new QShortcut(QKeySequence(Qt::Key_F10), &_window);
+  connect(menus, &QShortcut::activated, this,
+          [this] { _window.menuBar()->setActiveAction(_menus.front()->menuAction()); });
   action(C::Quit)->setMenuRole(QAction::QuitRole);
   action(C::Preferences)->setMenuRole(QAction::PreferencesRole);
   action(C::About)->setMenuRole(QAction::AboutRole);

@@ -123,9 +123,7 @@ int PreferenceController::_stateForKey(const settings::Key<bool>& key) const {
 
 void PreferenceController::_setFont(const LabelFont& font) {
   _font = font;
-  const QString description = filled(tr("%@ %.0f"), {font.displayName(), QString::number(font.size, 'f', 0)});
-  _fontDescriptionTF->setText(description);
-  _fontDescriptionTF->setAccessibleName(description);
+  _fontDescriptionTF->setText(filled(tr("%@ %.0f"), {font.displayName(), QString::number(font.size, 'f', 0)}));
 }
 
 bool PreferenceController::isFontSheetUp() const {

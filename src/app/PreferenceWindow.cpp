@@ -22,7 +22,7 @@ namespace {
 constexpr int contentWidth = 460;
 
 QString tr(const char* text) {
-  return QCoreApplication::translate("PreferenceWindow", text);
+  return QCoreApplication::translate("quorvane", text);
 }
 
 /// A card with its caption; what is put into the layout comes below.

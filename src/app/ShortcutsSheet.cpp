@@ -23,6 +23,9 @@ ShortcutsSheet::ShortcutsSheet(const MainMenu& menu) {
                      {tr("Put the label back while it is dragged"),
                       QKeySequence(Qt::Key_Escape).toString(QKeySequence::NativeText)}}});
 
+  groups.push_back(
+      {tr("Window"), {{tr("Open the menus"), QKeySequence(Qt::Key_F10).toString(QKeySequence::NativeText)}}});
+
   // Two columns of groups, each a name and its keys.
   auto* list = new QWidget;
   auto* columns = new QHBoxLayout(list);

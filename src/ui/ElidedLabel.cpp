@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/ElidedLabel.h"
 
+#include <QAccessible>
+#include <QAccessibleWidget>
 #include <QAction>
 #include <QClipboard>
 #include <QContextMenuEvent>
@@ -16,11 +18,25 @@
 
 namespace quorvane {
 
+namespace {
+
+/// Assistive tools would pass over what is only a place for others.
+QAccessibleInterface* elidedLabelInterface(const QString&, QObject* object) {
+  auto* label = qobject_cast<ElidedLabel*>(object);
+  return label ? new QAccessibleWidget(label, QAccessible::StaticText) : nullptr;
+}
+
+}  // namespace
+
 QString visibleText(const QString& text) {
   return QString::fromStdString(printable(text.toStdString()));
 }
 
 ElidedLabel::ElidedLabel(const QString& text, QWidget* parent) : QWidget(parent) {
+  [[maybe_unused]] static const bool once = [] {
+    QAccessible::installFactory(elidedLabelInterface);
+    return true;
+  }();
   setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
   setText(text);
 }

@@ -7,6 +7,7 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <QPainterPath>
+#include <QTimer>
 #include <vector>
 
 #include "ui/ColorPanel.h"
@@ -29,6 +30,15 @@ class ColorWellInterface : public QAccessibleWidget {
   [[nodiscard]] QString text(QAccessible::Text kind) const override {
     const auto* well = qobject_cast<const HVColorWell*>(object());
     return kind == QAccessible::Value && well ? colorText(well->color()) : QAccessibleWidget::text(kind);
+  }
+  [[nodiscard]] QStringList actionNames() const override {
+    return QStringList{pressAction()} + QAccessibleWidget::actionNames();
+  }
+  void doAction(const QString& action) override {
+    if (action != pressAction()) return QAccessibleWidget::doAction(action);
+    auto* well = qobject_cast<HVColorWell*>(object());
+    // Not within the call: a press may bring up what waits for an answer.
+    if (well && well->isEnabled()) QTimer::singleShot(0, well, &HVColorWell::click);
   }
 };
 
@@ -94,7 +104,7 @@ void HVColorWell::deactivate() {
   update();
 }
 
-void HVColorWell::_click() {
+void HVColorWell::click() {
   if (_hasTarget) {
     if (_target && _action) _action(*this);
   } else if (_active) {
@@ -111,14 +121,14 @@ void HVColorWell::mousePressEvent(QMouseEvent* event) {
 }
 
 void HVColorWell::mouseReleaseEvent(QMouseEvent* event) {
-  if (event->button() == Qt::LeftButton && rect().contains(event->position().toPoint())) _click();
+  if (event->button() == Qt::LeftButton && rect().contains(event->position().toPoint())) click();
 }
 
 void HVColorWell::keyPressEvent(QKeyEvent* event) {
   const bool presses = event->key() == Qt::Key_Space || event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
   if (!presses || event->isAutoRepeat() || event->modifiers() & ~Qt::KeypadModifier)
     return QWidget::keyPressEvent(event);
-  _click();
+  click();
 }
 
 void HVColorWell::paintEvent(QPaintEvent*) {

@@ -28,6 +28,9 @@ class HVColorWell : public QWidget {
   void setTarget(QObject* target, std::function<void(HVColorWell&)> action);
   [[nodiscard]] bool hasTarget() const { return _hasTarget; }
 
+  /// As when the user lets the button go over it.
+  void click();
+
   /// An active well follows the panel. Exclusively: no other well does then.
   void activate(bool exclusive);
   void deactivate();
@@ -51,8 +54,6 @@ class HVColorWell : public QWidget {
   void changeEvent(QEvent* event) override;
 
  private:
-  void _click();
-
   QPointer<ColorPanel> _panel;
   QColor _color = Qt::white;
   QPointer<QObject> _target;

@@ -9,6 +9,10 @@
 #include <QDBusMetaType>
 #include <QProcess>
 #include <QSignalSpy>
+#include <QWidget>
+
+#include "ui/Motion.h"
+#include "ui/Theme.h"
 
 namespace quorvane::test {
 
@@ -73,6 +77,32 @@ TEST(DesktopAppearanceTest, ReadsAndFollowsThePortal) {
   EXPECT_EQ(appearance.prefersDark(), std::nullopt);
   say("accent-color", QVariant::fromValue(Rgb{-1, 0, 0}));
   EXPECT_EQ(appearance.accent(), std::nullopt);
+
+  // Motion, in the three ways of the desktops.
+  struct Motion {
+    const char* group;
+    const char* key;
+    QVariant against;
+    QVariant fine;
+  };
+  const QWidget widget;
+  const bool before = wantsMotion(widget);
+  Theme theme(&appearance);
+  theme.apply();
+  for (const Motion& each :
+       {Motion{"org.freedesktop.appearance", "reduced-motion", 1U, 0U},
+        Motion{"org.gnome.desktop.interface", "enable-animations", false, true},
+        Motion{"org.kde.kdeglobals.KDE", "AnimationDurationFactor", QStringLiteral("0"), QStringLiteral("0.5")}}) {
+    const auto take = [&](const QVariant& value) {
+      appearance.take(QLatin1String(each.group), QLatin1String(each.key), value);
+      return appearance.prefersReducedMotion();
+    };
+    EXPECT_FALSE(take(QStringLiteral("nonsense"))) << each.key;
+    EXPECT_TRUE(take(each.against)) << each.key;
+    EXPECT_FALSE(wantsMotion(widget)) << each.key;
+    EXPECT_FALSE(take(each.fine)) << each.key;
+    EXPECT_EQ(wantsMotion(widget), before) << each.key;
+  }
   bus.kill();
   bus.waitForFinished();
 }

@@ -6,9 +6,11 @@ import socket
 import struct
 import time
 
-ACCESSIBLE, COMPONENT, TEXT = (f"org.a11y.atspi.{name}" for name in ("Accessible", "Component", "Text"))
+ACCESSIBLE, COMPONENT, TEXT, EDITABLE_TEXT, ACTION, VALUE = (
+    f"org.a11y.atspi.{name}" for name in ("Accessible", "Component", "Text", "EditableText", "Action", "Value"))
+PROPERTIES = "org.freedesktop.DBus.Properties"
 ROOT = "/org/a11y/atspi/accessible/root"
-ENABLED, FOCUSED, SHOWING = 8, 12, 25  # bits of the state set
+CHECKED, ENABLED, FOCUSABLE, FOCUSED, SHOWING = 4, 8, 11, 12, 25  # bits of the state set
 
 
 class Failure(Exception):
@@ -100,11 +102,17 @@ class Bus:
         self._socket.close()
 
     def call(self, name, path, interface, member, *arguments):
-        """The values of the answer. Texts go as s, whole numbers as i, and ("u", 1) as what it says."""
+        """The values of the answer. Texts go as s, whole numbers as i, fractions as a variant with a d, and ("u", 1) as
+        what it says."""
         signature, body = "", b""
         for argument in arguments:
-            kind, value = argument if isinstance(argument, tuple) else ("s" if isinstance(argument, str) else "i", argument)
+            kinds = {str: "s", int: "i", float: "v"}
+            kind, value = argument if isinstance(argument, tuple) else (kinds[type(argument)], argument)
             signature += kind
+            if kind == "v":
+                body += b"\1d\0"
+                body += bytes(_padding(len(body), 8)) + struct.pack("<d", value)
+                continue
             body += bytes(_padding(len(body), 4)) + (_text(value) if kind == "s" else struct.pack("<" + NUMBERS[kind], value))
         self._serial += 1
         fields = b""
@@ -149,7 +157,7 @@ class Widget:
         return self._bus.call(self._owner, self.path, interface, member, *arguments)
 
     def _property(self, interface, name):
-        return self._call("org.freedesktop.DBus.Properties", "Get", interface, name)[0]
+        return self._call(PROPERTIES, "Get", interface, name)[0]
 
     @property
     def name(self):
@@ -175,6 +183,35 @@ class Widget:
     @property
     def text(self):
         return self._call(TEXT, "GetText", 0, -1)[0]
+
+    @property
+    def interfaces(self):
+        return self._call(ACCESSIBLE, "GetInterfaces")[0]
+
+    @property
+    def value(self):
+        return self._property(VALUE, "CurrentValue")
+
+    def set_value(self, value):
+        self._call(PROPERTIES, "Set", VALUE, "CurrentValue", float(value))
+
+    def set_text(self, text):
+        self._call(EDITABLE_TEXT, "SetTextContents", text)
+
+    @property
+    def actions(self):
+        return [action[0] for action in self._call(ACTION, "GetActions")[0]]
+
+    def act(self, *names):
+        """The first of these actions that it has."""
+        known = self.actions
+        found = next((name for name in names if name in known), None)
+        if found is None:
+            raise Failure(f"{self.name!r} has the actions {known}")
+        self._call(ACTION, "DoAction", known.index(found))
+
+    def press(self):
+        self.act("Press", "Toggle")
 
     def walk(self):
         """Itself and all that is below, as far as it is shown."""

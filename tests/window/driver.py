@@ -88,8 +88,8 @@ class Program:
 
     def notice(self):
         """What the words beside the path say, if anything."""
-        names = (widget.name for widget in self.application.walk() if widget.role == "label")
-        return next((name for name in names if name not in QUIET), None)
+        names = [widget.name for widget in self.application.walk() if widget.role == "label"]
+        return next((name for name in names if name and name not in QUIET and not name.startswith(("/", "~"))), None)
 
     def wait_open(self, folder):
         self.wait_title("– " + os.path.basename(folder))
@@ -201,6 +201,12 @@ class WindowTest(EndToEndTest):
         pids = [pid for pid in session.descendants(os.getpid()) if session.name_of(pid) == MANAGER]
         shown = accessible.application(self.accessibility, pids[0])
         return lambda name: self.wait(lambda: next((w for w in shown.walk() if w.name == name), None), name).extents
+
+    def put_tip_away(self, program):
+        """What the first icon of all leads to."""
+        self.wait_for_sheet(program, "Important Dock Tip")
+        self.key("Return")
+        self.wait(lambda: not program.find("push button", "^OK$"), "the tip to go")
 
     def wait_for_sheet(self, program, title):
         self.wait(lambda: any(title in widget.name for widget in program.application.walk()), f"the sheet {title!r}")

@@ -12,6 +12,7 @@ import struct
 import time
 import unittest
 
+import session
 from driver import SIZE, WindowTest
 from support import BUILD, CUSTOM_ICON, ICON_COMPANION, folder_flags, read, tree, write
 
@@ -109,6 +110,11 @@ class StartsTest(WindowTest):
             "the font panel": (True, lambda program: self.key("ctrl+t")),
             "the colour panel": (True, lambda program: self.key("ctrl+shift+c")),
             "the shortcuts": (True, lambda program: self.key("ctrl+question")),
+            "the preferences": (True, lambda program: self.key("ctrl+comma")),
+            "the default colour": (False, lambda program: self._sheet_of_preferences(program, "color chooser")),
+            "the default font": (False, lambda program: self._sheet_of_preferences(program, "push button", "^Change")),
+            "about": (True, lambda program: self._about(program)),
+            "the licence": (False, lambda program: self._licence(program)),
             "a drag": (True, lambda program: self.xdotool("mousemove", *self.canvas(program), "mousedown", 1,
                                                          "mousemove_relative", "--", 30, 30)),
         }
@@ -126,6 +132,21 @@ class StartsTest(WindowTest):
                     self.assertEqual(program.said(), "")
                     self.xdotool("mouseup", 1)
 
+    def _sheet_of_preferences(self, program, role, name="^Default"):
+        self.key("ctrl+comma")
+        program.get("frame", "^Preferences$")
+        self.click(program.get(role, name))
+        program.get("push button", "^Done$")
+
+    def _about(self, program):
+        self.key("alt+h", "a")
+        program.get("frame", "^About")
+
+    def _licence(self, program):
+        self._about(program)
+        self.key("alt+l")
+        program.get("text", "licence")
+
     @staticmethod
     def canvas(program):
         x, y, width, height = program.get("canvas").extents
@@ -139,6 +160,8 @@ class StartsTest(WindowTest):
         program = self.start(*arguments, command=["strace", "-f", "-qq", "-s", "200", "-o", trace, "-e",
                                                   "trace=connect,sendto,bind,execve"],
                              env={"RES_OPTIONS": "timeout:1 attempts:1"})
+        # What is traced outlives its tracer.
+        self.addCleanup(lambda: [os.kill(pid, signal.SIGKILL) for pid in session.descendants(program.process.pid)])
         act()
         self.key("ctrl+q")
         self.assertEqual(program.wait_end(), 0)
@@ -154,13 +177,15 @@ class StartsTest(WindowTest):
         before = tree(self.home)
 
         def act():
-            self._apply_blindly(folder)
-            for keys, title in ((["ctrl+comma"], "Preferences"), (["alt+h", "a"], "About Quorvane")):
+            for keys, title in (([], "Invoices"), (["ctrl+comma"], "^Preferences$"), (["alt+h", "a"], "^About Quorvane$")):
                 self.key(*keys)
-                shown = lambda: self.xdotool("search", "--onlyvisible", "--name", f"^{title}$")
-                self.wait(lambda: shown() and shown() == self.xdotool("getactivewindow"), title)
-                self.key("Escape")
-                self.wait(lambda: not shown(), title + " to go")
+                shown = lambda: self.xdotool("search", "--onlyvisible", "--name", title)
+                self.wait(lambda: shown() and shown() == self.xdotool("getactivewindow"), title, patience=60)
+                if keys:
+                    self.key("Escape")
+                    self.wait(lambda: not shown(), title + " to go")
+            self._apply_blindly(folder)
+            self.key("Return")  # away with the tip
 
         self.assertEqual(self.trace(folder, act=act), ([], []))
         after = tree(self.home)

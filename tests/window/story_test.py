@@ -74,6 +74,7 @@ class StoryTest(WindowTest):
         program.get("filler", "^Original icon$")
         self.wait(lambda: self._screen(item) != shown, "the file manager to show it")
         self.picture("6-applied")
+        self.put_tip_away(program)
 
         self.key("alt+v")
         self.wait(lambda: not os.path.exists(os.path.join(folder, BACKUP)), "Revert")
