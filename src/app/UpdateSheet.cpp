@@ -4,6 +4,7 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QVBoxLayout>
+#include <algorithm>
 
 #include "app/LayoutPieces.h"
 #include "ui/AlertPanel.h"
@@ -15,22 +16,15 @@ namespace {
 
 constexpr int newsWidth = 480;
 constexpr int newsHeight = 260;
+constexpr int leastNewsHeight = 60;
+/// What all else on the sheet takes, and the window's menu.
+constexpr int otherHeight = 330;
 
 QLabel* makeLine(const QString& text) {
   auto* line = new QLabel(text);
   line->setTextFormat(Qt::PlainText);
   line->setWordWrap(true);
   return line;
-}
-
-QFrame* makeNews(const QString& news) {
-  QFrame* card = makeCard();
-  auto* text = new MessageText(news, card);
-  text->fit(newsWidth, newsHeight);
-  auto* inside = new QVBoxLayout(card);
-  inside->setContentsMargins(cardPadding, cardPadding, cardPadding, cardPadding);
-  inside->addWidget(text);
-  return card;
 }
 
 }  // namespace
@@ -42,13 +36,19 @@ UpdateSheet::UpdateSheet(const UpdateOffer& offer) {
   layout->setSpacing(10);
   layout->addWidget(makeTitle(windowTitle()));
   const QString running = tr("You have version %1.").arg(offer.runningVersion);
-  layout->addWidget(makeLine(offer.published.isEmpty()
-                                 ? running
-                                 : running + QLatin1Char(' ') + tr("The new one is of %1.").arg(offer.published)));
+  layout->addWidget(makeLine(offer.published.isEmpty() ? running
+                                                       : running + QLatin1Char(' ') +
+                                                             tr("The new one came out on %1.").arg(offer.published)));
   if (!offer.news.isEmpty()) {
     layout->addSpacing(4);
     layout->addWidget(makeCaption(tr("What Is New")));
-    layout->addWidget(makeNews(offer.news));
+    QFrame* card = makeCard();
+    _news = new MessageText(offer.news, card);
+    _news->setAccessibleName(tr("What Is New"));
+    auto* inside = new QVBoxLayout(card);
+    inside->setContentsMargins(cardPadding, cardPadding, cardPadding, cardPadding);
+    inside->addWidget(_news);
+    layout->addWidget(card);
   }
   QLabel* remark =
       makeLine(offer.pageHost.isEmpty()
@@ -79,6 +79,13 @@ UpdateSheet::UpdateSheet(const UpdateOffer& offer) {
     buttons->addWidget(open);
   }
   layout->addLayout(buttons);
+  (offer.pageHost.isEmpty() ? notNow : open)->setFocus();
+}
+
+void UpdateSheet::showEvent(QShowEvent* event) {
+  // Not before: only now the text has its font and the window its size.
+  if (_news) _news->fit(newsWidth, std::clamp(window()->height() - otherHeight, leastNewsHeight, newsHeight));
+  QWidget::showEvent(event);
 }
 
 }  // namespace quorvane

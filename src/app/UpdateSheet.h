@@ -7,6 +7,8 @@
 
 namespace quorvane {
 
+class MessageText;
+
 /// Offers a newer version, as a sheet's content: what is new, and whose page a button would open. It ends with one of
 /// these codes.
 class UpdateSheet : public QWidget {
@@ -17,6 +19,12 @@ class UpdateSheet : public QWidget {
   static constexpr int skip = 2;
 
   explicit UpdateSheet(const UpdateOffer& offer);
+
+ protected:
+  void showEvent(QShowEvent* event) override;
+
+ private:
+  MessageText* _news = nullptr;
 };
 
 }  // namespace quorvane

@@ -36,7 +36,7 @@ struct ScriptedFetcher : FeedFetcher {
 };
 
 struct ScriptedView : UpdateView {
-  [[nodiscard]] bool isOccupied() const override { return occupied; }
+  [[nodiscard]] bool isOccupied() const override { return ++looks, occupied; }
   void beginWaiting(std::function<void()> givenUp) override { giveUp = std::move(givenUp); }
   void endWaiting() override { giveUp = nullptr; }
   void tell(const QString& title, const QString& message, const QString& details) override {
@@ -47,6 +47,7 @@ struct ScriptedView : UpdateView {
     if (whileOffered) whileOffered();
     return answer;
   }
+  mutable int looks = 0;
   bool occupied = false;
   UpdateAnswer answer = UpdateAnswer::Later;
   std::function<void()> giveUp, whileOffered;
@@ -168,17 +169,20 @@ TEST_F(AppcastUpdaterTest, IsOneCheckAtATimeAndCoversNothing) {
   EXPECT_FALSE(fetcher.pending);
 
   // Over a sheet: who asked is told later, the background tries once more and gives up.
+  const auto waitForLooks = [&](int looks) { EXPECT_TRUE(QTest::qWaitFor([&] { return view.looks >= looks; })); };
   view.occupied = true;
   updater.checkForUpdates();
   answer(feed("1.0"));
-  QTest::qWait(20);
+  waitForLooks(5);
   EXPECT_TRUE(view.told.isEmpty());
   view.occupied = false;
   EXPECT_TRUE(QTest::qWaitFor([&] { return view.told.size() == 1; }));
   view.occupied = true;
+  view.looks = 0;
   updater.checkForUpdatesInBackground();
   answer(feed("2"));
-  QTest::qWait(20);
+  // Once it looks before it waits.
+  waitForLooks(2);
   view.occupied = false;
   QTest::qWait(20);
   EXPECT_TRUE(view.offers.empty());
