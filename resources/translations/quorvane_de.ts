@@ -1332,7 +1332,7 @@ Vielen Dank!</translation>
     </message>
     <message>
         <source>The folder’s own icon</source>
-        <translation>Das Symbol des Ordners selbst</translation>
+        <translation>Eigenes Symbol des Ordners</translation>
     </message>
     <message>
         <source>The label is drawn on this picture.</source>

@@ -26,6 +26,23 @@ QString tr(const char* text) {
   return QCoreApplication::translate("quorvane", text);
 }
 
+/// Scrolls upwards and downwards only, so it gets as wide as long texts and large fonts make what is in it.
+class ScrollColumn : public QScrollArea {
+ public:
+  [[nodiscard]] QSize minimumSizeHint() const override {
+    const int bar = verticalScrollBar()->isVisible() ? verticalScrollBar()->sizeHint().width() : 0;
+    const int needed = widget() ? widget()->minimumSizeHint().width() + bar : 0;
+    return {std::max(inspectorWidth, needed), QScrollArea::minimumSizeHint().height()};
+  }
+  [[nodiscard]] QSize sizeHint() const override {
+    return {minimumSizeHint().width(), QScrollArea::sizeHint().height()};
+  }
+  bool eventFilter(QObject* watched, QEvent* event) override {
+    if (event->type() == QEvent::LayoutRequest) updateGeometry();
+    return QScrollArea::eventFilter(watched, event);
+  }
+};
+
 PopUpButton* makeEffects() {
   // Captions have negative tags.
   constexpr int shadows = -1;
@@ -117,7 +134,7 @@ QWidget* makeInspector(Outlets& outlets, SharedPanels& panels) {
   layout->addStretch();
 
   // With large fonts the cards are higher than a small screen.
-  auto* scroll = new QScrollArea;
+  auto* scroll = new ScrollColumn;
   scroll->setWidget(cards);
   scroll->setWidgetResizable(true);
   scroll->setFrameShape(QFrame::NoFrame);
@@ -125,7 +142,7 @@ QWidget* makeInspector(Outlets& outlets, SharedPanels& panels) {
   scroll->viewport()->setAutoFillBackground(false);
   cards->setAutoFillBackground(false);
   scroll->setFocusPolicy(Qt::NoFocus);
-  scroll->setFixedWidth(inspectorWidth);
+  scroll->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Expanding);
   return scroll;
 }
 

@@ -7,12 +7,9 @@
 #include <QVBoxLayout>
 
 #include "app/LayoutPieces.h"
+#include "ui/Texts.h"
 
 namespace quorvane {
-
-QString withoutAccessKey(QString text) {
-  return text.remove(QLatin1Char('&'));
-}
 
 InspectorCard::InspectorCard(const QString& caption) : frame(makeCard()), _rows(new QVBoxLayout(frame)) {
   _rows->setContentsMargins(cardPadding, cardPadding - 4, cardPadding, cardPadding - 2);

@@ -29,7 +29,4 @@ class InspectorCard {
   QVBoxLayout* _rows;
 };
 
-/// Without the "&" before its access key.
-QString withoutAccessKey(QString text);
-
 }  // namespace quorvane

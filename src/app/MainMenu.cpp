@@ -9,6 +9,7 @@
 #include <QShortcut>
 #include <optional>
 
+#include "ui/Texts.h"
 #include "ui/ActionIcons.h"
 
 namespace quorvane {
@@ -127,7 +128,7 @@ void MainMenu::_fill(QMenu& menu, const std::vector<Row>& rows) {
     }
     if (row.icon) action->setIcon(actionIcon(QLatin1String(row.icon), QPalette::Text));
     // Some change their words as time goes by; this is what they are called in lists.
-    action->setProperty("plainName", QString(row.text).remove(QLatin1Char('&')));
+    action->setProperty("plainName", withoutAccessKey(row.text));
     action->setShortcuts(row.keys);
     _actions[*row.command] = action;
   }
@@ -156,10 +157,9 @@ void MainMenu::setUndoTexts(const QString& undo, const QString& redo) {
 }
 
 std::vector<MainMenu::ShortcutGroup> MainMenu::shortcuts() const {
-  const auto plain = [](QString text) { return text.remove(QLatin1Char('&')); };
   std::vector<ShortcutGroup> groups;
   for (const QMenu* menu : _menus) {
-    ShortcutGroup group{plain(menu->title()), {}};
+    ShortcutGroup group{withoutAccessKey(menu->title()), {}};
     const auto add = [&](const QAction* action) {
       if (!action->shortcut().isEmpty())
         group.shortcuts.push_back(

@@ -5,6 +5,7 @@
 #include <QGuiApplication>
 #include <algorithm>
 #include <cerrno>
+#include <clocale>
 #include <cstdio>
 #include <cstring>
 #include <memory>
@@ -120,6 +121,8 @@ int main(int argc, char** argv) {
   } else {
     application = std::make_unique<QCoreApplication>(argc, argv);
   }
+  // Qt has just taken the user's: half of each message would be in another language than ours.
+  std::setlocale(LC_MESSAGES, "C");
   watchSignals();
 
   Image::registerReader(familyPictureReader());

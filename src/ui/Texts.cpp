@@ -20,4 +20,14 @@ QString filled(const QString& format, const QStringList& arguments) {
   return text.append(QStringView(format).mid(from));
 }
 
+QString withoutAccessKey(const QString& text) {
+  QString plain = text;
+  // The second of two stands for itself.
+  for (qsizetype at = plain.indexOf(u'&'); at >= 0; at = plain.indexOf(u'&', at + 1)) {
+    const bool isAppended = at > 0 && plain.at(at - 1) == u'(' && plain.mid(at + 2, 1) == u")";
+    isAppended ? plain.remove(at - 1, 4) : plain.remove(at, 1);
+  }
+  return plain;
+}
+
 }  // namespace quorvane

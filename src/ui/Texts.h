@@ -10,4 +10,8 @@ namespace quorvane {
 /// argument stays as it is; places without an argument too.
 QString filled(const QString& format, const QStringList& arguments);
 
+/// A control's text without its mark of an access key: "Save" of "&Save", and of "Save(&S)", as languages have it whose
+/// script is not on the keys.
+QString withoutAccessKey(const QString& text);
+
 }  // namespace quorvane

@@ -201,6 +201,15 @@ TEST(WindowTextsTest, PlacesAreFilledInTheirOrderOnly) {
   EXPECT_EQ(filled(QStringLiteral("%d %"), {}), QStringLiteral("%d %"));
 }
 
+TEST(WindowTextsTest, AccessKeysAreTakenOutWhereverTheyStand) {
+  for (const auto& [text, plain] : std::initializer_list<std::pair<QString, QString>>{
+           {QStringLiteral("Re&vert"), QStringLiteral("Revert")},
+           {QStringLiteral("\u958b\u304f(&O)\u2026"), QStringLiteral("\u958b\u304f\u2026")},
+           {QStringLiteral("R&&D (&a few)"), QStringLiteral("R&D (a few)")},
+           {QStringLiteral("&"), QString()}})
+    EXPECT_EQ(withoutAccessKey(text), plain);
+}
+
 TEST(WindowArgumentsTest, OptionsAndFoldersAreToldApart) {
   EXPECT_EQ(parseWindowArguments({"a", "--", "--help"}).folders, (std::vector<std::string>{"a", "--help"}));
   EXPECT_EQ(parseWindowArguments({"--help"}).exitCode, 0);

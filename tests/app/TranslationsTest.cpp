@@ -7,6 +7,7 @@
 #include <QAbstractButton>
 #include <QCoreApplication>
 #include <QLabel>
+#include <QScrollArea>
 #include <QTest>
 #include <set>
 
@@ -77,6 +78,8 @@ TEST_P(InLanguage, WhatTheWindowSaysIsThereAndFits) {
   // As small as it can be made.
   test.window.resize(1, 1);
   QCoreApplication::processEvents();
+  for (const QScrollArea* column : test.window.findChildren<QScrollArea*>())
+    EXPECT_GE(column->viewport()->width(), column->widget()->minimumSizeHint().width());
   int count = 0;
   for (const QWidget* widget : test.window.findChildren<QWidget*>()) {
     if (!widget->isVisibleTo(&test.window)) continue;

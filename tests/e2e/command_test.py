@@ -6,7 +6,8 @@ import signal
 import subprocess
 import unittest
 
-from support import (FOREIGN, LABEL, PROGRAM, EndToEndTest, can_store_finder_info, plant_custom_icon, tree, write)
+from support import (FOREIGN, LABEL, PROGRAM, EndToEndTest, can_store_finder_info, plant_custom_icon, read, tree,
+                     write)
 
 COMMANDS = (("apply",), ("revert",), ("reset",), ("status",), ("render",), ("icns",), ("icns", "make"),
             ("icns", "list"), ("icns", "extract"))
@@ -134,6 +135,23 @@ class CommandTest(EndToEndTest):
                 self.assertEqual([line for line in outcome.err.splitlines() if "no desktop session" not in line], [])
                 families.append(self.assert_branded(folder))
         self.assertEqual(len(set(families)), 1, "the same icon everywhere")
+
+    def test_words_and_numbers_are_the_same_in_every_locale(self):
+        locales = os.path.join(self.place, "locales")
+        os.mkdir(locales)
+        if subprocess.run(["localedef", "-i", "de_DE", "-f", "UTF-8", locales + "/de_DE.UTF-8"],
+                          capture_output=True).returncode != 0:
+            self.skipTest("no locale can be made here")
+        said = []
+        for locale in ("C.UTF-8", "de_DE.UTF-8"):
+            env = {**self.environment(), "LOCPATH": locales, "LC_ALL": locale}
+            missing = self.expect(1, "status", "--json", "nowhere", env=env)
+            self.expect(0, "render", *LABEL, "--shear", "0.5", "--save-look", "my.look", "my.png", env=env)
+            files = [os.path.join(self.work, name) for name in ("my.look", "my.png")]
+            said.append((missing.out, missing.err, *map(read, files)))
+            list(map(os.remove, files))
+        self.assertEqual(*said)
+        self.assertIn("No such file", said[0][0])
 
     def test_nothing_is_written_but_into_the_folder_and_our_own_places(self):
         folder = self.folder()

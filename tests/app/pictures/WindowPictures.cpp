@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // window_pictures FOLDER [PREFIX]: draws the window in its states, in light and dark, into PNG pictures and ends.
 // QT_SCALE_FACTOR=2 gives those of a dense screen, -reverse those from right to left, QUORVANE_LONG=1 longer texts,
-// LANGUAGE=de those in a language.
+// QUORVANE_LARGE=1 fonts twice as large, LANGUAGE=de those in a language.
 #include <QApplication>
 #include <QDir>
 #include <QDragEnterEvent>
@@ -309,7 +309,7 @@ int main(int argc, char** argv) {
   Sheet::setAnimated(false);
   Drawer::setAnimated(false);
   QFont font(QStringLiteral("Noto Sans"));
-  font.setPointSizeF(10);
+  font.setPointSizeF(qEnvironmentVariableIsSet("QUORVANE_LARGE") ? 20 : 10);
   QApplication::setFont(font);
   Theme theme(nullptr);
   for (const auto scheme : {Theme::Scheme::Light, Theme::Scheme::Dark}) {
