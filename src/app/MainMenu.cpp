@@ -9,8 +9,8 @@
 #include <QShortcut>
 #include <optional>
 
-#include "ui/Texts.h"
 #include "ui/ActionIcons.h"
+#include "ui/Texts.h"
 
 namespace quorvane {
 
