@@ -46,10 +46,23 @@ void settle() {
   waitUntil([&] { return isOver; });
 }
 
+/// Begins once the folder is open. The first frame may be painted while the controller waits for the folder: what
+/// begins there would keep it waiting.
+void whenOpen(std::function<void()> begin) {
+  auto* watch = new QTimer(qApp);
+  QObject::connect(watch, &QTimer::timeout, watch, [watch, begin = std::move(begin), seen = 0]() mutable {
+    const auto controller = AppController::sharedController();
+    seen = controller->path() && !controller->isBusy() ? seen + 1 : 0;
+    if (seen < 2) return;
+    watch->stop();
+    begin();
+  });
+  watch->start(200);
+}
+
 void compareApplies(int rounds) {
   const auto controller = AppController::sharedController();
   const Outlets& outlets = controller->outlets();
-  waitUntil([&] { return controller->path() && !controller->isBusy(); });
   const auto folder = *controller->path();
 
   AppleDoubleForkStore forks;
@@ -98,7 +111,6 @@ void applyManyTimes(int count) {
   const auto isReady = [&] {
     return controller->path() && !controller->isBusy() && outlets._labelTF->stringValue().isEmpty();
   };
-  waitUntil(isReady);
   for (int done = 1; done <= count; ++done) {
     controller->setLabel(QStringLiteral("Invoices\n%1").arg(done));
     outlets._applyBtn->click();
@@ -125,8 +137,8 @@ void watch() {
   const int applies = qEnvironmentVariableIntValue("QUORVANE_APPLIES");
   if (rounds > 0 || applies > 0) askNothing();
   new FirstPaint([rounds, applies] {
-    if (rounds > 0) return compareApplies(rounds);
-    if (applies > 0) return applyManyTimes(applies);
+    if (rounds > 0) return whenOpen([rounds] { compareApplies(rounds); });
+    if (applies > 0) return whenOpen([applies] { applyManyTimes(applies); });
     std::printf("%.6f %.6f\n", seconds(CLOCK_MONOTONIC), seconds(CLOCK_PROCESS_CPUTIME_ID));
     std::fflush(stdout);
     QCoreApplication::quit();
