@@ -12,8 +12,7 @@ import struct
 import time
 import unittest
 
-import session
-from driver import SIZE, WindowTest
+from driver import SIZE, WindowTest, session
 from support import BUILD, CUSTOM_ICON, ICON_COMPANION, folder_flags, read, tree, write
 
 FEED = os.path.join(BUILD, "src/libexec/quorvane/quorvane-feed")
@@ -82,8 +81,7 @@ class StartsTest(WindowTest):
     def _apply_blindly(self, folder):
         """Where nobody can be asked what the window shows."""
         name = os.path.basename(folder)
-        self.wait(lambda: self.xdotool("search", "--onlyvisible", "--name", name) == self.xdotool("getactivewindow"),
-                  "the window in front", patience=60)
+        self.wait_front(name)
         begun = time.monotonic() - 10
 
         def is_written():
@@ -152,6 +150,13 @@ class StartsTest(WindowTest):
         x, y, width, height = program.get("canvas").extents
         return x + width // 2, y + height // 2
 
+    def titled(self, name):
+        return self.xdotool("search", "--onlyvisible", "--name", name)
+
+    def wait_front(self, name):
+        self.wait(lambda: self.titled(name) and self.titled(name) == self.xdotool("getactivewindow"),
+                  f"{name} in front", patience=60)
+
     def trace(self, *arguments, act):
         """The calls that lead out, of a run with the folder in which something is done, then quit by the keyboard."""
         if not shutil.which("strace"):
@@ -177,13 +182,12 @@ class StartsTest(WindowTest):
         before = tree(self.home)
 
         def act():
-            for keys, title in (([], "Invoices"), (["ctrl+comma"], "^Preferences$"), (["alt+h", "a"], "^About Quorvane$")):
+            self.wait_front("Invoices")
+            for keys, title in ((["ctrl+comma"], "^Preferences$"), (["alt+h", "a"], "^About Quorvane$")):
                 self.key(*keys)
-                shown = lambda: self.xdotool("search", "--onlyvisible", "--name", title)
-                self.wait(lambda: shown() and shown() == self.xdotool("getactivewindow"), title, patience=60)
-                if keys:
-                    self.key("Escape")
-                    self.wait(lambda: not shown(), title + " to go")
+                self.wait_front(title)
+                self.key("Escape")
+                self.wait(lambda: not self.titled(title), title + " to go")
             self._apply_blindly(folder)
             self.key("Return")  # away with the tip
 
@@ -205,7 +209,11 @@ class StartsTest(WindowTest):
             with contextlib.suppress(OSError, KeyError):
                 return b"quorvane-feed" in read(os.path.join(self.place, "trace"))
 
-        calls, feeds = self.trace(act=lambda: self.wait(is_asked, "the feed to be asked for", patience=60))
+        def act():
+            self.wait_front("^Quorvane")
+            self.wait(is_asked, "the feed to be asked for", patience=60)
+
+        calls, feeds = self.trace(act=act)
         address = json.loads(read(settings))["values"]["SUFeedURL"]
         self.assertRegex(address, r"^https://[^/]+/.*appcast-\d+\.xml$")
         self.assertEqual(len(feeds), 1, feeds)
