@@ -5,7 +5,7 @@
 #include <gtest/gtest.h>
 
 #include <QAbstractButton>
-#include <QCoreApplication>
+#include <QApplication>
 #include <QLabel>
 #include <QScrollArea>
 #include <QTest>
@@ -63,12 +63,18 @@ class InLanguage : public testing::TestWithParam<const char*> {};
 
 TEST_P(InLanguage, WhatTheWindowSaysIsThereAndFits) {
   const bool longer = GetParam() == std::string_view("longer");
+  const QFont usual = QApplication::font();
+  if (GetParam() == std::string_view("de-large")) {
+    QFont large = usual;
+    large.setPointSizeF(usual.pointSizeF() * 2);
+    QApplication::setFont(large);
+  }
   const Translations registers({});
   Recorder recorder;
   LongTexts longTexts;
   if (longer)
     QCoreApplication::installTranslator(&longTexts);
-  else if (recorder.load(QStringLiteral(":/translations/quorvane_%1.qm").arg(QLatin1String(GetParam()))))
+  else if (recorder.load(QStringLiteral(":/translations/quorvane_%1.qm").arg(QLatin1String(GetParam(), 2))))
     QCoreApplication::installTranslator(&recorder);
   TestWindow test;
   test.launch();
@@ -94,13 +100,14 @@ TEST_P(InLanguage, WhatTheWindowSaysIsThereAndFits) {
         << text.toStdString();
   }
   EXPECT_GT(count, 15);
+  QApplication::setFont(usual);
   QCoreApplication::removeTranslator(&recorder);
   QCoreApplication::removeTranslator(&longTexts);
   EXPECT_EQ(recorder.QTranslator::isEmpty(), longer);
   for (const std::string& text : recorder.missing) ADD_FAILURE() << text;
 }
 
-INSTANTIATE_TEST_SUITE_P(Languages, InLanguage, testing::Values("de", "ja", "longer"));
+INSTANTIATE_TEST_SUITE_P(Languages, InLanguage, testing::Values("de", "de-large", "ja", "longer"));
 
 }  // namespace
 }  // namespace quorvane::test
