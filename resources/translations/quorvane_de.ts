@@ -668,6 +668,20 @@
     </message>
 </context>
 <context>
+    <name>Library</name>
+    <message>
+        <source>1 icon</source>
+        <translation>1 Symbol</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n icons</source>
+        <translation>
+            <numerusform>%n Symbol</numerusform>
+            <numerusform>%n Symbole</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>QObject</name>
     <message>
         <source>Looking for a New Version</source>
@@ -1057,6 +1071,10 @@
     <message>
         <source>Text of the licence</source>
         <translation>Text der Lizenz</translation>
+    </message>
+    <message>
+        <source>The program&apos;s icon</source>
+        <translation>Das Symbol des Programms</translation>
     </message>
 </context>
 <context>
@@ -1494,19 +1512,23 @@ Vielen Dank!</translation>
 </context>
 <context>
     <name>quorvane::IconAdder</name>
+    <message>
+        <source>“%1” cannot be added: %2</source>
+        <translation>„%1“ kann nicht hinzugefügt werden: %2</translation>
+    </message>
+    <message>
+        <source>Adding an icon…</source>
+        <translation>Ein Symbol wird hinzugefügt…</translation>
+    </message>
     <message numerus="yes">
-        <source>Adding %n icon(s)…</source>
+        <source>Adding %n icons…</source>
         <translation>
             <numerusform>%n Symbol wird hinzugefügt…</numerusform>
             <numerusform>%n Symbole werden hinzugefügt…</numerusform>
         </translation>
     </message>
-    <message>
-        <source>“%1” cannot be added: %2</source>
-        <translation>„%1“ kann nicht hinzugefügt werden: %2</translation>
-    </message>
     <message numerus="yes">
-        <source>%n file(s) cannot be added.</source>
+        <source>%n files cannot be added.</source>
         <translation>
             <numerusform>%n Datei kann nicht hinzugefügt werden.</numerusform>
             <numerusform>%n Dateien können nicht hinzugefügt werden.</numerusform>
@@ -1627,12 +1649,9 @@ Vielen Dank!</translation>
 </context>
 <context>
     <name>quorvane::LibraryPage</name>
-    <message numerus="yes">
-        <source>%1, %n icon(s)</source>
-        <translation>
-            <numerusform>%1, %n Symbol</numerusform>
-            <numerusform>%1, %n Symbole</numerusform>
-        </translation>
+    <message>
+        <source>%1, %2</source>
+        <translation>%1, %2</translation>
     </message>
 </context>
 <context>
@@ -2076,16 +2095,16 @@ Vielen Dank!</translation>
         <translation>Farbe des Abzeichens</translation>
     </message>
     <message>
-        <source>Choose Overlay…</source>
-        <translation>Abzeichen wählen…</translation>
-    </message>
-    <message>
         <source>Picture</source>
         <translation>Bild</translation>
     </message>
     <message>
         <source>Character</source>
         <translation>Zeichen</translation>
+    </message>
+    <message>
+        <source>Choose…</source>
+        <translation>Wählen…</translation>
     </message>
 </context>
 <context>
@@ -2214,6 +2233,18 @@ Vielen Dank!</translation>
         <source>Close</source>
         <translation>Schließen</translation>
     </message>
+    <message>
+        <source>Window</source>
+        <translation>Fenster</translation>
+    </message>
+    <message>
+        <source>Open the menus</source>
+        <translation>Menüs öffnen</translation>
+    </message>
+    <message>
+        <source>Move the overlay instead, or the label again</source>
+        <translation>Stattdessen das Abzeichen verschieben oder wieder die Beschriftung</translation>
+    </message>
 </context>
 <context>
     <name>quorvane::Slider</name>
@@ -2248,10 +2279,6 @@ Vielen Dank!</translation>
         <translation>Sie haben Version %1.</translation>
     </message>
     <message>
-        <source>The new one is of %1.</source>
-        <translation>Die neue ist vom %1.</translation>
-    </message>
-    <message>
         <source>What Is New</source>
         <translation>Was ist neu</translation>
     </message>
@@ -2274,6 +2301,10 @@ Vielen Dank!</translation>
     <message>
         <source>&amp;Skip This Version</source>
         <translation>Diese &amp;Version überspringen</translation>
+    </message>
+    <message>
+        <source>The new one came out on %1.</source>
+        <translation>Die neue ist am %1 erschienen.</translation>
     </message>
 </context>
 </TS>

@@ -2,29 +2,29 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="en" sourcelanguage="en">
 <context>
+    <name>Library</name>
+    <message numerus="yes">
+        <source>%n icons</source>
+        <translation>
+            <numerusform>%n icon</numerusform>
+            <numerusform>%n icons</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>quorvane::IconAdder</name>
     <message numerus="yes">
-        <source>Adding %n icon(s)…</source>
+        <source>Adding %n icons…</source>
         <translation>
             <numerusform>Adding %n icon…</numerusform>
             <numerusform>Adding %n icons…</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n file(s) cannot be added.</source>
+        <source>%n files cannot be added.</source>
         <translation>
             <numerusform>%n file cannot be added.</numerusform>
             <numerusform>%n files cannot be added.</numerusform>
-        </translation>
-    </message>
-</context>
-<context>
-    <name>quorvane::LibraryPage</name>
-    <message numerus="yes">
-        <source>%1, %n icon(s)</source>
-        <translation>
-            <numerusform>%1, %n icon</numerusform>
-            <numerusform>%1, %n icons</numerusform>
         </translation>
     </message>
 </context>

@@ -668,6 +668,19 @@
     </message>
 </context>
 <context>
+    <name>Library</name>
+    <message>
+        <source>1 icon</source>
+        <translation>1 個のアイコン</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n icons</source>
+        <translation>
+            <numerusform>%n 個のアイコン</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>QObject</name>
     <message>
         <source>Looking for a New Version</source>
@@ -1057,6 +1070,10 @@
     <message>
         <source>Text of the licence</source>
         <translation>ライセンスの本文</translation>
+    </message>
+    <message>
+        <source>The program&apos;s icon</source>
+        <translation>プログラムのアイコン</translation>
     </message>
 </context>
 <context>
@@ -1494,18 +1511,22 @@ Thank you!</source>
 </context>
 <context>
     <name>quorvane::IconAdder</name>
-    <message numerus="yes">
-        <source>Adding %n icon(s)…</source>
-        <translation>
-            <numerusform>%n 個のアイコンを追加しています…</numerusform>
-        </translation>
-    </message>
     <message>
         <source>“%1” cannot be added: %2</source>
         <translation>「%1」を追加できません: %2</translation>
     </message>
+    <message>
+        <source>Adding an icon…</source>
+        <translation>アイコンを追加しています…</translation>
+    </message>
     <message numerus="yes">
-        <source>%n file(s) cannot be added.</source>
+        <source>Adding %n icons…</source>
+        <translation>
+            <numerusform>%n 個のアイコンを追加しています…</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n files cannot be added.</source>
         <translation>
             <numerusform>%n 個のファイルを追加できません。</numerusform>
         </translation>
@@ -1625,11 +1646,9 @@ Thank you!</source>
 </context>
 <context>
     <name>quorvane::LibraryPage</name>
-    <message numerus="yes">
-        <source>%1, %n icon(s)</source>
-        <translation>
-            <numerusform>%1、アイコン %n 個</numerusform>
-        </translation>
+    <message>
+        <source>%1, %2</source>
+        <translation>%1、%2</translation>
     </message>
 </context>
 <context>
@@ -2072,16 +2091,16 @@ Thank you!</source>
         <translation>バッジの色</translation>
     </message>
     <message>
-        <source>Choose Overlay…</source>
-        <translation>バッジを選択…</translation>
-    </message>
-    <message>
         <source>Picture</source>
         <translation>画像</translation>
     </message>
     <message>
         <source>Character</source>
         <translation>文字</translation>
+    </message>
+    <message>
+        <source>Choose…</source>
+        <translation>選択…</translation>
     </message>
 </context>
 <context>
@@ -2210,6 +2229,18 @@ Thank you!</source>
         <source>Close</source>
         <translation>閉じる</translation>
     </message>
+    <message>
+        <source>Window</source>
+        <translation>ウィンドウ</translation>
+    </message>
+    <message>
+        <source>Open the menus</source>
+        <translation>メニューを開く</translation>
+    </message>
+    <message>
+        <source>Move the overlay instead, or the label again</source>
+        <translation>代わりにバッジを移動、または再びラベルを移動</translation>
+    </message>
 </context>
 <context>
     <name>quorvane::Slider</name>
@@ -2244,10 +2275,6 @@ Thank you!</source>
         <translation>現在のバージョンは %1 です。</translation>
     </message>
     <message>
-        <source>The new one is of %1.</source>
-        <translation>新しいバージョンの公開日は %1 です。</translation>
-    </message>
-    <message>
         <source>What Is New</source>
         <translation>新機能</translation>
     </message>
@@ -2270,6 +2297,10 @@ Thank you!</source>
     <message>
         <source>&amp;Skip This Version</source>
         <translation>このバージョンをスキップ(&amp;S)</translation>
+    </message>
+    <message>
+        <source>The new one came out on %1.</source>
+        <translation>新しいバージョンは %1 に公開されました。</translation>
     </message>
 </context>
 </TS>

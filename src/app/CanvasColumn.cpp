@@ -45,7 +45,8 @@ QWidget* makeOriginalIcon(Outlets& outlets) {
   auto* hint = new QLabel(tr("Revert puts this icon back."));
   hint->setForegroundRole(QPalette::PlaceholderText);
   hint->setWordWrap(true);
-  hint->setMaximumWidth(outlets._origIconView->width());
+  // A long word is wider, in large fonts.
+  hint->setMaximumWidth(std::max(outlets._origIconView->width(), hint->minimumSizeHint().width()));
   layout->addWidget(makeCaption(tr("Original Icon")));
   layout->addWidget(outlets._origIconView);
   layout->addWidget(hint);

@@ -39,7 +39,9 @@ QSize Drawer::sizeHint() const {
 }
 
 QSize Drawer::minimumSizeHint() const {
-  return {sizeHint().width(), _content->minimumSizeHint().height()};
+  // Text in it that is wrapped is higher than the least height says.
+  const QSize whole = _content->sizeHint();
+  return {sizeHint().width(), std::max(_content->minimumSizeHint().height(), _content->heightForWidth(whole.width()))};
 }
 
 void Drawer::_setOpen(bool open) {

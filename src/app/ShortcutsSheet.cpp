@@ -13,6 +13,19 @@
 
 namespace quorvane {
 
+namespace {
+
+/// Wants to show all of it, with a bar beside it when it is long; takes less where fonts are large.
+class ShortcutList : public QScrollArea {
+ public:
+  [[nodiscard]] QSize sizeHint() const override {
+    const QSize wanted = widget() ? widget()->sizeHint() : QSize();
+    return {wanted.width() + 12, std::min(wanted.height(), 480)};
+  }
+};
+
+}  // namespace
+
 ShortcutsSheet::ShortcutsSheet(const MainMenu& menu) {
   setWindowTitle(tr("Keyboard Shortcuts"));
   std::vector<MainMenu::ShortcutGroup> groups = menu.shortcuts();
@@ -61,16 +74,13 @@ ShortcutsSheet::ShortcutsSheet(const MainMenu& menu) {
   }
   if (grid) grid->setRowStretch(row, 1);
 
-  auto* scroll = new QScrollArea;
+  auto* scroll = new ShortcutList;
   scroll->setWidget(list);
   scroll->setWidgetResizable(true);
   scroll->setFrameShape(QFrame::NoFrame);
-  scroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   scroll->viewport()->setAutoFillBackground(false);
   list->setAutoFillBackground(false);
   scroll->setAccessibleName(windowTitle());
-  const QSize wanted = list->sizeHint();
-  scroll->setMinimumSize(wanted.width() + 12, std::min(wanted.height(), 480));
 
   auto* close = new QPushButton(tr("Close"));
   close->setDefault(true);

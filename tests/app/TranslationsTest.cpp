@@ -5,7 +5,7 @@
 #include <gtest/gtest.h>
 
 #include <QAbstractButton>
-#include <QCoreApplication>
+#include <QApplication>
 #include <QLabel>
 #include <QScrollArea>
 #include <QTest>
@@ -63,20 +63,27 @@ class InLanguage : public testing::TestWithParam<const char*> {};
 
 TEST_P(InLanguage, WhatTheWindowSaysIsThereAndFits) {
   const bool longer = GetParam() == std::string_view("longer");
+  const QFont usual = QApplication::font();
+  const bool isLarge = GetParam() == std::string_view("de-large");
+  if (isLarge) {
+    QFont large = usual;
+    large.setPointSizeF(usual.pointSizeF() * 2);
+    QApplication::setFont(large);
+  }
   const Translations registers({});
   Recorder recorder;
   LongTexts longTexts;
   if (longer)
     QCoreApplication::installTranslator(&longTexts);
-  else if (recorder.load(QStringLiteral(":/translations/quorvane_%1.qm").arg(QLatin1String(GetParam()))))
+  else if (recorder.load(QStringLiteral(":/translations/quorvane_%1.qm").arg(QLatin1String(GetParam(), 2))))
     QCoreApplication::installTranslator(&recorder);
   TestWindow test;
   test.launch();
   test.controller->applicationOpenFile(test.folder);
   test.controller->setLabel(QStringLiteral("Tax"));
   test.controller->undo();
-  // As small as it can be made.
-  test.window.resize(1, 1);
+  // As small as it can be made; with large fonts, on the screen of somebody who has them.
+  test.window.resize(isLarge ? QSize(1920, 1080) : QSize(1, 1));
   QCoreApplication::processEvents();
   for (const QScrollArea* column : test.window.findChildren<QScrollArea*>())
     EXPECT_GE(column->viewport()->width(), column->widget()->minimumSizeHint().width());
@@ -94,13 +101,14 @@ TEST_P(InLanguage, WhatTheWindowSaysIsThereAndFits) {
         << text.toStdString();
   }
   EXPECT_GT(count, 15);
+  QApplication::setFont(usual);
   QCoreApplication::removeTranslator(&recorder);
   QCoreApplication::removeTranslator(&longTexts);
   EXPECT_EQ(recorder.QTranslator::isEmpty(), longer);
   for (const std::string& text : recorder.missing) ADD_FAILURE() << text;
 }
 
-INSTANTIATE_TEST_SUITE_P(Languages, InLanguage, testing::Values("de", "ja", "longer"));
+INSTANTIATE_TEST_SUITE_P(Languages, InLanguage, testing::Values("de", "de-large", "ja", "longer"));
 
 }  // namespace
 }  // namespace quorvane::test
