@@ -2063,6 +2063,10 @@ Vielen Dank!</translation>
 <context>
     <name>quorvane::OverlayGroup</name>
     <message>
+        <source>Choose Overlay…</source>
+        <translation>Abzeichen wählen…</translation>
+    </message>
+    <message>
         <source>Automatic</source>
         <translation>Automatisch</translation>
     </message>

@@ -2059,6 +2059,10 @@ Thank you!</source>
 <context>
     <name>quorvane::OverlayGroup</name>
     <message>
+        <source>Choose Overlay…</source>
+        <translation>バッジを選択…</translation>
+    </message>
+    <message>
         <source>Automatic</source>
         <translation>自動</translation>
     </message>

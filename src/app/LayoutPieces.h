@@ -14,6 +14,7 @@ inline constexpr int windowMargin = 16;
 inline constexpr int layoutGap = 12;
 inline constexpr int cardPadding = 14;
 inline constexpr int baseColumnWidth = 280;
+inline constexpr int baseColumnCharacters = 40;  ///< its least width in letters, for large fonts
 inline constexpr int inspectorWidth = 280;
 
 /// A white card with a hairline round it.

@@ -89,7 +89,9 @@ Outlets layOutMainWindow(QVWindow& window, SharedPanels& panels, BaseIconControl
   auto* columns = new QHBoxLayout;
   columns->setSpacing(windowMargin);
   outlets._baseColumn = new BaseColumn(library);
-  outlets._baseColumn->setFixedWidth(baseColumnWidth);
+  // As wide as large fonts need it.
+  outlets._baseColumn->setFixedWidth(std::max({baseColumnWidth, outlets._baseColumn->minimumSizeHint().width(),
+                                               window.fontMetrics().averageCharWidth() * baseColumnCharacters}));
   outlets._baseTableView = outlets._baseColumn->library()->builtinTableView();
   outlets._customTableView = outlets._baseColumn->library()->customTableView();
   outlets._tintBar = new TintBar(&panels.colorPanel());

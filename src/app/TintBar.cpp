@@ -2,6 +2,7 @@
 #include "app/TintBar.h"
 
 #include <QAbstractButton>
+#include <QCoreApplication>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPainter>
@@ -83,7 +84,7 @@ TintBar::TintBar(ColorPanel* panel, QWidget* parent)
   auto* swatches = new QHBoxLayout;
   swatches->setSpacing(0);
   for (const Preset& preset : presets) {
-    auto* swatch = new Swatch(QColor(preset.color), tr(preset.name));
+    auto* swatch = new Swatch(QColor(preset.color), QCoreApplication::translate("TintBar", preset.name));
     connect(swatch, &QAbstractButton::clicked, this, [this, color = QColor(preset.color)] {
       setTint(color);
       Q_EMIT tintChosen(color);

@@ -29,6 +29,8 @@ class InstallTest(EndToEndTest):
                       "share/man/man1/quorvane-window.1.gz"}
         if os.path.exists(os.path.join(BUILD, "src/libexec/quorvane/quorvane-feed")):
             files.add("libexec/quorvane/quorvane-feed")
+        library = os.path.join(BUILD, "share/quorvane/BaseIcons")
+        files |= {"share/quorvane/BaseIcons/" + path for path in self.listed(library)}
         return files
 
     def listed(self, top):

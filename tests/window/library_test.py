@@ -78,6 +78,7 @@ class LibraryTest(WindowTest):
         told = subprocess.run(["icns2png", "-l", os.path.join(self.library, "Blue", "C.icns")], capture_output=True,
                               text=True, check=True)
         self.assertIn("512x512", told.stdout)
+        self.put_tip_away(program)
         self.picture("library-4-chosen")
         self.key("ctrl+q")
         self.assertEqual(program.wait_end(), 0)

@@ -189,6 +189,7 @@ class StartsTest(WindowTest):
                 self.key("Escape")
                 self.wait(lambda: not self.titled(title), title + " to go")
             self._apply_blindly(folder)
+            time.sleep(2)
             self.key("Return")  # away with the tip
 
         self.assertEqual(self.trace(folder, act=act), ([], []))

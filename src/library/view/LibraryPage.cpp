@@ -129,6 +129,14 @@ LibraryPage::LibraryPage(Parts parts, QWidget* parent)
   _splitter->addWidget(iconSide);
   _splitter->setStretchFactor(0, 0);
   _splitter->setStretchFactor(1, 1);
+  if (!parts.isEditable) {
+    // Nobody can make a set here: without any, what is said of that has all the room.
+    const auto showSets = [this, setSide] { setSide->setVisible(_sets->model()->rowCount() > 0); };
+    connect(_sets->model(), &QAbstractItemModel::modelReset, this, showSets);
+    connect(_sets->model(), &QAbstractItemModel::rowsInserted, this, showSets);
+    connect(_sets->model(), &QAbstractItemModel::rowsRemoved, this, showSets);
+    showSets();
+  }
   auto* layout = new QVBoxLayout(this);
   layout->setContentsMargins({});
   layout->addWidget(_splitter);

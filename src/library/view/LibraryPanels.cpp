@@ -24,7 +24,7 @@ namespace quorvane {
 namespace {
 
 QString tr(const char* text) {
-  return QCoreApplication::translate("LibraryPanels", text);
+  return QCoreApplication::translate("quorvane", text);
 }
 
 std::optional<std::filesystem::path> runSheet(HVWindow& window, OpenPanel& panel) {
