@@ -158,7 +158,8 @@ class StartsTest(WindowTest):
         before = tree(self.home)
         program = self.start(folder, command=["strace", "-f", "-qq", "-e", "trace=connect,sendto,bind", "-o", trace])
         self._apply_blindly(folder)
-        self.key("Return", "ctrl+q")  # the first one away is the tip
+        # Until the tip is up and put away, the window stays.
+        self.wait(lambda: self.key("Return", "ctrl+q") or program.process.poll() is not None, "the end", patience=60)
         self.assertEqual(program.wait_end(), 0)
         calls = [line for line in read(trace).decode().splitlines() if "sa_family" in line]
         self.assertTrue(calls, "it speaks to the display at least")
