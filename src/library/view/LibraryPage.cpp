@@ -131,7 +131,10 @@ LibraryPage::LibraryPage(Parts parts, QWidget* parent)
   _splitter->setStretchFactor(1, 1);
   if (!parts.isEditable) {
     // Nobody can make a set here: without any, what is said of that has all the room.
-    const auto showSets = [this, setSide] { setSide->setVisible(_sets->model()->rowCount() > 0); };
+    const auto showSets = [this, setSide] {
+      setSide->setVisible(_sets->model()->rowCount() > 0);
+      setSetsWidth(_setsWidth);
+    };
     connect(_sets->model(), &QAbstractItemModel::modelReset, this, showSets);
     connect(_sets->model(), &QAbstractItemModel::rowsInserted, this, showSets);
     connect(_sets->model(), &QAbstractItemModel::rowsRemoved, this, showSets);
@@ -140,7 +143,10 @@ LibraryPage::LibraryPage(Parts parts, QWidget* parent)
   auto* layout = new QVBoxLayout(this);
   layout->setContentsMargins({});
   layout->addWidget(_splitter);
-  connect(_splitter, &QSplitter::splitterMoved, this, [this] { Q_EMIT setsWidthChanged(setsWidth()); });
+  connect(_splitter, &QSplitter::splitterMoved, this, [this] {
+    _setsWidth = _splitter->sizes().value(0);
+    Q_EMIT setsWidthChanged(_setsWidth);
+  });
   connect(&parts.thumbnails, &Thumbnails::ready, _icons->viewport(), qOverload<>(&QWidget::update));
   _updateRowHeights();
 }
@@ -164,11 +170,14 @@ void LibraryPage::changeEvent(QEvent* event) {
 }
 
 int LibraryPage::setsWidth() const {
-  return _splitter->sizes().value(0);
+  // As far as it is shown: without sets there is nothing to divide.
+  const int shown = _splitter->sizes().value(0);
+  return shown > 0 ? shown : _setsWidth;
 }
 
 void LibraryPage::setSetsWidth(int width) {
   const int sets = static_cast<int>(BaseIconController::splitViewConstrainSplitPosition(width));
+  _setsWidth = sets;
   _splitter->setSizes({sets, std::max(0, _splitter->width() - _splitter->handleWidth() - sets)});
 }
 

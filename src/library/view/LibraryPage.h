@@ -59,6 +59,7 @@ class LibraryPage : public QWidget {
   IconDelegate* _iconDelegate;
   EmptyState* _emptyState;
   QSplitter* _splitter;
+  int _setsWidth = 0;  ///< wanted, also while there are no sets to show
   QHBoxLayout* _setFooter;
   QHBoxLayout* _iconFooter;
 };

@@ -98,7 +98,12 @@ IconPreview::Reader iconPreviewReader(const LibraryServices& services) {
         if (!image) return std::nullopt;
         IconPreview::Look look;
         for (const int side : sides) look.pictures.push_back(image->rendered(side, side).toImage());
-        const auto held = isDirectory(path) ? Result<Image>(Image()) : Image::imageWithContentsOfFile(path);
+        // What makes a family of a picture makes all its sizes: of those, the file holds but its own.
+        const bool isFamily =
+            QString::fromStdString(path.extension().string()).compare(QLatin1String(".icns"), Qt::CaseInsensitive) == 0;
+        const auto held = isDirectory(path) ? Result<Image>(Image())
+                          : isFamily        ? Result<Image>(*image)
+                                            : Image::imageWithContentsOfFile(path);
         std::set<int> sizes;
         if (held) {
           for (const ImageRep& rep : held->representations())
