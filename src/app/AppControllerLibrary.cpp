@@ -44,8 +44,7 @@ void AppController::_saveLibraryLayout() {
   const LibraryView& view = *_baseColumn->library();
   settings::setValue(_services.defaults, settings::libraryShowsCustom, view.library() == LibraryView::Custom);
   settings::setValue(_services.defaults, settings::libraryIconSide, qint64{view.iconSide()});
-  settings::setValue(_services.defaults, settings::librarySetsWidth,
-                     qint64{view.page(view.library())->setsWidth()});
+  settings::setValue(_services.defaults, settings::librarySetsWidth, qint64{view.page(view.library())->setsWidth()});
 }
 
 bool AppController::_undoesLibrary() const {

@@ -131,8 +131,8 @@ int runApplication(int argc, char** argv) {
       LibraryPlaces::usual(), libraryServices, sheetLibraryPrompts(window, libraryServices),
       BaseIconController::SelectionStore{
           .read = [&](bool isBuiltin) { return settings::value(defaults, selectionKey(isBuiltin)); },
-       .write = [&](bool isBuiltin,
-                    const QList<int>& rows) { settings::setValue(defaults, selectionKey(isBuiltin), rows); }});
+          .write = [&](bool isBuiltin,
+                       const QList<int>& rows) { settings::setValue(defaults, selectionKey(isBuiltin), rows); }});
 
   const auto controller =
       AppController::init({.defaults = defaults,

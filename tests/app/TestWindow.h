@@ -48,13 +48,13 @@ struct TestWindow {
                  .families = nullptr,
                  .marks = marks.get()},
         work(services, options.mode),
-        window(defaults),
         library(
             {.builtin = tree / "BaseIcons", .custom = tree / "Icons", .former = {}}, libraryServices,
             scriptedLibraryPrompts(),
             {.read = [this](bool isBuiltin) { return savedSelections[isBuiltin ? 0 : 1]; },
              .write = [this](bool isBuiltin, const QList<int>& rows) { savedSelections[isBuiltin ? 0 : 1] = rows; }},
-            WorkQueue::Mode::AtOnce) {
+            WorkQueue::Mode::AtOnce),
+        window(defaults) {
     std::filesystem::create_directory(folder);
     window.setFrameStore(&frames);
     const auto choose = [this](QWidget&, const std::function<void(const std::filesystem::path&)>& chosen) {
