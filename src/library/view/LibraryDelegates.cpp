@@ -2,6 +2,7 @@
 #include "library/view/LibraryDelegates.h"
 
 #include <QFontMetrics>
+#include <QGuiApplication>
 #include <QPainter>
 #include <QTableView>
 #include <algorithm>
@@ -15,6 +16,10 @@ namespace {
 
 constexpr int margin = 6;
 
+QPalette::ColorGroup groupOf(const QStyleOptionViewItem& option) {
+  return option.state.testFlag(QStyle::State_Enabled) ? QPalette::Active : QPalette::Disabled;
+}
+
 QRect mirrored(const QStyleOptionViewItem& option, const QRect& place) {
   return QStyle::visualRect(option.direction, option.rect, place);
 }
@@ -25,7 +30,10 @@ void LibraryRowDelegate::drawRowsOf(QTableView& table) {
   table.setItemDelegate(this);
   table.setMouseTracking(true);
   table.viewport()->setAttribute(Qt::WA_Hover);
-  table.setStyleSheet(QStringLiteral("QTableView { show-decoration-selected: 0; }"));
+  // The style fills selected rows before a delegate is asked; this keeps it from being seen.
+  QPalette palette;
+  palette.setColor(QPalette::All, QPalette::Highlight, Qt::transparent);
+  table.setPalette(palette);
 }
 
 void LibraryRowDelegate::updateEditorGeometry(QWidget* editor, const QStyleOptionViewItem& option,
@@ -39,7 +47,8 @@ void LibraryRowDelegate::drawGround(QPainter& painter, const QStyleOptionViewIte
   const bool isFocused = option.state.testFlag(QStyle::State_HasFocus);
   if (!isSelected && !isHovered && !isFocused) return;
   const QRectF place = QRectF(option.rect).adjusted(3, 1.5, -3, -1.5);
-  const QColor accent = option.palette.color(QPalette::Highlight);
+  // Of the application: the table's own is taken, see drawRowsOf().
+  const QColor accent = QGuiApplication::palette().color(groupOf(option), QPalette::Highlight);
   painter.setRenderHint(QPainter::Antialiasing);
   painter.setPen(Qt::NoPen);
   if (isSelected) {
@@ -57,7 +66,7 @@ void LibraryRowDelegate::drawGround(QPainter& painter, const QStyleOptionViewIte
 void LibraryRowDelegate::drawText(QPainter& painter, const QStyleOptionViewItem& option, const QRect& place,
                                   const QString& text, QPalette::ColorRole role, Qt::Alignment alignment) {
   painter.setFont(option.font);
-  painter.setPen(option.palette.color(QPalette::Active, role));
+  painter.setPen(option.palette.color(groupOf(option), role));
   painter.drawText(place, static_cast<int>(QStyle::visualAlignment(option.direction, alignment) | Qt::TextSingleLine),
                    option.fontMetrics.elidedText(text, Qt::ElideRight, place.width()));
 }

@@ -98,16 +98,16 @@ IconPreview::Reader iconPreviewReader(const LibraryServices& services) {
         if (!image) return std::nullopt;
         IconPreview::Look look;
         for (const int side : sides) look.pictures.push_back(image->rendered(side, side).toImage());
-        // What makes a family of a picture makes all its sizes: of those, the file holds but its own.
-        const bool isFamily =
-            QString::fromStdString(path.extension().string()).compare(QLatin1String(".icns"), Qt::CaseInsensitive) == 0;
-        const auto held = isDirectory(path) ? Result<Image>(Image())
-                          : isFamily        ? Result<Image>(*image)
-                                            : Image::imageWithContentsOfFile(path);
+        // Of an icon file the family's own; of a picture those of the file, from which the family is made.
+        const bool isFamily = QFile::decodeName(path.extension().c_str()).toLower() == QLatin1String(".icns");
         std::set<int> sizes;
-        if (held) {
-          for (const ImageRep& rep : held->representations())
-            sizes.insert(std::max(rep.pixelsWide(), rep.pixelsHigh()));
+        const auto note = [&sizes](const Image& held) {
+          for (const ImageRep& rep : held.representations()) sizes.insert(std::max(rep.pixelsWide(), rep.pixelsHigh()));
+        };
+        if (isFamily && !isDirectory(path)) {
+          note(*image);
+        } else if (const auto held = Image::imageWithContentsOfFile(path)) {
+          note(*held);
         }
         look.heldSizes.assign(sizes.begin(), sizes.end());
         return look;

@@ -2,6 +2,7 @@
 #include "library/view/LibraryTableView.h"
 
 #include <QDragEnterEvent>
+#include <QGuiApplication>
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QMimeData>
@@ -178,7 +179,7 @@ void LibraryTableView::paintEvent(QPaintEvent* event) {
   if (!_marked) return;
   QPainter painter(viewport());
   painter.setRenderHint(QPainter::Antialiasing);
-  QColor accent = palette().color(QPalette::Highlight);
+  QColor accent = QGuiApplication::palette().color(QPalette::Highlight);
   const int rows = model() ? model()->rowCount() : 0;
   const QRectF all = QRectF(viewport()->rect()).adjusted(2, 2, -2, -2);
   if (_marked->operation == TableDrop::Operation::On || rows == 0) {
