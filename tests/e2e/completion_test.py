@@ -88,7 +88,9 @@ class CompletionTest(EndToEndTest):
             script = f"source {FISH}; complete -C '{line} -'; complete -C '{line} --'"
             self.assertEqual({row.split("\t")[0] for row in self.run_shell("fish", "-N", "-c", script)}, options, line)
             offered = self.run_shell("fish", "-N", "-c", f"source {FISH}; complete -C '{line} '")
-            self.assertEqual({row.split("\t")[0] for row in offered}, set(commands) or {"Folder/"}, line)
+            takes_names = command in (("sets", "new"), ("sets", "rename"), ("sets", "remove"))
+            files = set() if takes_names else {"Folder/"}
+            self.assertEqual({row.split("\t")[0] for row in offered} - {""}, set(commands) or files, line)
 
     def test_zsh_reads_its_completion(self):
         if not shutil.which("zsh"):
