@@ -70,6 +70,9 @@ void LibraryView::_makeHead() {
   _searchField->setToolTip(tr("Finds icons of both libraries by their name or their set’s"));
   _searchField->setClearButtonEnabled(true);
   _searchField->addAction(actionIcon(QStringLiteral("search"), QPalette::PlaceholderText), QLineEdit::LeadingPosition);
+  // The field's own buttons have no words that assistive tools could read.
+  for (QToolButton* button : _searchField->findChildren<QToolButton*>())
+    button->setAccessibleName(_searchField->accessibleName());
   connect(_searchField, &QLineEdit::textChanged, this, &LibraryView::_search);
   auto* leave = new QShortcut(QKeySequence(Qt::Key_Escape), _searchField, nullptr, nullptr, Qt::WidgetShortcut);
   connect(leave, &QShortcut::activated, _searchField, &QLineEdit::clear);
