@@ -83,8 +83,10 @@ class LibraryTest(unittest.TestCase):
                 self.assertIn(done.returncode, (-9, 137) if point.kind == "kill" else (0, 1), done.stderr)
                 after = self.state()
                 if done.returncode == 0:
-                    self.assertEqual(after, new)
-                if after not in (old, new):
+                    # A list that could not be read for a moment loses its order to the folder's, and no icon.
+                    self.assertEqual({name: sorted(icons) for name, icons in after},
+                                     {name: sorted(icons) for name, icons in new})
+                elif after not in (old, new):
                     is_good(dict(after))
                 if self.leftovers():
                     # Whoever writes there next clears them away.
