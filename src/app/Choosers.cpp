@@ -12,7 +12,7 @@ namespace quorvane {
 namespace {
 
 QString tr(const char* text) {
-  return QCoreApplication::translate("Choosers", text);
+  return QCoreApplication::translate("quorvane", text);
 }
 
 void run(QFileDialog* dialog, std::function<void(const std::filesystem::path&)> chosen) {
