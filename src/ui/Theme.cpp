@@ -146,6 +146,9 @@ QCheckBox::indicator:checked:disabled { background: %disabled; border-color: %di
 QCheckBox::indicator:checked:focus, QRadioButton::indicator:checked:focus { border-color: %text; }
 QRadioButton::indicator:checked:focus { background: %accent; }
 
+QProgressBar[thin="true"] { background: %groove; border: none; border-radius: 3px; }
+QProgressBar[thin="true"]::chunk { background: %accent; border-radius: 3px; }
+
 QFrame[card="true"] { background: %base; border: 1px solid %hairline; border-radius: 12px; }
 QLabel[caption="true"] { color: %muted; font-weight: 600; }
 QMainWindow[textured="true"] { background: %hover; }

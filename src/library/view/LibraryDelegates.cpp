@@ -3,6 +3,7 @@
 
 #include <QFontMetrics>
 #include <QGuiApplication>
+#include <QHeaderView>
 #include <QPainter>
 #include <QTableView>
 #include <algorithm>
@@ -29,6 +30,10 @@ QRect mirrored(const QStyleOptionViewItem& option, const QRect& place) {
 void LibraryRowDelegate::drawRowsOf(QTableView& table) {
   table.setItemDelegate(this);
   table.setMouseTracking(true);
+  // The one column is as narrow as the table.
+  table.horizontalHeader()->setMinimumSectionSize(1);
+  table.horizontalHeader()->setStretchLastSection(false);
+  table.horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
   table.viewport()->setAttribute(Qt::WA_Hover);
   // The style fills selected rows before a delegate is asked; this keeps it from being seen.
   QPalette palette;

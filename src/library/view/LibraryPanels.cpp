@@ -5,10 +5,13 @@
 #include <QDialogButtonBox>
 #include <QFileInfo>
 #include <QGridLayout>
+#include <QHeaderView>
 #include <QLineEdit>
 #include <QPointer>
 #include <QPushButton>
+#include <QSplitter>
 #include <QTimer>
+#include <QTreeView>
 #include <algorithm>
 #include <set>
 
@@ -39,10 +42,16 @@ OpenPanel::OpenPanel(const QString& title, const QString& prompt, const QStringL
     : QFileDialog(nullptr, title), _prompt(prompt) {
   // The desktop's own dialogs can neither choose both files and folders nor take a view of ours.
   setOption(QFileDialog::DontUseNativeDialog);
+  setOption(QFileDialog::HideNameFilterDetails);
   setFileMode(QFileDialog::ExistingFile);
   setSupportedSchemes({QStringLiteral("file")});
   setNameFilters(nameFilters);
   setLabelText(QFileDialog::Accept, prompt);
+  for (auto* files : findChildren<QTreeView*>()) {
+    files->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
+    files->setFrameShape(QFrame::NoFrame);
+  }
+  for (auto* parts : findChildren<QSplitter*>()) parts->setSizes({160, 640});
   connect(this, &QFileDialog::currentChanged, this,
           [this] { QTimer::singleShot(0, this, &OpenPanel::_restorePrompt); });
 }

@@ -183,6 +183,7 @@ void LibraryView::_makeProgress() {
   _progressWords = new ElidedLabel;
   _progressBar = new QProgressBar;
   _progressBar->setTextVisible(false);
+  _progressBar->setProperty("thin", true);
   _progressBar->setFixedHeight(6);
   _progressBar->setAccessibleName(tr("Progress"));
   texts->addWidget(_progressWords);

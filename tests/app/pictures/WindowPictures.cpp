@@ -10,6 +10,7 @@
 #include <QLineEdit>
 #include <QMimeData>
 #include <QTimer>
+#include <QTreeView>
 #include <QUrl>
 
 #include "LongTexts.h"
@@ -41,8 +42,8 @@ void settle(int milliseconds = 700) {
 class Pictures {
  public:
   Pictures(QString folder, QString prefix) : _folder(std::move(folder)), _prefix(std::move(prefix)) {}
-  void take(QWidget& widget, const QString& name) {
-    settle();
+  void take(QWidget& widget, const QString& name, int milliseconds = 700) {
+    settle(milliseconds);
     widget.grab().save(_folder + QLatin1Char('/') + _prefix + name + QStringLiteral(".png"));
   }
 
@@ -143,7 +144,7 @@ void takeLibrary(Pictures& pictures) {
   view.setLibrary(LibraryView::Builtin);
   view.builtinTableView()->selectRow(1);
   view.builtinTableView()->setFocus();
-  pictures.take(test.window, QStringLiteral("13-library-builtin"));
+  pictures.take(test.window, QStringLiteral("13-library-builtin"), 2500);
   view.setLibrary(LibraryView::Custom);
   auto& sets = test.library.customIconSetArrayController();
   const auto showSet = [&](const char* name) {
@@ -152,13 +153,13 @@ void takeLibrary(Pictures& pictures) {
   };
   showSet("Office");
   view.customTableView()->selectRow(1);
-  pictures.take(test.window, QStringLiteral("14-library-custom"));
+  pictures.take(test.window, QStringLiteral("14-library-custom"), 2500);
   view.setIconSide(32);
-  pictures.take(test.window, QStringLiteral("15-library-small"));
+  pictures.take(test.window, QStringLiteral("15-library-small"), 2500);
   view.setIconSide(128);
   view.setSetsWidth(90);
-  pictures.take(test.window, QStringLiteral("15-library-large"));
-  view.setSetsWidth(110);
+  pictures.take(test.window, QStringLiteral("15-library-large"), 2500);
+  view.setSetsWidth(130);
   view.setIconSide(64);
   const auto dragged = std::make_unique<QMimeData>();
   dragged->setUrls({QUrl::fromLocalFile(QStringLiteral("/tmp/a.png"))});
@@ -176,13 +177,18 @@ void takeLibrary(Pictures& pictures) {
   pictures.take(test.window, QStringLiteral("17-library-rename"));
   view.searchField()->setFocus();
   view.searchField()->setText(QStringLiteral("fol"));
-  pictures.take(test.window, QStringLiteral("18-library-search"));
+  pictures.take(test.window, QStringLiteral("18-library-search"), 2500);
   view.searchField()->setText(QStringLiteral("zebra"));
   pictures.take(test.window, QStringLiteral("18-library-search-empty"));
   view.searchField()->clear();
   QTimer::singleShot(2500, [&] {
-    if (auto* panel = test.window.findChild<QFileDialog*>())
-      panel->selectFile(QString::fromStdString((test.tree / "Icons/Office/folder.png").string()));
+    if (auto* panel = test.window.findChild<QFileDialog*>()) {
+      panel->setDirectory(QString::fromStdString((test.tree / "Icons/Office").string()));
+      settle();
+      auto* files = panel->findChild<QTreeView*>();
+      files->setCurrentIndex(files->model()->index(3, 0, files->rootIndex()));
+      settle(1500);
+    }
     pictures.take(test.window, QStringLiteral("19-library-add"));
     test.window.cancelSheets();
   });
