@@ -100,7 +100,10 @@ TEST_F(TintOverlayTest, AppliesThemAndKeepsThemInLooks) {
   controller.setTint(QColor(200, 30, 30));
   chooseEmblem("star");
   const auto look = lookOf(composition());
-  ASSERT_TRUE(look.ok() && test.looks.save(QStringLiteral("Red Star"), {.look = *look}, std::nullopt).ok());
+  ASSERT_TRUE(look.ok() && test.looks
+                               .save(QStringLiteral("Red Star"),
+                                     {.look = *look, .labelPattern = {}, .base = {}, .others = {}}, std::nullopt)
+                               .ok());
   const auto before = composition().overlay();
   controller.apply();
   for (int i = 0; i < 3; ++i) QCoreApplication::processEvents();

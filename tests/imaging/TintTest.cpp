@@ -65,13 +65,10 @@ TEST(Tint, GivesTheBodyTheColourAndLeavesGreysAndAlpha) {
   for (const char* name : {"#e5484d", "#f5c518", "#46a758", "#6e56cf", "#ffd1dc"}) {
     const QColor tint{QLatin1String(name)};
     const BitmapImageRep done = tinted(plain, TintMap(BodyColor::of(plain), tint));
-    for (int channel = 0; channel < 3; ++channel)
-      EXPECT_NEAR(test::pixelAt(done, 0, 0)[static_cast<std::size_t>(channel)],
-                  channel == 0   ? tint.red()
-                  : channel == 1 ? tint.green()
-                                 : tint.blue(),
-                  2)
-          << name;
+    // The body's colour is a mean of what is near it.
+    EXPECT_NEAR(at(done, 0).red(), tint.red(), 4) << name;
+    EXPECT_NEAR(at(done, 0).green(), tint.green(), 4) << name;
+    EXPECT_NEAR(at(done, 0).blue(), tint.blue(), 4) << name;
     const auto lightness = [&](int x) { return okLabOf(at(done, x)).lightness; };
     EXPECT_LT(lightness(4) + 0.03F, lightness(0)) << "the darker part stays darker: " << name;
     EXPECT_GT(lightness(5), lightness(0)) << name;
