@@ -89,10 +89,8 @@ QWidget* makeInspector(Outlets& outlets, SharedPanels& panels) {
                                                                     .typedMinimum = 0,
                                                                     .typedMaximum = 5,
                                                                     .suffix = {}});
-  // One control: its name is the caption.
-  InspectorCard effect({});
   outlets._effectPopUp = makeEffects();
-  effect.addRow(tr("Effe&ct"), outlets._effectPopUp, true);
+  text.addRow(tr("Effe&ct"), outlets._effectPopUp);
 
   InspectorCard transform(tr("Transform"));
   outlets._shearSlider = transform.addSlider(tr("&Shear"), {.minimum = -1,
@@ -128,8 +126,7 @@ QWidget* makeInspector(Outlets& outlets, SharedPanels& panels) {
   layout->setContentsMargins({});
   layout->setSpacing(layoutGap);
   outlets._overlayGroup = new OverlayGroup(&panels.colorPanel());
-  for (QWidget* card :
-       std::initializer_list<QWidget*>{text.frame, effect.frame, transform.frame, outlets._overlayGroup->card()})
+  for (QWidget* card : std::initializer_list<QWidget*>{text.frame, transform.frame, outlets._overlayGroup->card()})
     layout->addWidget(card);
   layout->addStretch();
 
@@ -143,6 +140,14 @@ QWidget* makeInspector(Outlets& outlets, SharedPanels& panels) {
   cards->setAutoFillBackground(false);
   scroll->setFocusPolicy(Qt::NoFocus);
   scroll->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Expanding);
+  // What opens in the last card would be out of sight.
+  QObject::connect(
+      outlets._overlayGroup, &OverlayGroup::opened, scroll,
+      [scroll] {
+        QScrollBar* bar = scroll->verticalScrollBar();
+        bar->setValue(bar->maximum());
+      },
+      Qt::QueuedConnection);
   return scroll;
 }
 

@@ -12,18 +12,19 @@
 namespace quorvane {
 
 InspectorCard::InspectorCard(const QString& caption) : frame(makeCard()), _rows(new QVBoxLayout(frame)) {
-  _rows->setContentsMargins(cardPadding, cardPadding - 4, cardPadding, cardPadding - 2);
+  // Tight enough that all cards, closed, are seen in the window at its first size.
+  _rows->setContentsMargins(cardPadding, cardPadding - 6, cardPadding, cardPadding - 4);
   _rows->setSpacing(2);
   if (!caption.isEmpty()) _rows->addWidget(makeCaption(caption));
 }
 
-QWidget* InspectorCard::addRow(const QString& name, QWidget* control, bool isCaption) {
+QWidget* InspectorCard::addRow(const QString& name, QWidget* control) {
   control->setAccessibleName(withoutAccessKey(name));
   auto* row = new QWidget;
   auto* layout = new QHBoxLayout(row);
-  layout->setContentsMargins(0, isCaption ? 0 : 4, 0, 0);
+  layout->setContentsMargins(0, 3, 0, 0);
   layout->setSpacing(10);
-  layout->addWidget(isCaption ? makeCaption(name, control) : makeControlName(name, control), 2);
+  layout->addWidget(makeControlName(name, control), 2);
   layout->addWidget(control, 5);
   _rows->addWidget(row);
   return row;
@@ -35,14 +36,14 @@ Slider* InspectorCard::addSlider(const QString& name, const Slider::Range& range
   slider->setValue(range.defaultValue);
   slider->setName(withoutAccessKey(name));
   slider->setAccessibleName(withoutAccessKey(name));
-  _rows->addSpacing(4);
+  _rows->addSpacing(1);
   _rows->addWidget(makeControlName(name, slider->track()));
   _rows->addWidget(slider);
   return slider;
 }
 
 void InspectorCard::addWidget(QWidget* widget) {
-  _rows->addSpacing(6);
+  _rows->addSpacing(4);
   _rows->addWidget(widget);
 }
 

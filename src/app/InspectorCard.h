@@ -14,11 +14,10 @@ namespace quorvane {
 /// A card of the inspector being filled: a caption and rows of controls. The widgets belong to the frame.
 class InspectorCard {
  public:
-  /// No caption: the first row's name is one.
   explicit InspectorCard(const QString& caption);
 
   /// The name beside a control that is told to assistive tools by it. Gives the row, which can be hidden.
-  QWidget* addRow(const QString& name, QWidget* control, bool isCaption = false);
+  QWidget* addRow(const QString& name, QWidget* control);
   /// The name above: tracks want all the width they can get.
   Slider* addSlider(const QString& name, const Slider::Range& range);
   void addWidget(QWidget* widget);

@@ -5,6 +5,7 @@
 #include <QEvent>
 #include <QFrame>
 #include <QHBoxLayout>
+#include <QLabel>
 #include <QPushButton>
 #include <QScreen>
 #include <QVBoxLayout>
@@ -31,14 +32,15 @@ OverlayGroup::OverlayGroup(ColorPanel* panel)
       _removeButton(new QPushButton(actionIcon(QStringLiteral("remove")), QString())),
       _well(new HVColorWell(panel)),
       _autoButton(new QPushButton(tr("Automatic"))) {
-  InspectorCard card(tr("Overlay"));
+  InspectorCard card({});
   _card = card.frame;
   setParent(_card);
   auto* choice = new QWidget;
   auto* choiceRow = new QHBoxLayout(choice);
   choiceRow->setContentsMargins({});
   choiceRow->setSpacing(6);
-  choiceRow->addWidget(_chooseButton, 1);
+  choiceRow->addWidget(makeCaption(tr("Overlay")), 2);
+  choiceRow->addWidget(_chooseButton, 5);
   choiceRow->addWidget(_removeButton);
   // Titles are of any length, the card's width is fixed.
   _chooseButton->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
@@ -109,6 +111,7 @@ OverlayPopup* OverlayGroup::choose() {
 }
 
 void OverlayGroup::setOverlay(const std::optional<IconOverlay>& overlay) {
+  const bool opens = overlay && !_overlay;
   const bool isSameDrawing = overlay && _overlay && overlay->drawing == _overlay->drawing;
   _overlay = overlay;
   _details->setVisible(overlay.has_value());
@@ -120,12 +123,13 @@ void OverlayGroup::setOverlay(const std::optional<IconOverlay>& overlay) {
   _colorRow->setVisible(overlay->takesColor());
   if (overlay->color) _well->setColor(*overlay->color);
   _autoButton->setChecked(!overlay->color);
+  if (opens) Q_EMIT opened();
 }
 
 void OverlayGroup::_showDrawing() {
   if (!_overlay) {
     _chooseButton->setIcon({});
-    return _chooseButton->setText(tr("Choose Overlay…"));
+    return _chooseButton->setText(tr("Choose…"));
   }
   QString text = tr("Picture");
   if (const auto* emblem = std::get_if<OverlayEmblem>(&_overlay->drawing)) {

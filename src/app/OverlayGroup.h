@@ -38,6 +38,8 @@ class OverlayGroup : public QObject {
   OverlayPopup* choose();
 
  Q_SIGNALS:
+  /// The controls of an overlay have come into sight.
+  void opened();
   void drawingChosen(const quorvane::OverlayDrawing& drawing);
   void pictureWanted();
   void removed();

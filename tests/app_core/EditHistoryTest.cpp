@@ -27,6 +27,13 @@ class EditHistoryTest : public ::testing::Test {
 };
 
 TEST_F(EditHistoryTest, TakesBackAndDoesAgainEveryKindOfEdit) {
+  IconOverlay overlay;
+  overlay.drawing = OverlayEmblem{QStringLiteral("star")};
+  const auto change = [&](const std::function<void(IconOverlay&)>& by) {
+    IconOverlay changed = *composition.overlay();
+    by(changed);
+    composition.setOverlay(changed);
+  };
   const struct {
     const char* undoText;
     std::function<void()> edit;
@@ -44,6 +51,14 @@ TEST_F(EditHistoryTest, TakesBackAndDoesAgainEveryKindOfEdit) {
       {"Undo Shear", [&] { composition.setShearFactor(0.5F); }},
       {"Undo Rotation", [&] { composition.setRotation(30); }},
       {"Undo Opacity", [&] { composition.setOpacity(0.5F); }},
+      {"Undo Tint", [&] { composition.setTint(QColor(Qt::green)); }},
+      {"Undo Overlay", [&] { composition.setOverlay(overlay); }},
+      {"Undo Move Overlay", [&] { change([](IconOverlay& moved) {
+                                    moved.center = {1, 2};
+                                  }); }},
+      {"Undo Overlay Size", [&] { change([](IconOverlay& sized) { sized.size = 90; }); }},
+      {"Undo Overlay Opacity", [&] { change([](IconOverlay& faded) { faded.opacity = 0.5F; }); }},
+      {"Undo Overlay Colour", [&] { change([](IconOverlay& colored) { colored.color = QColor(Qt::red); }); }},
       {"Undo Choose Icon", [&] { composition.setBaseIcon(test::plainImage(Qt::blue)); }},
   };
   std::vector<EditedValues> states{EditedValues::of(composition)};

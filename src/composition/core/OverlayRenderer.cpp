@@ -139,6 +139,8 @@ QColor OverlayRenderer::colorOn(const Image& base) const {
   OkLab color = BodyColor::of(isSeen(below) ? below : ground).color;
   const float lightness = color.lightness;
   color.lightness = lightness > lightGround ? lightness * 0.62F : lightness + (1 - lightness) * 0.5F;
+  // In the dark the same chroma looks stronger.
+  if (lightness > lightGround) color = {color.lightness, color.a * 0.8F, color.b * 0.8F};
   return colorOf(color);
 }
 

@@ -136,6 +136,7 @@ class FolderView : public ImageView {
   void compositionDidChange(const CompositionChange& change);
   void drawLabel(QPainter& painter);
   void drawOverlay(QPainter& painter);
+  void drawOverlayFrame(QPainter& painter) const;
   [[nodiscard]] bool hasOverlay() const { return !_showsPlaceholder && _composition.overlay().has_value(); }
   void setOverlayCenter(Point center);
   void overlayDown(QPointF place);

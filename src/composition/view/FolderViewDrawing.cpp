@@ -67,6 +67,7 @@ void FolderView::drawRect(QPainter& painter) {
   _drawnDensity = pixelsPerLogicalPixel(painter);
   drawOverlay(painter);
   drawLabel(painter);
+  drawOverlayFrame(painter);
 }
 
 void FolderView::drawOverlay(QPainter& painter) {
@@ -100,14 +101,19 @@ void FolderView::drawOverlay(QPainter& painter) {
     painter.setOpacity(1);
     if (!picture.contains(whole)) drawEdge(painter, picture, palette().color(QPalette::Text), _drawnDensity);
   }
-  if (_overlaySelected && (hasFocus() || _overlayDrag)) {
-    const double line = std::max(1.0, std::round(_drawnDensity));
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QPen(palette().color(QPalette::Highlight), 1.5 * line));
-    painter.setBrush(Qt::NoBrush);
-    const QRectF square = renderer.square(imageSize().width, grid.toPixels).adjusted(-line, -line, line, line);
-    painter.drawRoundedRect(square, 4 * line, 4 * line);
-  }
+  painter.restore();
+}
+
+void FolderView::drawOverlayFrame(QPainter& painter) const {
+  if (!_overlaySelected || !_drawnOverlay || !(hasFocus() || _overlayDrag)) return;
+  painter.save();
+  enterPixels(painter);
+  const double line = std::max(1.0, std::round(_drawnDensity));
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setPen(QPen(palette().color(QPalette::Highlight), 1.5 * line));
+  painter.setBrush(Qt::NoBrush);
+  const QRectF square = OverlayRenderer(_drawnOverlay->overlay).square(imageSize().width, _drawnOverlay->toPixels);
+  painter.drawRoundedRect(square.adjusted(-line, -line, line, line), 4 * line, 4 * line);
   painter.restore();
 }
 

@@ -105,7 +105,8 @@ void takeAll(Pictures& pictures) {
   test.controller->setOverlayDrawing(OverlayEmblem{QStringLiteral("star")});
   test.ui()._folderView->setOverlaySelected(true);
   test.ui()._folderView->setFocus();
-  test.window.resize(1180, 760);
+  test.ui()._folderView->setCanvasLabelCenter({64, 24});
+  settle(4000);
   pictures.take(test.window, QStringLiteral("13-overlay"));
   OverlayPopup* chooser = test.ui()._overlayGroup->choose();
   pictures.take(*chooser, QStringLiteral("14-choose-overlay"));
