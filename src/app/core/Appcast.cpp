@@ -185,8 +185,8 @@ std::vector<Item> newerItems(const Appcast& list, const ProgramVersion& running,
     return item.version > running && !(system && item.leastSystem && *item.leastSystem > *system);
   });
   std::ranges::stable_sort(newer, std::ranges::greater(), &Item::version);
-  const auto repeated = std::ranges::unique(newer, {}, &Item::version);
-  newer.erase(repeated.begin(), repeated.end());
+  const auto same = [](const Item& one, const Item& other) { return one.version == other.version; };
+  newer.erase(std::unique(newer.begin(), newer.end(), same), newer.end());
   return newer;
 }
 

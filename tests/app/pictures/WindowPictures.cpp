@@ -90,6 +90,17 @@ void takeAll(Pictures& pictures) {
   test.window.resize(1920, 1080);
   pictures.take(test.window, QStringLiteral("3-editing-large"));
   test.window.resize(1180, 690);
+  test.controller->setTint(QColor(0x58, 0xB3, 0x68));
+  test.controller->setOverlayDrawing(OverlayEmblem{QStringLiteral("star")});
+  test.ui()._folderView->setOverlaySelected(true);
+  test.ui()._folderView->setFocus();
+  test.ui()._folderView->setCanvasLabelCenter({64, 36});
+  pictures.take(test.window, QStringLiteral("13-overlay"));
+  OverlayPopup* chooser = test.ui()._overlayGroup->choose();
+  pictures.take(*chooser, QStringLiteral("14-choose-overlay"));
+  chooser->close();
+  test.controller->removeOverlay();
+  test.controller->setTint(std::nullopt);
   test.controller->apply();
   settle();
   edit(test);
@@ -98,19 +109,6 @@ void takeAll(Pictures& pictures) {
   test.controller->setBaseIcon(plainImage(QColor(QStringLiteral("#3a9d5d")), 512));
   test.ui()._folderView->setMagnification(3);
   pictures.take(test.window, QStringLiteral("5-base-picture"));
-
-  test.controller->setBaseIcon(std::nullopt);
-  test.ui()._folderView->setMagnification(2);
-  test.controller->setTint(QColor(0x58, 0xB3, 0x68));
-  test.controller->setOverlayDrawing(OverlayEmblem{QStringLiteral("star")});
-  test.ui()._folderView->setOverlaySelected(true);
-  test.ui()._folderView->setFocus();
-  test.ui()._folderView->setCanvasLabelCenter({64, 24});
-  settle(4000);
-  pictures.take(test.window, QStringLiteral("13-overlay"));
-  OverlayPopup* chooser = test.ui()._overlayGroup->choose();
-  pictures.take(*chooser, QStringLiteral("14-choose-overlay"));
-  chooser->close();
 
   test.panels.colorPanel().showPanel();
   pictures.take(test.panels.colorPanel(), QStringLiteral("11-color-panel"));
