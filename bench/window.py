@@ -2,7 +2,8 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
 """window.py [--rounds N]  what the window costs, as ratios within one run, on a virtual display of its own:
 
-- from the start of the process to the first painted frame, against an empty main window of the same toolkit
+- from the start of the process to the first painted frame, against an empty main window of the same toolkit, and
+  against one with a single word in it
 - an apply, from the click until it is written, against composing and writing the same icon in the same process
 
 Each round measures both, in turn. Printed are the medians and the smallest values, wall and processor time; the
@@ -28,7 +29,8 @@ BENCH = os.environ.get("QUORVANE_BENCH", os.path.join(ROOT, "build/release/bench
 def first_frame(desktop, program):
     """Wall and processor seconds from the start to the first frame."""
     begun = time.monotonic()
-    done = desktop.run(os.path.join(BENCH, program))
+    name, *arguments = program.split()
+    done = desktop.run(os.path.join(BENCH, name), *arguments)
     painted, processor = map(float, done.stdout.split())
     return painted - begun, processor
 
@@ -51,7 +53,7 @@ def main():
     place = tempfile.mkdtemp(prefix="quorvane-bench-", dir="/dev/shm" if os.path.isdir("/dev/shm") else None)
     try:
         with session.Session((1680, 900), session.OPENBOX.replace("<maximized>yes</maximized>", "")) as desktop:
-            programs = ["WindowProbe", "EmptyWindow"]
+            programs = ["WindowProbe", "EmptyWindow", "EmptyWindow word"]
             taken = {program: [] for program in programs}
             for program in programs:
                 first_frame(desktop, program)  # into the caches
@@ -59,6 +61,8 @@ def main():
                 for program in programs if number % 2 else programs[::-1]:
                     taken[program].append(first_frame(desktop, program))
             tell("first frame, the window against an empty one:", taken["WindowProbe"], taken["EmptyWindow"])
+            tell("first frame, the window against one with a word in it:", taken["WindowProbe"],
+                 taken["EmptyWindow word"])
 
             done = subprocess.run([os.path.join(BENCH, "WindowProbe"), place], capture_output=True, text=True,
                                   env={**desktop.environment, "QUORVANE_ROUNDS": str(rounds)}, check=False)

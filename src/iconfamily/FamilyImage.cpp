@@ -5,6 +5,7 @@
 #include <unistd.h>
 
 #include <algorithm>
+#include <array>
 #include <cerrno>
 #include <memory>
 
@@ -21,6 +22,25 @@ namespace {
 // what the canvas shows is what gets applied.
 constexpr Size iconPoints{128, 128};
 
+/// The elements that can be had as a picture of one size, best form first: a damaged one gives way to the next.
+struct PictureSize {
+  int pixelsWide;
+  int pixelsHigh;
+  std::vector<FourCharCode> candidates;
+};
+
+std::vector<PictureSize> pictureSizes(const std::vector<FourCharCode>& held) {
+  std::vector<PictureSize> sizes;
+  for (const ElementType& type : elementTypes()) {
+    if (!type.isPicture() || std::ranges::find(held, type.type) == held.end()) continue;
+    // Types of one size stand together in the table.
+    if (sizes.empty() || sizes.back().pixelsWide != type.pixelsWide || sizes.back().pixelsHigh != type.pixelsHigh)
+      sizes.push_back({type.pixelsWide, type.pixelsHigh, {}});
+    sizes.back().candidates.push_back(type.type);
+  }
+  return sizes;
+}
+
 /// The whole file as it is now.
 std::optional<Bytes> familyBytes(const std::filesystem::path& path) {
   const auto folder = Folder::open(path.parent_path(), Folder::Access::Read);
@@ -32,29 +52,25 @@ std::optional<Bytes> familyBytes(const std::filesystem::path& path) {
 }  // namespace
 
 std::optional<Image> imageOfElements(const std::vector<FourCharCode>& held, const ElementDecoder& decode) {
-  // Types of one pixel size stand together in the table, best form first: a damaged element gives way to the next.
+  // Those of one library mostly hold the same elements.
+  thread_local std::vector<FourCharCode> lastHeld;
+  thread_local std::shared_ptr<const std::vector<PictureSize>> lastSizes;
+  if (!lastSizes || held != lastHeld) {
+    lastSizes = std::make_shared<const std::vector<PictureSize>>(pictureSizes(held));
+    lastHeld = held;
+  }
+  if (lastSizes->empty()) return std::nullopt;
   Image image(iconPoints);
   image.setScalesWhenResized(true);
-  const auto types = elementTypes();
-  for (auto first = types.begin(); first != types.end();) {
-    const auto isOtherSize = [&](const ElementType& type) {
-      return type.pixelsWide != first->pixelsWide || type.pixelsHigh != first->pixelsHigh;
-    };
-    const auto last = std::find_if(first, types.end(), isOtherSize);
-    std::vector<FourCharCode> candidates;
-    for (auto type = first; type != last; ++type)
-      if (type->isPicture() && std::ranges::find(held, type->type) != held.end()) candidates.push_back(type->type);
-    if (!candidates.empty()) {
-      image.addRepresentation(ImageRep::pending(first->pixelsWide, first->pixelsHigh, iconPoints,
-                                                [decode, candidates]() -> std::optional<BitmapImageRep> {
-                                                  for (const FourCharCode type : candidates)
-                                                    if (auto decoded = decode(type)) return decoded;
-                                                  return std::nullopt;
-                                                }));
-    }
-    first = last;
+  for (const PictureSize& size : *lastSizes) {
+    const std::shared_ptr<const std::vector<FourCharCode>> candidates(lastSizes, &size.candidates);
+    image.addRepresentation(ImageRep::pending(size.pixelsWide, size.pixelsHigh, iconPoints,
+                                              [decode, candidates]() -> std::optional<BitmapImageRep> {
+                                                for (const FourCharCode type : *candidates)
+                                                  if (auto decoded = decode(type)) return decoded;
+                                                return std::nullopt;
+                                              }));
   }
-  if (image.representations().empty()) return std::nullopt;
   return image;
 }
 
@@ -65,12 +81,22 @@ Result<std::optional<Image>> imageOfFamilyFile(const Folder& folder, const std::
   const auto failure = [&] { return Error::system(errno, "cannot read").at(folder.pathOf(name)); };
   if (::fstat(file->get(), &info) != 0) return failure();
   if (static_cast<std::uint64_t>(info.st_size) > limits::iconFileBytes) return std::optional<Image>();
+  // The small elements come first, so that one reading gets the headers of several.
+  std::array<std::uint8_t, 4096> block;
+  std::uint64_t blockStart = 0;
+  std::size_t blockLength = 0;
   const auto readHeader = [&](std::uint64_t at, std::uint8_t* to, std::size_t length) -> Result<bool> {
-    ssize_t got = 0;
-    do got = ::pread(file->get(), to, length, static_cast<off_t>(at));
-    while (got < 0 && errno == EINTR);
-    if (got < 0) return failure();
-    return static_cast<std::size_t>(got) == length;
+    if (at < blockStart || at - blockStart + length > blockLength) {
+      ssize_t got = 0;
+      do got = ::pread(file->get(), block.data(), at == 0 ? block.size() : length, static_cast<off_t>(at));
+      while (got < 0 && errno == EINTR);
+      if (got < 0) return failure();
+      blockStart = at;
+      blockLength = static_cast<std::size_t>(got);
+      if (blockLength < length) return false;
+    }
+    std::copy_n(block.begin() + static_cast<std::ptrdiff_t>(at - blockStart), length, to);
+    return true;
   };
   const auto types = icnsElementTypes(static_cast<std::uint64_t>(info.st_size), readHeader);
   if (!types && types.error().kind() == ErrorKind::System) return types.error();
