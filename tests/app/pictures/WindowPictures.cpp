@@ -66,8 +66,13 @@ void edit(TestWindow& test) {
   type(test, QStringLiteral("Paid\n2026"));
 }
 
+void putBuiltinIcons(const TestWindow& test) {
+  std::filesystem::copy(QUORVANE_BUILTIN, test.tree / "BaseIcons", std::filesystem::copy_options::recursive);
+}
+
 void takeAll(Pictures& pictures) {
   TestWindow test;
+  putBuiltinIcons(test);
   // For a path as people have it.
   qputenv("HOME", QByteArray::fromStdString(test.folder.parent_path().string()));
   test.launch();
@@ -104,7 +109,8 @@ void takeAll(Pictures& pictures) {
   test.controller->apply();
   settle();
   edit(test);
-  pictures.take(test.window, QStringLiteral("4-after-apply"));
+  test.ui()._baseColumn->library()->builtinTableView()->selectRow(3);
+  pictures.take(test.window, QStringLiteral("4-after-apply"), 2500);
   test.window.resize(1280, 720 - 37);
   test.controller->setBaseIcon(plainImage(QColor(QStringLiteral("#3a9d5d")), 512));
   test.ui()._folderView->setMagnification(3);
@@ -130,9 +136,7 @@ void makeSet(const std::filesystem::path& library, const char* name, std::initia
 void takeLibrary(Pictures& pictures) {
   TestWindow test;
   qputenv("HOME", QByteArray::fromStdString(test.folder.parent_path().string()));
-  const std::filesystem::path builtin = std::filesystem::path(QUORVANE_BUILTIN);
-  if (std::filesystem::exists(builtin))
-    std::filesystem::copy(builtin, test.tree / "BaseIcons", std::filesystem::copy_options::recursive);
+  putBuiltinIcons(test);
   makeSet(test.tree / "Icons", "Office", {"folder", "folder-open", "document", "application", "harddisk", "trash"});
   makeSet(test.tree / "Icons", "Photographs of the garden", {"folder", "document"});
   makeSet(test.tree / "Icons", "Later", {});
@@ -285,6 +289,7 @@ void takeSheets(Pictures& pictures) {
     } prompts;
     TestWindow test({.mode = WorkQueue::Mode::AtOnce, .prompts = &prompts, .notices = nullptr});
     prompts.window = &test.window;
+    putBuiltinIcons(test);
     test.launch();
     test.window.resize(1180, 690);
     QTimer::singleShot(1500, [&] {
