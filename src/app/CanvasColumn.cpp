@@ -83,7 +83,8 @@ QWidget* makeCanvasColumn(Outlets& outlets) {
 
   outlets._previewStrip = new PreviewStrip(writtenForms);
   // The two grounds stand side by side at every width: one above the other they would push the canvas away.
-  column->setMinimumWidth(outlets._previewStrip->minimumSizeHint().width());
+  // Room for that is kept while they are hidden; a minimum of the column itself would hide what the drawer needs.
+  layout->addItem(new QSpacerItem(outlets._previewStrip->minimumSizeHint().width(), 0));
   outlets._previewStrip->setFixedHeight(outlets._previewStrip->sizeHint().height());
   // Without a folder there is nothing to preview: then the canvas has its place.
   outlets._previewStrip->hide();
