@@ -26,14 +26,21 @@ namespace {
 // What archivers on other systems put in beside the files.
 constexpr std::string_view foreignFolder = "__MACOSX";
 
+/// A name as it comes in again: not hidden, and without what other systems take for a step.
+std::string handedOn(std::string name) {
+  std::ranges::replace(name, '\\', '_');
+  if (name.starts_with('.')) name.front() = '_';
+  return name;
+}
+
 /// The file that stands for an icon in a zip file.
 Result<NewFile> fileOf(const Folder& set, const std::string& name, const LibraryServices& services) {
   const std::filesystem::path plain = name;
   if (auto bytes = set.readFile(name, limits::pictureFileBytes); bytes && *bytes)
-    return NewFile{.name = newName(plain.stem().string(), "", 0, plain.extension().string()),
+    return NewFile{.name = handedOn(newName(plain.stem().string(), "", 0, plain.extension().string())),
                    .bytes = **std::move(bytes)};
   IconFamily family = TRY(IconSet::_iconFamilyForPath(set.pathOf(name), services));
-  return NewFile{.name = newName(name, "", 0, ".icns"), .bytes = family.data()};
+  return NewFile{.name = handedOn(newName(name, "", 0, ".icns")), .bytes = family.data()};
 }
 
 /// What of a zip file becomes a set: entries of one level, and its name.
@@ -114,7 +121,7 @@ Result<std::filesystem::path> import(ByteView bytes, const std::string& fileName
   makeInOrder(chosen.pictures.size(), make, take);
   if (failure) return *std::move(failure);
   if (isInterruptionRequested()) return Error::refused("interrupted");
-  return makeSet(library, chosen.name, files.files());
+  return makeSet(library, chosen.name, files.files(), progress);
 }
 
 }  // namespace
@@ -124,7 +131,7 @@ Result<void> exportSet(const std::filesystem::path& set, const std::filesystem::
   const Folder folder = TRY(openSetFolder(set, Folder::Access::Read));
   const auto icons = IconSet::_iconsInDirectory(set, services);
   if (!icons) return Error(ErrorKind::System, "cannot read the set").at(set);
-  const std::string name = newName(folder.path().filename().string(), "", 0, "") + "/";
+  const std::string name = handedOn(newName(folder.path().filename().string(), "", 0, "")) + "/";
   ZipWriter zip;
   std::vector<std::string> names;
   std::set<std::string> taken;
