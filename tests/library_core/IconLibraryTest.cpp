@@ -171,8 +171,10 @@ TEST_F(IconLibraryTest, WhateverTheyAreCalledSetsComeInVisibleAndWhole) {
   }
   EXPECT_EQ(namesOf(library.customIconSets()).size(), std::size(table));
   EXPECT_EQ(listed(root / setListName).size(), std::size(table));
-  // Names that an archive cannot carry.
+  // Names that an archive cannot carry, and one that shows nothing.
   const auto odd = setOf("back\\slash", {".hidden.icns", "a\\b.icns", "_hidden.icns"});
+  const Bytes png = *encodePng(filledBitmap(4, 4));
+  writeFile(odd->path() / "cut.png", Bytes(png.begin(), png.begin() + 40));
   ASSERT_TRUE(exportSet(odd->path(), tree / "odd.zip", services).ok());
   const auto path = importSet(tree / "odd.zip", root, services);
   ASSERT_TRUE(path.ok()) << path.error().message();

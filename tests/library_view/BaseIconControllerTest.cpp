@@ -103,6 +103,7 @@ TEST_F(BaseIconControllerTest, RefusesWhatItCannotTakeWithAReason) {
   foreignRows.setData(rowsPboardType, R"({"list":"another process","rows":[0]})");
   for (QMimeData* data : {&text, &remote, &foreignRows}) {
     EXPECT_EQ(drop(iconTable(), *data, 0, true).action, Qt::IgnoreAction);
+    EXPECT_EQ(drop(setTable(), *data, 1, false).action, Qt::IgnoreAction);
     EXPECT_EQ(controller->tableViewRefusal(iconTable(), *data).isEmpty(), data == &foreignRows);
   }
   const auto dragged = files({tree / "Icons/Blue/a.icns"});

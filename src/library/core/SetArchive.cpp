@@ -9,6 +9,7 @@
 #include "foundation/FileWriting.h"
 #include "foundation/Folder.h"
 #include "foundation/base/Limits.h"
+#include "foundation/base/Log.h"
 #include "foundation/base/Text.h"
 #include "foundation/plist/PropertyList.h"
 #include "library/core/IconImages.h"
@@ -104,16 +105,25 @@ Result<std::filesystem::path> import(ByteView bytes, const std::string& fileName
   std::mutex reading;
   NewSetFiles files;
   std::optional<Error> failure;
-  const auto make = [&](std::size_t at) -> Result<NewFile> {
+  // As with a folder, one picture that cannot be read does not keep the others out; what is damaged on its way does.
+  const auto make = [&](std::size_t at) -> Result<std::optional<NewFile>> {
     const ZipEntry& entry = chosen.pictures[at];
     std::unique_lock lock(reading);
     Bytes content = TRY(zip.read(entry));
     lock.unlock();
-    return unpacked(entry, std::move(content));
+    auto file = unpacked(entry, std::move(content));
+    if (file || chosen.pictures.size() == 1) return std::optional(TRY(std::move(file)));
+    logMessage("library", file.error().message());
+    return std::optional<NewFile>();
   };
-  const auto take = [&](std::size_t at, Result<NewFile> file) {
+  const auto take = [&](std::size_t at, Result<std::optional<NewFile>> file) {
     const std::string base = std::filesystem::path(chosen.pictures[at].steps.back()).stem().string();
-    const auto added = file ? files.add(base, file->name, file->bytes) : Result<void>(file.error());
+    Result<void> added;
+    if (!file) {
+      added = file.error();
+    } else if (*file) {
+      added = files.add(base, (*file)->name, (*file)->bytes);
+    }
     if (!added) failure = added.error();
     if (added && progress && !progress(at + 1, chosen.pictures.size())) failure = Error::refused("interrupted");
     return !failure;
@@ -121,6 +131,8 @@ Result<std::filesystem::path> import(ByteView bytes, const std::string& fileName
   makeInOrder(chosen.pictures.size(), make, take);
   if (failure) return *std::move(failure);
   if (isInterruptionRequested()) return Error::refused("interrupted");
+  if (files.files().empty() && !chosen.pictures.empty())
+    return Error::invalidInput("no picture in the zip file can be read");
   return makeSet(library, chosen.name, files.files(), progress);
 }
 

@@ -150,7 +150,8 @@ Qt::DropAction IconSetArrayController::tableViewValidateDrop(LibraryTableView& /
     const bool isOnOther = proposed.operation == TableDrop::Operation::On && proposed.row != selectionIndex();
     return isOnOther ? Qt::MoveAction : Qt::IgnoreAction;
   }
-  if (!tableViewRefusal(*_tableView, dragged).isEmpty()) return Qt::IgnoreAction;
+  // Rows of another process, or of none, are nothing here.
+  if (dragged.hasFormat(rowsPboardType) || !tableViewRefusal(*_tableView, dragged).isEmpty()) return Qt::IgnoreAction;
   proposed = {count(), TableDrop::Operation::Above};
   return Qt::CopyAction;
 }
