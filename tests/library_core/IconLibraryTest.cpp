@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "library/core/IconLibrary.h"
 
+#include <cstring>
+
 #include "imaging/PngCodec.h"
 #include "library/core/ZipFile.h"
 #include "library_core/LibraryFixture.h"
@@ -200,6 +202,15 @@ TEST_F(IconLibraryTest, AZipFileThatLeadsElsewhereOrIsDamagedLeavesNothing) {
   const Bytes packed = *std::move(bomb).finish();
   ASSERT_LT(packed.size(), 100'000U);
   writeFile(tree / "bad.zip", packed);
+  EXPECT_EQ(importSet(tree / "bad.zip", root, services).error().kind(), ErrorKind::TooLarge);
+  // In a long file as well: one that says so of its entries is enough.
+  library::ZipWriter padded;
+  ASSERT_TRUE(padded.add("notes.txt", Bytes(20 << 20), false).ok());
+  for (const char* name : {"a.icns", "b.icns", "c.icns"}) ASSERT_TRUE(padded.add(name, icon, true).ok());
+  Bytes claims = *std::move(padded).finish();
+  for (std::size_t at = 20 << 20; at + 46 < claims.size(); ++at)
+    if (std::memcmp(&claims[at], "PK\1\2", 4) == 0 && claims[at + 46] != 'n') claims[at + 27] = 0x1F;
+  writeFile(tree / "bad.zip", claims);
   EXPECT_EQ(importSet(tree / "bad.zip", root, services).error().kind(), ErrorKind::TooLarge);
   library::ZipWriter good;
   ASSERT_TRUE(good.add("a.icns", icon, true).ok());

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Editing the lists of sets and icons.
 #include <QLineEdit>
+#include <QTextDocument>
 
 #include "LibraryFixture.h"
 #include "library/view/EmptyState.h"
@@ -184,6 +185,20 @@ TEST_F(LibraryViewTest, FindsIconsOfBothLibraries) {
   view->perform(LibraryCommand::Find);
   QTest::keyClick(view->searchField(), Qt::Key_Escape);
   EXPECT_FALSE(found.isVisible());
+}
+
+TEST_F(LibraryViewTest, NamesAreNoMarkup) {
+  makeSet("<h1>A&B", {"<b>c"});
+  open();
+  view->searchField()->setText(QStringLiteral("c"));
+  const std::pair<QAbstractItemModel*, const char*> tips[] = {{setTable().model(), "<h1>A&B, 1 icon"},
+                                                              {iconTable().model(), "<b>c.icns"},
+                                                              {view->searchResults()->model(), "<b>c, in <h1>A&B"}};
+  for (const auto& [model, wanted] : tips) {
+    QTextDocument shown;
+    shown.setHtml(model->index(0, 0).data(Qt::ToolTipRole).toString());
+    EXPECT_EQ(shown.toPlainText(), QLatin1String(wanted));
+  }
 }
 
 TEST_F(LibraryViewTest, SaysWhyAListIsEmpty) {
