@@ -5,9 +5,9 @@
 #include "cli/Commands.h"
 #include "cli/Terminal.h"
 #include "foundation/FileManagerExtras.h"
-#include "foundation/FolderNames.h"
 #include "library/core/AddingIcons.h"
 #include "library/core/IconLibrary.h"
+#include "library/core/ListFile.h"
 #include "library/core/SetArchive.h"
 
 namespace quorvane::cli {
@@ -52,11 +52,22 @@ class SetsRun {
     return {_arguments.paths.begin() + static_cast<std::ptrdiff_t>(index), _arguments.paths.end()};
   }
 
-  /// A set of the user's own by name.
+  /// The name that is given first, as a set of the user's own; null and told when there is none.
+  [[nodiscard]] std::shared_ptr<IconSet> givenSet() const {
+    const auto path = ownSet(given(0));
+    auto set = path ? IconSet::initWithExistingPath(*path, _services) : nullptr;
+    if (!set) _reporter.failed(given(0), path ? noSet(given(0)) : path.error());
+    return set;
+  }
+
+  [[nodiscard]] static Error noSet(const fs::path& name) {
+    return Error(ErrorKind::NotFound, "there is no set of this name in your library").at(name);
+  }
+
+  /// The path of a set of the user's own.
   [[nodiscard]] Result<fs::path> ownSet(const fs::path& name) const {
     const auto names = _library.setNames(_library.customIconsPath());
-    if (std::ranges::find(names, name.string()) == names.end())
-      return Error(ErrorKind::NotFound, "there is no set of this name in your library").at(name);
+    if (std::ranges::find(names, name.string()) == names.end()) return noSet(name);
     return _library.customIconsPath() / name;
   }
 
@@ -99,13 +110,13 @@ class SetsRun {
 
   /// Makes the sources icons of the set, behind those that it has.
   void add() {
-    const auto path = ownSet(given(0));
-    if (!path) return _reporter.failed(given(0), path.error());
-    const auto set = IconSet::initWithPath(*path, _services);
+    const auto set = givenSet();
+    if (!set) return;
+    const fs::path& path = set->path();
     const std::vector<fs::path> sources = givenFrom(1);
     Icons icons = set->icons();
     std::size_t at = 0;
-    for (const auto& outcome : addIconsAtPaths(sources, *path, _services)) {
+    for (const auto& outcome : addIconsAtPaths(sources, path, _services)) {
       const fs::path& source = sources[at++];
       if (!outcome) {
         _reporter.failed(source, outcome.error());
@@ -116,12 +127,12 @@ class SetsRun {
                      {{QStringLiteral("icon"), QString::fromStdString(printable(outcome->name))}});
     }
     if (icons.size() == set->icons().size()) return;
-    if (const auto written = set->setIcons(std::move(icons)); !written) _reporter.failed(*path, written.error());
+    if (const auto written = set->setIcons(std::move(icons)); !written) _reporter.failed(path, written.error());
   }
 
   void makeNew() {
     const std::string name = given(0).string();
-    if (const auto good = names::check(name); !good) return _reporter.failed(given(0), good.error());
+    if (const auto good = library::checkSetName(name); !good) return _reporter.failed(given(0), good.error());
     if (!_library.createCustomIconsFolder())
       return _reporter.failed(_library.customIconsPath(), Error::refused("the library's folder cannot be made"));
     const fs::path path = _library.customIconsPath() / name;
@@ -135,19 +146,27 @@ class SetsRun {
   }
 
   void remove() {
-    const auto path = ownSet(given(0));
-    if (!path) return _reporter.failed(given(0), path.error());
-    const auto set = IconSet::initWithPath(*path, _services);
+    const auto set = givenSet();
+    if (!set) return;
+    const fs::path& path = set->path();
     if (_arguments.paths.size() == 1) {
       const auto removed = _library.removeSet(*set);
-      if (!removed) return _reporter.failed(*path, removed.error());
-      return _reporter.done(*path, "removed", printable(given(0)) + ": removed");
+      if (!removed) return _reporter.failed(path, removed.error());
+      return _reporter.done(path, "removed", printable(given(0)) + ": removed");
     }
     Icons icons = set->icons();
     for (const fs::path& name : givenFrom(1)) {
-      const auto found = std::ranges::find_if(icons, [&](const IconRecord& icon) {
-        return icon.name == name.string() || fs::path(icon.name).stem() == name;
-      });
+      const auto isMeant = [&](const IconRecord& icon) { return fs::path(icon.name).stem() == name; };
+      auto found = std::ranges::find(icons, name.string(), &IconRecord::name);
+      if (found == icons.end()) {
+        found = std::ranges::find_if(icons, isMeant);
+        const auto other = std::find_if(found == icons.end() ? found : found + 1, icons.end(), isMeant);
+        if (other != icons.end()) {
+          _reporter.failed(
+              name, Error::invalidInput("this may be " + printable(found->name) + " or " + printable(other->name)));
+          continue;
+        }
+      }
       if (found == icons.end()) {
         _reporter.failed(name, Error(ErrorKind::NotFound, "there is no icon of this name in the set"));
         continue;
@@ -162,18 +181,17 @@ class SetsRun {
       icons.erase(found);
     }
     if (icons.size() == set->icons().size()) return;
-    if (const auto written = set->setIcons(std::move(icons)); !written) _reporter.failed(*path, written.error());
+    if (const auto written = set->setIcons(std::move(icons)); !written) _reporter.failed(path, written.error());
   }
 
   void rename() {
-    const auto path = ownSet(given(0));
-    if (!path) return _reporter.failed(given(0), path.error());
+    const auto set = givenSet();
+    if (!set) return;
     // Told before the set takes the other one's icons for its own.
     std::error_code error;
     const fs::path next = _library.customIconsPath() / given(1);
-    const auto set = IconSet::initWithPath(*path, _services);
     if (given(1).has_filename() && !given(1).has_parent_path() && fs::exists(fs::symlink_status(next, error)) &&
-        !fs::equivalent(next, *path, error))
+        !fs::equivalent(next, set->path(), error))
       return _reporter.failed(given(1), Error::refused("something of this name is there already"));
     if (const auto renamed = set->setName(given(1).string()); !renamed)
       return _reporter.failed(given(0), renamed.error());

@@ -56,7 +56,7 @@ class Folder {
   Result<Folder> makeChild(const std::string& name);
 
   /// A fresh name for something that is built under it and renamed when it is complete. What is left under such a name
-  /// after an interruption, file or folder, is swept by the next opening for writing.
+  /// after an interruption is swept by the next opening for writing; but no folder that somebody has open for writing.
   static std::string temporaryName();
 
   /// The path as resolved when it was opened: for words and messages, and to hand to other programs.

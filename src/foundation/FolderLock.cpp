@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Writers exclude each other, and whoever holds the lock clears away what interrupted writers left.
+#include <fcntl.h>
 #include <sys/file.h>
 
 #include <cerrno>
@@ -46,6 +47,13 @@ Result<bool> lock(int handle, std::chrono::milliseconds wait) {
   return true;
 }
 
+/// Whether somebody is at work in a folder inside, which is not left over then.
+bool isHeld(int parent, const std::string& name) {
+  const FileDescriptor handle(
+      ::openat(parent, name.c_str(), O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC));
+  return handle.isOpen() && ::flock(handle.get(), LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK;
+}
+
 }  // namespace
 
 Result<Folder> Folder::_make(FileDescriptor handle, std::filesystem::path path, Access access,
@@ -71,7 +79,7 @@ void Folder::_sweep(bool locked) const {
     if (!locked && std::time(nullptr) - info.st_mtime < certainlyLeftoverSeconds) continue;
     if (S_ISREG(info.st_mode)) {
       if (::unlinkat(_handle.get(), name.c_str(), 0) != 0) note(_failure(errno, "cannot remove", name));
-    } else if (S_ISDIR(info.st_mode)) {
+    } else if (S_ISDIR(info.st_mode) && !isHeld(_handle.get(), name)) {
       if (auto gone = removal::removeTree(_handle.get(), name, _path); !gone.ok()) note(gone.error());
     }
   }

@@ -32,6 +32,10 @@ QString visibleText(const QString& text) {
   return QString::fromStdString(printable(text.toStdString()));
 }
 
+QString plainToolTip(const QString& text) {
+  return QStringLiteral("<p style=\"white-space:pre-wrap\">%1</p>").arg(text.toHtmlEscaped());
+}
+
 ElidedLabel::ElidedLabel(const QString& text, QWidget* parent) : QWidget(parent) {
   [[maybe_unused]] static const bool once = [] {
     QAccessible::installFactory(elidedLabelInterface);
@@ -86,9 +90,8 @@ void ElidedLabel::paintEvent(QPaintEvent*) {
 
 bool ElidedLabel::event(QEvent* event) {
   if (event->type() != QEvent::ToolTip || !toolTip().isEmpty()) return QWidget::event(event);
-  // Escaped, since tool tips guess at markup.
-  const QString whole = QStringLiteral("<p style=\"white-space:pre-wrap\">%1</p>").arg(_visible.toHtmlEscaped());
-  QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), isElided() ? whole : QString(), this);
+  QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), isElided() ? plainToolTip(_visible) : QString(),
+                     this);
   return true;
 }
 

@@ -15,6 +15,7 @@ from points import Tracer, points, thin
 
 PATIENCE = float(os.environ.get("QUORVANE_PATIENCE", "10"))
 QUORVANE = os.environ.get("QUORVANE", "")
+WRITER = os.environ.get("QUORVANE_LIBRARY_WRITER", "")
 STRIDE = max(1, int(os.environ.get("QUORVANE_STRIDE", "61")) // 10)
 ICONS = ["b.icns", "a.icns", "c.icns"]
 
@@ -69,7 +70,17 @@ class LibraryTest(unittest.TestCase):
         return [name for _folder, folders, names in os.walk(self.root) for name in folders + names
                 if name.endswith(".tmp")]
 
-    def each_point(self, arguments, is_good):
+    def trashed(self):
+        """The names in the trash of files that are whole."""
+        place = os.path.join(self.root, "Trash", "files")
+        names = os.listdir(place) if os.path.isdir(place) else []
+        for name in names:
+            with open(os.path.join(place, name), "rb") as file:
+                self.assertEqual(file.read(), self.content)
+        return names
+
+    def each_point(self, arguments, is_good, program=None):
+        self.tracer.program = program or QUORVANE
         self.lay()
         old = self.state()
         done, calls = self.tracer.calls(arguments, self.root, self.root)
@@ -87,6 +98,7 @@ class LibraryTest(unittest.TestCase):
                     self.assertEqual({name: sorted(icons) for name, icons in after},
                                      {name: sorted(icons) for name, icons in new})
                 elif after not in (old, new):
+                    self.was_killed = point.kind == "kill"
                     is_good(dict(after))
                 if self.leftovers():
                     # Whoever writes there next clears them away.
@@ -113,6 +125,28 @@ class LibraryTest(unittest.TestCase):
             self.assertEqual(after["Red"], ICONS)
             self.assertEqual([name for name in after["Blue"] if name != "a.icns"], ["b.icns", "c.icns"])
         self.each_point(["sets", "remove", "Blue", "a"], is_good)
+
+    def test_reordering_and_taking_it_back(self):
+        def is_good(after):
+            self.assertEqual(after["Red"], ICONS)
+            self.assertIn(after["Blue"], (ICONS, ICONS[::-1]))
+        for what in ("reorder", "undo-reorder"):
+            self.each_point([what, "Blue", "a.icns"], is_good, WRITER)
+
+    def test_bringing_a_removed_icon_back(self):
+        def is_good(after):
+            self.assertEqual(after["Red"], ICONS)
+            self.assertEqual([name for name in after["Blue"] if name != "a.icns"], ["b.icns", "c.icns"])
+            if self.was_killed and "a.icns" not in after["Blue"]:
+                self.assertEqual(self.trashed(), ["a.icns"])
+        self.each_point(["undo-remove", "Blue", "a.icns"], is_good, WRITER)
+
+    def test_moving_to_another_set(self):
+        def is_good(after):
+            self.assertEqual([name for name in after["Blue"] if name != "a.icns"], ["b.icns", "c.icns"])
+            self.assertIn(after["Red"], (ICONS, [*ICONS, "a-1.icns"]))
+            self.assertTrue("a.icns" in after["Blue"] or "a-1.icns" in after["Red"])
+        self.each_point(["move", "Blue", "a.icns", "Red"], is_good, WRITER)
 
     def test_importing(self):
         def is_good(after):

@@ -72,6 +72,16 @@ TEST(FolderLock, SweepsOnlyWhatIsCertainlyALeftover) {
   EXPECT_FALSE(fs::exists(root / "f/.quorvane-0a1b2c3d.tmp"));
   EXPECT_FALSE(fs::exists(root / "f/.quorvane-11111111.tmp"));
   EXPECT_EQ(test::listing(root / "victim"), "precious=x\n");
+  // What somebody is building is none.
+  const std::string building = Folder::temporaryName();
+  {
+    const auto held = Folder::open(root / "f", Access::Write)->makeChild(building);
+    ASSERT_TRUE(held.ok());
+    EXPECT_TRUE(Folder::open(root / "f", Access::Write).ok());
+    EXPECT_TRUE(fs::exists(root / "f" / building));
+  }
+  EXPECT_TRUE(Folder::open(root / "f", Access::Write).ok());
+  EXPECT_FALSE(fs::exists(root / "f" / building));
 }
 
 TEST(FolderLock, ManyWritersLeaveWholeFilesAndNothingElse) {

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "library/core/IconLibrary.h"
 
+#include <cstring>
+
 #include "imaging/PngCodec.h"
 #include "library/core/ZipFile.h"
 #include "library_core/LibraryFixture.h"
@@ -61,6 +63,11 @@ TEST_F(IconLibraryTest, OnlyASetWithoutIconsIsRemovedAndNothingElseIsLost) {
   fs::remove(root / "Blue/notes.txt");
   EXPECT_TRUE(withoutTrash.removeSet(*blue).ok());
   EXPECT_FALSE(fs::exists(root / "Blue"));
+  fs::create_directory(root / "Blue");
+  fs::create_directories(root / "Blue/Papers/deep");
+  fs::remove_all(tree / "trash");
+  EXPECT_FALSE(blue->removeIconFileWithName("Papers").ok()) << "neither to the trash nor for good";
+  EXPECT_TRUE(fs::exists(root / "Blue/Papers/deep"));
   fs::create_directory_symlink(tree / "source", root / "Link");
   EXPECT_FALSE(library.removeSet(*set("Link")).ok());
   EXPECT_TRUE(fs::exists(tree / "source/icon.icns"));
@@ -112,6 +119,16 @@ TEST_F(IconLibraryTest, WhatWasDoneCanBeTakenBack) {
   EXPECT_FALSE(undo.undo().ok());
   EXPECT_THAT(namesOf(set->icons()), ElementsAre("a.icns", "b-1.icns", "d.icns"));
   EXPECT_NE(readFile(root / "Blue/b.icns"), content);
+  // So are the names of sets.
+  writeFile(root / "Empty/notes.txt", "x");
+  ASSERT_TRUE(undo.removeSet(empty).ok());
+  ASSERT_TRUE(undo.renameSet(set, "Red").ok());
+  setOf("Blue", {"other.icns"});
+  setOf("Empty", {"other.icns"});
+  EXPECT_FALSE(undo.undo().ok());
+  EXPECT_TRUE(undo.undo().ok());
+  EXPECT_EQ(empty->path(), root / "Empty-1");
+  EXPECT_EQ(set->name() + listed(root / "Red" / iconListName).front(), "Reda.icns");
 }
 
 TEST_F(IconLibraryTest, ASetGoesOutAsOneFileAndComesInAgain) {
@@ -140,6 +157,33 @@ TEST_F(IconLibraryTest, ASetGoesOutAsOneFileAndComesInAgain) {
   EXPECT_THAT(namesOf(IconSet::initWithPath(*theirs, services)->icons()), ElementsAre("B.icns", "a.icns"));
 }
 
+TEST_F(IconLibraryTest, WhateverTheyAreCalledSetsComeInVisibleAndWhole) {
+  const Bytes icon = readFile(tree / "source/icon.icns");
+  const std::pair<const char*, const char*> table[] = {{"sets.plist/a.icns", "sets.plist 1"},
+                                                       {".quorvane/a.icns", ".quorvane 1"},
+                                                       {".quorvane-abcdefgh.tmp/a.icns", ".quorvane-abcdefgh.tmp 1"},
+                                                       {"a.icns", "New Set"}};
+  for (const auto& [entry, wanted] : table) {
+    library::ZipWriter zip;
+    ASSERT_TRUE(zip.add(entry, icon, true).ok());
+    writeFile(tree / "...zip", *std::move(zip).finish());
+    const auto path = importSet(tree / "...zip", root, services);
+    ASSERT_TRUE(path.ok()) << entry << path.error().message();
+    EXPECT_EQ(path->filename(), wanted);
+  }
+  EXPECT_EQ(namesOf(library.customIconSets()).size(), std::size(table));
+  EXPECT_EQ(listed(root / setListName).size(), std::size(table));
+  // Names that an archive cannot carry, and one that shows nothing.
+  const auto odd = setOf("back\\slash", {".hidden.icns", "a\\b.icns", "_hidden.icns"});
+  const Bytes png = *encodePng(filledBitmap(4, 4));
+  writeFile(odd->path() / "cut.png", Bytes(png.begin(), png.begin() + 40));
+  ASSERT_TRUE(exportSet(odd->path(), tree / "odd.zip", services).ok());
+  const auto path = importSet(tree / "odd.zip", root, services);
+  ASSERT_TRUE(path.ok()) << path.error().message();
+  EXPECT_THAT(namesOf(IconSet::initWithPath(*path, services)->icons()),
+              ElementsAre("_hidden.icns", "a_b.icns", "_hidden-1.icns"));
+}
+
 TEST_F(IconLibraryTest, AZipFileThatLeadsElsewhereOrIsDamagedLeavesNothing) {
   const Bytes icon = readFile(tree / "source/icon.icns");
   const std::string before = describeTree(root);
@@ -158,6 +202,15 @@ TEST_F(IconLibraryTest, AZipFileThatLeadsElsewhereOrIsDamagedLeavesNothing) {
   const Bytes packed = *std::move(bomb).finish();
   ASSERT_LT(packed.size(), 100'000U);
   writeFile(tree / "bad.zip", packed);
+  EXPECT_EQ(importSet(tree / "bad.zip", root, services).error().kind(), ErrorKind::TooLarge);
+  // In a long file as well: one that says so of its entries is enough.
+  library::ZipWriter padded;
+  ASSERT_TRUE(padded.add("notes.txt", Bytes(20 << 20), false).ok());
+  for (const char* name : {"a.icns", "b.icns", "c.icns"}) ASSERT_TRUE(padded.add(name, icon, true).ok());
+  Bytes claims = *std::move(padded).finish();
+  for (std::size_t at = 20 << 20; at + 46 < claims.size(); ++at)
+    if (std::memcmp(&claims[at], "PK\1\2", 4) == 0 && claims[at + 46] != 'n') claims[at + 27] = 0x1F;
+  writeFile(tree / "bad.zip", claims);
   EXPECT_EQ(importSet(tree / "bad.zip", root, services).error().kind(), ErrorKind::TooLarge);
   library::ZipWriter good;
   ASSERT_TRUE(good.add("a.icns", icon, true).ok());
@@ -187,10 +240,14 @@ TEST_F(IconLibraryTest, AFolderOfPicturesBecomesASetAllOrNothing) {
   const std::string before = describeTree(root);
   EXPECT_FALSE(
       setFromFolder(tree / "Pics", root, services, [](std::size_t done, std::size_t) { return done < 2; }).ok());
+  int asked = 0;
+  EXPECT_FALSE(setFromFolder(tree / "Pics", root, services, [&](auto, auto) { return ++asked < 6; }).ok())
+      << "while the files are written";
   EXPECT_EQ(describeTree(root), before);
   const auto path = setFromFolder(tree / "Pics", root, services);
   ASSERT_TRUE(path.ok()) << path.error().message();
   EXPECT_THAT(namesOf(set("Pics")->icons()), ElementsAre("2.icns", "10.icns", "b.icns"));
+  EXPECT_EQ(readFile(root / "Pics/b.icns"), readFile(root / "Pics/2.icns")) << "the picture, not its kind's";
   std::size_t calls = 0;
   const std::vector<fs::path> sources(5, tree / "source/icon.icns");
   const auto added = addIconsAtPaths(sources, *path, services, [&](std::size_t, std::size_t) { return ++calls < 3; });

@@ -44,6 +44,12 @@ TEST_F(IconSetTest, LoadingFollowsTheListDropsWhatIsGoneAndAddsWhatIsNew) {
 TEST_F(IconSetTest, AMissingFolderIsMadeWithoutAListAndAListOfAnyFormIsRead) {
   EXPECT_TRUE(set("deep/New")->icons().empty());
   EXPECT_TRUE(fs::is_empty(root / "deep/New"));
+  // One that somebody else has taken away or renamed does not come back by being read.
+  const auto gone = set("Gone");
+  fs::remove(root / "Gone");
+  gone->reload();
+  EXPECT_FALSE(IconSet::initWithExistingPath(root / "Gone", services));
+  EXPECT_FALSE(fs::exists(root / "Gone"));
   for (const char* name : {"a.icns", "b.icns"}) picture(root / "S" / name);
   writeFile(root / "S" / iconListName, "(b.icns, \"a.icns\")");
   EXPECT_THAT(namesOf(set("S")->icons()), ElementsAre("b.icns", "a.icns"));
@@ -129,7 +135,7 @@ TEST_F(IconSetTest, RenamingMovesTheFolderAndItsEntry) {
   ASSERT_TRUE(set->setName("grün").ok());
   EXPECT_THAT(listed(root / setListName), ElementsAre("X", "grün"));
   const std::string before = describeTree(root);
-  for (const std::string& name : {""s, ".."s, "a/b"s, std::string(256, 'x'), "a\0b"s, ".quorvane"s})
+  for (const std::string& name : {""s, ".."s, "a/b"s, std::string(256, 'x'), "a\0b"s, ".quorvane"s, "sets.plist"s})
     EXPECT_FALSE(set->setName(name).ok()) << name;
   EXPECT_EQ(set->name(), "grün");
   EXPECT_EQ(describeTree(root), before);

@@ -4,6 +4,8 @@
 #include <QAction>
 #include <QLineEdit>
 #include <QSplitter>
+#include <atomic>
+#include <thread>
 
 #include "LibraryFixture.h"
 #include "library/view/RowsPasteboard.h"
@@ -29,6 +31,22 @@ TEST_F(BaseIconControllerTest, ChoosesTheBaseIconFromOneListAtATime) {
   const auto count = chosen.size();
   iconTable().clearSelection();
   EXPECT_EQ(chosen.size(), count) << "nothing selected says nothing";
+}
+
+TEST_F(BaseIconControllerTest, TheBaseIconStaysWholeWhateverBecomesOfItsFile) {
+  makeSet("Blue", {"a", "b"});
+  ASSERT_TRUE(plainImage(Qt::red, 600).writeToPNGFile(tree / "Icons/Blue/p.png").ok());
+  open();
+  for (const auto& [row, side] : {std::pair{0, 512}, {1, 600}}) {
+    controller->choose(icons().objectAt(row));
+    const Image former = base.value();
+    select(iconTable(), {row});
+    EXPECT_TRUE(former.isSameAs(base.value()));
+    controller->removeSelectedIcons();
+    const auto bitmap = former.bitmapForPixels(side, side);
+    EXPECT_TRUE(bitmap && bitmap->pixelsWide() == side) << side;
+  }
+  EXPECT_EQ(shown(), "b");
 }
 
 TEST_F(BaseIconControllerTest, KeepsWhichSetsAreSelected) {
@@ -62,7 +80,7 @@ TEST_F(BaseIconControllerTest, DroppedFilesStandReversed) {
   EXPECT_EQ(shown(), "C B A z");
   EXPECT_EQ(onDisk("Blue"), "C B A z");
   EXPECT_TRUE(std::filesystem::exists(tree / "elsewhere/A.icns"));
-  EXPECT_EQ(chosen.back(), "C.icns") << "the last one inserted is selected";
+  EXPECT_EQ(chosen, std::vector<std::string>{"C.icns"}) << "the last one inserted is selected, and no other was";
   controller->undo();
   EXPECT_EQ(shown() + "|" + onDisk("Blue"), "z|z");
   // A drop in the lower half of a row comes behind it, and a sender that only moves is refused.
@@ -85,6 +103,7 @@ TEST_F(BaseIconControllerTest, RefusesWhatItCannotTakeWithAReason) {
   foreignRows.setData(rowsPboardType, R"({"list":"another process","rows":[0]})");
   for (QMimeData* data : {&text, &remote, &foreignRows}) {
     EXPECT_EQ(drop(iconTable(), *data, 0, true).action, Qt::IgnoreAction);
+    EXPECT_EQ(drop(setTable(), *data, 1, false).action, Qt::IgnoreAction);
     EXPECT_EQ(controller->tableViewRefusal(iconTable(), *data).isEmpty(), data == &foreignRows);
   }
   const auto dragged = files({tree / "Icons/Blue/a.icns"});
@@ -212,6 +231,40 @@ TEST_F(BaseIconControllerTest, AddsInTheBackgroundUntilItIsCancelled) {
   EXPECT_TRUE(added > 0 && added < many.size()) << added;
   EXPECT_EQ(onDisk("Blue"), joined(sets().objectAt(0)->icons(), [](const auto& icon) { return icon.name; }));
   EXPECT_EQ(shown(), "");
+}
+
+TEST_F(BaseIconControllerTest, WhatIsAddedWhileTheSetIsRenamedOrReadAnewIsShownOnce) {
+  makeSet("Blue", {"a"});
+  makeSet("Red", {});
+  writeIcon(tree / "elsewhere/n.icns");
+  open(WorkQueue::Mode::InBackground);
+  for (const bool isRenamed : {true, false}) {
+    controller->adder().hold();
+    EXPECT_EQ(drop(iconTable(), *files({tree / "elsewhere/n.icns"}), 1, true).action, Qt::CopyAction);
+    const std::string name = isRenamed ? "n.icns" : "n-1.icns";
+    ASSERT_TRUE(QTest::qWaitFor([&] { return std::filesystem::exists(sets().objectAt(0)->path() / name); }, 9000));
+    isRenamed ? static_cast<void>(sets().setName(0, QStringLiteral("Green"))) : sets().objectAt(0)->reload();
+    ASSERT_TRUE(QTest::qWaitFor([&] { return onDisk("Green").find(isRenamed ? "n" : "n-1") != std::string::npos; }));
+    controller->adder().release();
+    ASSERT_TRUE(QTest::qWaitFor([&] { return !controller->adder().isBusy(); }, 9000));
+    EXPECT_EQ(shown() + "|" + onDisk("Green"), isRenamed ? "a n|a n" : "a n-1 n|a n-1 n");
+    for (const IconRecord& icon : icons().arrangedObjects())
+      EXPECT_TRUE(icon.image.bitmapRepresentation()) << icon.name;
+  }
+  // What is dropped behind something that was cancelled is not cancelled with it.
+  std::atomic<bool> isOver = false;
+  controller->adder().run(
+      {},
+      [&](const LibraryProgress&) {
+        while (!isOver) std::this_thread::yield();
+        return Result<void>();
+      },
+      [](const auto&) {});
+  controller->adder().cancel();
+  drop(iconTable(), *files({tree / "elsewhere/n.icns"}), 0, true);
+  isOver = true;
+  ASSERT_TRUE(QTest::qWaitFor([&] { return !controller->adder().isBusy(); }, 9000));
+  EXPECT_EQ(shown(), "n-2 a n-1 n");
 }
 
 }  // namespace

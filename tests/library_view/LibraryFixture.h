@@ -49,6 +49,7 @@ class LibraryFixture : public ::testing::Test {
                        .prompt =
                            [this](const QString& title, const QString& text, const QString& yes, const QString& no) {
                              said << title << text << yes << no;
+                             if (meanwhile) meanwhile();
                              return answer;
                            },
                        .chooseIcon = choose,
@@ -61,6 +62,7 @@ class LibraryFixture : public ::testing::Test {
     view = std::make_unique<LibraryView>(*controller);
     QObject::connect(controller.get(), &BaseIconController::baseIconChosen,
                      [this](const std::optional<Image>& image, const Path& path) {
+                       base = image;
                        chosen.push_back(image ? path.filename().string() : "none");
                      });
     QObject::connect(controller.get(), &BaseIconController::failed, [this](const QString& why) { failures << why; });
@@ -169,9 +171,11 @@ class LibraryFixture : public ::testing::Test {
   LibraryServices libraryServices{.icons = services, .trash = &trash};
   std::optional<Path> choice;
   int answer = 1;
+  std::function<void()> meanwhile;  ///< what happens while a question waits for its answer
   QStringList said;
   QStringList failures;
   std::vector<std::string> chosen;
+  std::optional<Image> base;
   QList<int> saved[2];
   std::unique_ptr<BaseIconController> controller;
   std::unique_ptr<LibraryView> view;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Editing the lists of sets and icons.
 #include <QLineEdit>
+#include <QTextDocument>
 
 #include "LibraryFixture.h"
 #include "library/view/EmptyState.h"
@@ -27,6 +28,9 @@ TEST_F(SetListTest, NamesNewSetsAndLetsTheNameBeEdited) {
     open();
     EXPECT_EQ(sets().pathToNewSet().filename(), each.name);
   }
+  writeFile(tree / "Icons/New Set", std::string("no set"));
+  EXPECT_EQ(sets().pathToNewSet().filename(), "New Set 1");
+  std::filesystem::remove(tree / "Icons/New Set");
   view->activateWindow();
   view->perform(LibraryCommand::NewSet);
   EXPECT_TRUE(std::filesystem::is_directory(tree / "Icons/New Set"));
@@ -62,6 +66,35 @@ TEST_F(SetListTest, RemovesEmptySetsAndTheFirstRow) {
   controller->undo();
   EXPECT_TRUE(std::filesystem::exists(tree / "Icons/Green"));
   EXPECT_EQ(shownSets(), "Blue Red Green") << "the list is right when it is read";
+}
+
+TEST_F(SetListTest, ARemovedSetComesBackWithWhatIsTakenBackInItBefore) {
+  makeSet("Blue", {"a"});
+  makeSet("Red", {});
+  open();
+  select(iconTable(), {0});
+  controller->removeSelectedIcons();
+  view->perform(LibraryCommand::RemoveSet);
+  EXPECT_EQ(shownSets(), "Red");
+  controller->undo();
+  controller->undo();
+  select(setTable(), {0});
+  EXPECT_EQ(shownSets() + "|" + shown() + "|" + onDisk("Blue"), "Blue Red|a|a");
+}
+
+TEST_F(SetListTest, ANameThatIsTakenOrNotEditedRemovesNothingElse) {
+  makeSet("Blue", {"a", "b"});
+  makeSet("Green", {"a", "c"});
+  makeSet("\xFF", {});
+  open();
+  EXPECT_FALSE(sets().setName(2, setTable().model()->index(2, 0).data(Qt::EditRole).toString()));
+  EXPECT_TRUE(std::filesystem::exists(tree / "Icons/\xFF"));
+  sets().setName(0, QStringLiteral("Green"));
+  EXPECT_EQ(shown(), "a c") << "the other one's are shown";
+  select(iconTable(), {0});
+  controller->removeSelectedIcons();
+  EXPECT_EQ(onDisk("Green"), "c") << "what was seen is removed";
+  EXPECT_TRUE(std::filesystem::exists(tree / "Icons/Blue/a.icns"));
 }
 
 TEST_F(SetListTest, FoldersAndZipFilesBecomeSets) {
@@ -118,6 +151,12 @@ TEST_F(IconListTest, AsksBeforeItRemoves) {
   EXPECT_EQ(shown() + "|" + onDisk("Blue"), "c|c");
   controller->undo();
   EXPECT_EQ(shown() + "|" + onDisk("Blue"), "a b c d|a b c d") << "in their places";
+  select(iconTable(), {1});
+  meanwhile = [&] { select(iconTable(), {2}); };
+  controller->removeSelectedIcons();
+  EXPECT_EQ(shown() + "|" + onDisk("Blue"), "a c d|a c d") << "the one that was asked about";
+  meanwhile = {};
+  controller->undo();
   said.clear();
   select(iconTable(), {2});
   std::filesystem::remove(tree / "Icons/Blue/c.icns");
@@ -146,6 +185,20 @@ TEST_F(LibraryViewTest, FindsIconsOfBothLibraries) {
   view->perform(LibraryCommand::Find);
   QTest::keyClick(view->searchField(), Qt::Key_Escape);
   EXPECT_FALSE(found.isVisible());
+}
+
+TEST_F(LibraryViewTest, NamesAreNoMarkup) {
+  makeSet("<h1>A&B", {"<b>c"});
+  open();
+  view->searchField()->setText(QStringLiteral("c"));
+  const std::pair<QAbstractItemModel*, const char*> tips[] = {{setTable().model(), "<h1>A&B, 1 icon"},
+                                                              {iconTable().model(), "<b>c.icns"},
+                                                              {view->searchResults()->model(), "<b>c, in <h1>A&B"}};
+  for (const auto& [model, wanted] : tips) {
+    QTextDocument shown;
+    shown.setHtml(model->index(0, 0).data(Qt::ToolTipRole).toString());
+    EXPECT_EQ(shown.toPlainText(), QLatin1String(wanted));
+  }
 }
 
 TEST_F(LibraryViewTest, SaysWhyAListIsEmpty) {

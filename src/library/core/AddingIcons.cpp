@@ -8,6 +8,7 @@
 
 #include "foundation/NaturalOrder.h"
 #include "foundation/base/Limits.h"
+#include "library/core/IconImages.h"
 #include "library/core/ListFile.h"
 #include "library/core/NewIcons.h"
 #include "library/core/PictureNames.h"
@@ -15,6 +16,19 @@
 namespace quorvane {
 
 using namespace library;
+
+namespace {
+
+/// Of the picture itself, whatever its ending: nobody wants a set of the desktop's icons for kinds of pictures.
+Result<IconFamily> pictureFamilyOf(const Folder& folder, const std::string& name) {
+  const auto bytes = TRY(folder.readFile(name, limits::pictureFileBytes));
+  if (!bytes) return Error::system(ENOENT, "cannot read").at(folder.pathOf(name));
+  auto family = familyOfBytes(*bytes, lowered(std::filesystem::path(name).extension().string()) == ".icns");
+  if (!family) return std::move(family).error().at(folder.pathOf(name));
+  return family;
+}
+
+}  // namespace
 
 std::vector<Result<IconRecord>> addIconsAtPaths(const std::vector<std::filesystem::path>& paths,
                                                 const std::filesystem::path& toDirectory,
@@ -31,7 +45,7 @@ std::vector<Result<IconRecord>> addIconsAtPaths(const std::vector<std::filesyste
 }
 
 Result<std::filesystem::path> setFromFolder(const std::filesystem::path& folder, const std::filesystem::path& library,
-                                            const LibraryServices& services, const LibraryProgress& progress) {
+                                            const LibraryServices& /*services*/, const LibraryProgress& progress) {
   const Folder from = TRY(Folder::open(folder, Folder::Access::Read));
   std::vector<std::string> names;
   for (const std::string& name : TRY(from.names())) {
@@ -46,7 +60,7 @@ Result<std::filesystem::path> setFromFolder(const std::filesystem::path& folder,
   NewSetFiles files;
   std::optional<Error> failure;
   makeInOrder(
-      names.size(), [&](std::size_t at) { return showableFamilyOf(from.pathOf(names[at]), services); },
+      names.size(), [&](std::size_t at) { return pictureFamilyOf(from, names[at]); },
       [&](std::size_t at, Result<IconFamily> family) {
         const auto added =
             family ? files.add(baseNameOf(names[at]), ".icns", family->bytes()) : Result<void>(family.error());
@@ -58,7 +72,7 @@ Result<std::filesystem::path> setFromFolder(const std::filesystem::path& folder,
   if (failure) return *std::move(failure);
   if (isInterruptionRequested()) return Error::refused("interrupted");
   if (files.files().empty()) return Error::invalidInput("no picture in the folder can be read").at(folder);
-  return makeSet(library, from.path().filename().string(), files.files());
+  return makeSet(library, from.path().filename().string(), files.files(), progress);
 }
 
 }  // namespace quorvane

@@ -75,6 +75,24 @@ Result<std::optional<Image>> imageOf(const Folder& folder, const std::string& na
   return std::optional<Image>();
 }
 
+Image lastingImage(const IconRecord& icon) {
+  const auto& reps = icon.image.representations();
+  const bool isPending = std::ranges::any_of(reps, [](const ImageRep& rep) { return rep.isPending(); });
+  const auto folder = Folder::open(icon.path.parent_path(), Folder::Access::Read);
+  if (!isPending || !folder) return icon.image;
+  auto read = folder->readFile(icon.name, limits::pictureFileBytes);
+  if (!read || !*read) return icon.image;
+  const auto bytes = std::make_shared<const Bytes>(**std::move(read));
+  if (icon.path.extension() == ".icns") return IconFamily::initWithData(*bytes).imageWithAllReps().value_or(icon.image);
+  Image image(icon.image.size());
+  image.addRepresentation(ImageRep::pending(reps.front().pixelsWide(), reps.front().pixelsHigh(), reps.front().size(),
+                                            [bytes]() -> std::optional<BitmapImageRep> {
+                                              const auto picture = Image::imageWithData(*bytes);
+                                              return picture ? picture->bitmapRepresentation() : std::nullopt;
+                                            }));
+  return image;
+}
+
 Result<void> checkShowable(const IconFamily& family) {
   TRY_VOID(family.check());
   const auto image = family.imageWithAllReps();

@@ -110,7 +110,9 @@ IconLibrary::Sets IconLibrary::_iconSetsInDirectory(const fs::path& path) const 
     names = foundSets(*folder, list ? list->names : std::vector<std::string>(), isWhole);
   }
   Sets sets;
-  for (const std::string& name : names) sets.push_back(IconSet::initWithPath(path / name, _services));
+  // Another program may have renamed one since.
+  for (const std::string& name : names)
+    if (auto set = IconSet::initWithExistingPath(path / name, _services)) sets.push_back(std::move(set));
   if (!sets.empty() || !isWhole) return sets;
   auto first = IconSet::initWithPath(path / newSetName, _services);
   if (isDirectory(first->path())) sets.push_back(std::move(first));

@@ -40,7 +40,9 @@ Result<void> renameInList(Folder& library, const std::string& from, const std::s
 Result<void> renameSetFolder(const std::filesystem::path& path, const std::string& name) {
   const Folder set = TRY(openSetFolder(path, Folder::Access::Write));
   Folder::Parent parent = TRY(set.openParent(Folder::Access::Write));
-  TRY_VOID(parent.folder.renameNew(parent.name, parent.folder, name));
+  const auto moved = parent.folder.renameNew(parent.name, parent.folder, name);
+  // It may fail after it was done, when the disk does not say that it has it.
+  if (!moved && TRY(parent.folder.statusOf(parent.name))) return moved;
   if (auto listed = renameInList(parent.folder, parent.name, name); !listed) {
     TRY_VOID(parent.folder.renameNew(name, parent.folder, parent.name));
     return listed;
@@ -57,7 +59,19 @@ IconSet::IconSet(std::filesystem::path path, const LibraryServices& services)
 
 std::shared_ptr<IconSet> IconSet::initWithPath(const std::filesystem::path& path, const LibraryServices& services) {
   const std::shared_ptr<IconSet> set(new IconSet(path, services));
-  set->reload();
+  set->_icons = _iconsInDirectory(set->_path, services).value_or(Icons());
+  set->_listed = namesOf(set->_icons);
+  return set;
+}
+
+std::shared_ptr<IconSet> IconSet::initWithExistingPath(const std::filesystem::path& path,
+                                                       const LibraryServices& services) {
+  const std::shared_ptr<IconSet> set(new IconSet(path, services));
+  auto icons = _load(set->_path, services);
+  if (!icons && icons.error().kind() == ErrorKind::NotFound) return nullptr;
+  if (!icons) logMessage("library", icons.error().message());
+  set->_icons = std::move(icons).toOptional().value_or(Icons());
+  set->_listed = namesOf(set->_icons);
   return set;
 }
 
@@ -71,14 +85,15 @@ void IconSet::setPath(const std::filesystem::path& path) {
 }
 
 void IconSet::reload() {
-  _icons = _iconsInDirectory(_path, _services).value_or(Icons());
+  auto icons = _load(_path, _services);
+  if (!icons) logMessage("library", icons.error().message());
+  _icons = std::move(icons).toOptional().value_or(Icons());
   _listed = namesOf(_icons);
   _tell(Change::Icons);
 }
 
 Result<void> IconSet::setName(const std::string& name) {
-  if (auto good = names::check(name); !good || isOurOwn(name))
-    return Error::invalidInput("no name of a set: " + (good ? "it is one of our own" : good.error().why())).at(_path);
+  if (auto good = checkSetName(name); !good) return good.error().at(_path);
   if (name == this->name()) return reload(), Result<void>();
   const std::filesystem::path next = _path.parent_path() / name;
   auto renamed = renameSetFolder(_path, name);
@@ -143,7 +158,8 @@ Result<std::optional<TrashedItem>> IconSet::removeIconFileWithName(const std::st
   if (isKept && _services.trash != nullptr)
     if (auto item = _services.trash->put(folder.pathOf(name))) return item;
   if (S_ISDIR(info->st_mode)) {
-    TRY_VOID(folder.removeChild(name));
+    // Where a trash should have taken it, what lies in a folder beside its icon is not deleted for good.
+    TRY_VOID(_services.trash != nullptr ? folder.removeEmptyChild(name) : folder.removeChild(name));
   } else {
     TRY_VOID(folder.removeFile(name, true));
   }

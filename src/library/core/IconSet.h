@@ -52,6 +52,10 @@ class IconSet : public std::enable_shared_from_this<IconSet> {
   /// A set of that folder, which is made when it is missing.
   static std::shared_ptr<IconSet> initWithPath(const std::filesystem::path& path, const LibraryServices& services);
 
+  /// The same, but nothing is made: null when there is no folder (any more).
+  static std::shared_ptr<IconSet> initWithExistingPath(const std::filesystem::path& path,
+                                                       const LibraryServices& services);
+
   /// The last component of the path; raw bytes.
   [[nodiscard]] std::string name() const;
   /// Renames the folder and its entry in the library's list (one that is missing there is added), and reads the icons
@@ -68,7 +72,7 @@ class IconSet : public std::enable_shared_from_this<IconSet> {
   /// Takes the icons over and writes their names to the list. What another program has added to the list meanwhile is
   /// kept behind them. Fails when it cannot be written; the icons are taken over all the same.
   Result<void> setIcons(Icons icons);
-  /// Reads the folder again, as when the set was made.
+  /// Reads the folder again. One that has gone has no icons, and is not made again.
   void reload();
 
   /// Writes an icns file of a source into the folder, under its name or, where that is taken, a numbered one, and
@@ -76,8 +80,9 @@ class IconSet : public std::enable_shared_from_this<IconSet> {
   std::optional<IconRecord> addIconAtPath(const std::filesystem::path& path);
   /// The same, with the reason when there is none.
   Result<IconRecord> addIcon(const std::filesystem::path& path);
-  /// Takes an icon's file (or folder) out of the set's folder: to the trash, else for good. Neither icons() nor the
-  /// list change. The outcome may be ignored: one that is gone already is a success without an item.
+  /// Takes an icon's file (or folder) out of the set's folder: to the trash, else for good; but a folder that holds
+  /// something and that the trash does not take stays, with the reason. Neither icons() nor the list change. The
+  /// outcome may be ignored: one that is gone already is a success without an item.
   Result<std::optional<TrashedItem>> removeIconFileWithName(const std::string& name);
 
   /// Has the listener told of changes of the name and the icons, after them; returns its number for removeListener().
@@ -88,6 +93,8 @@ class IconSet : public std::enable_shared_from_this<IconSet> {
 
  private:
   IconSet(std::filesystem::path path, const LibraryServices& services);
+  /// _iconsInDirectory() of a folder that is there.
+  static Result<Icons> _load(const std::filesystem::path& path, const LibraryServices& services);
   void _tell(Change change);
 
   std::filesystem::path _path;

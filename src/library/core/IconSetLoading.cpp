@@ -85,20 +85,23 @@ Result<IconSet::Icons> IconSet::iconsAt(const std::filesystem::path& path, const
 
 std::optional<IconSet::Icons> IconSet::_iconsInDirectory(const std::filesystem::path& path,
                                                          const LibraryServices& services) {
-  auto folder = openSetFolder(path, Folder::Access::Read);
-  if (!folder && folder.error().kind() == ErrorKind::NotFound) {
-    if (const auto made = makeSetFolder(path); !made) return note(made.error()), std::nullopt;
-    return Icons();
-  }
-  if (!folder) return note(folder.error()), std::nullopt;
-  auto list = readList(*folder, iconListName);
+  auto icons = _load(path, services);
+  if (icons) return std::move(icons).toOptional();
+  if (icons.error().kind() != ErrorKind::NotFound) return note(icons.error()), std::nullopt;
+  if (const auto made = makeSetFolder(path); !made) return note(made.error()), std::nullopt;
+  return Icons();
+}
+
+Result<IconSet::Icons> IconSet::_load(const std::filesystem::path& path, const LibraryServices& services) {
+  const Folder folder = TRY(openSetFolder(path, Folder::Access::Read));
+  auto list = readList(folder, iconListName);
   const bool isListReadable = list.ok();
   if (!list) note(list.error());
-  Scan scan = Scanner(*folder, path, services).scan(list ? list->names : std::vector<std::string>());
+  Scan scan = Scanner(folder, path, services).scan(list ? list->names : std::vector<std::string>());
   if (!isListReadable || !scan.isWhole || says(*list, scan.names)) return std::move(scan.icons);
 
   const auto rewrite = [&]() -> Result<void> {
-    TRY_VOID(folder->checkWritable());
+    TRY_VOID(folder.checkWritable());
     Folder writable = TRY(openSetFolder(path, Folder::Access::Write));
     const ListFile now = TRY(readList(writable, iconListName));
     // Another program was faster: what it says now counts.

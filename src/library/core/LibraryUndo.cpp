@@ -2,6 +2,7 @@
 #include "library/core/LibraryUndo.h"
 
 #include <algorithm>
+#include <cerrno>
 #include <utility>
 
 #include "library/core/ListFile.h"
@@ -110,15 +111,27 @@ Result<void> LibraryUndo::removeIcons(const std::shared_ptr<IconSet>& set, const
 Result<void> LibraryUndo::renameSet(const std::shared_ptr<IconSet>& set, const std::string& name) {
   const std::string former = set->name();
   TRY_VOID(set->setName(name));
-  if (former != name) _remember(LibraryAction::RenameSet, [set, former] { return set->setName(former); });
+  if (former == name) return {};
+  _remember(LibraryAction::RenameSet, [set, former]() -> Result<void> {
+    // Nobody asks here to see what has the name meanwhile.
+    std::error_code error;
+    const std::filesystem::path back = set->path().parent_path() / former;
+    if (std::filesystem::exists(std::filesystem::symlink_status(back, error)) &&
+        !std::filesystem::equivalent(back, set->path(), error))
+      return Error::system(EEXIST, "cannot rename").at(back);
+    return set->setName(former);
+  });
   return {};
 }
 
 Result<void> LibraryUndo::removeSet(const std::shared_ptr<IconSet>& set) {
   const auto item = TRY(_library.removeSet(*set));
   _remember(LibraryAction::RemoveSet, [set, item]() -> Result<void> {
-    if (item && !set->services().trash->restore(*item))
+    const auto path = item ? set->services().trash->restore(*item) : std::nullopt;
+    if (item && !path)
       return Error(ErrorKind::NotFound, "the set cannot be brought back from the trash").at(set->path());
+    // Numbered, where its name is taken meanwhile.
+    if (path) set->setPath(*path);
     if (!item) TRY_VOID(library::makeSetFolder(set->path()));
     set->reload();
     return {};

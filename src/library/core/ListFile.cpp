@@ -9,6 +9,7 @@
 #include "foundation/base/Limits.h"
 #include "foundation/base/Text.h"
 #include "foundation/plist/PropertyList.h"
+#include "library/core/IconSet.h"
 #include "system/FolderMarks.h"
 
 namespace quorvane::library {
@@ -81,7 +82,14 @@ Result<Folder> makeSetFolder(const std::filesystem::path& path) {
 }
 
 bool isOurOwn(const std::string& name) {
-  return names::isTemporary(name) || name == markPictureFolder || name == backupIconName;
+  return names::isTemporary(name) || name == markPictureFolder || name == backupIconName || name == iconListName ||
+         name == setListName;
+}
+
+Result<void> checkSetName(const std::string& name) {
+  const auto good = names::check(name);
+  if (good && !isOurOwn(name)) return {};
+  return Error::invalidInput("no name of a set: " + (good ? "it is one of our own" : good.error().why()));
 }
 
 bool isSameInAnyCase(const std::string& a, const std::string& b) {

@@ -31,9 +31,11 @@ Result<Folder> openSetFolder(const std::filesystem::path& path, Folder::Access a
 /// A set's folder for writing, made with those above it when it is missing.
 Result<Folder> makeSetFolder(const std::filesystem::path& path);
 
-/// What a folder holds for reasons of our own, which is no icon and no set: unfinished things, and what a branded
-/// folder has in it.
+/// What a folder holds for reasons of our own, which is no icon and no set: unfinished things, lists, and what a
+/// branded folder has in it.
 bool isOurOwn(const std::string& name);
+/// Refuses what cannot be the name of a set.
+Result<void> checkSetName(const std::string& name);
 /// Whether two names differ at most in the case of their letters A to Z.
 bool isSameInAnyCase(const std::string& a, const std::string& b);
 /// Puts each name that is not there yet behind the others.

@@ -5,6 +5,7 @@
 
 #include "foundation/BaseDirectories.h"
 #include "foundation/Folder.h"
+#include "foundation/FolderNames.h"
 #include "foundation/base/Interruption.h"
 #include "library/core/IconImages.h"
 #include "library/core/IconSet.h"
@@ -18,10 +19,11 @@ constexpr const char* iconEnding = ".icns";
 constexpr const char* iconSeparator = "-";
 constexpr const char* setSeparator = " ";
 
-Result<void> fill(Folder& set, const std::vector<NewFile>& files) {
+Result<void> fill(Folder& set, const std::vector<NewFile>& files, const LibraryProgress& progress) {
   std::vector<std::string> names;
   for (const NewFile& file : files) {
-    if (isInterruptionRequested()) return Error::refused("interrupted");
+    if (isInterruptionRequested() || (progress && !progress(files.size(), files.size())))
+      return Error::refused("interrupted");
     TRY_VOID(set.writeFile(file.name, file.bytes));
     names.push_back(file.name);
   }
@@ -64,23 +66,25 @@ Result<IconRecord> addFamily(const std::filesystem::path& set, const std::string
 }
 
 Result<std::filesystem::path> makeSet(const std::filesystem::path& library, const std::string& name,
-                                      const std::vector<NewFile>& files) {
+                                      const std::vector<NewFile>& files, const LibraryProgress& progress) {
   TRY_VOID(makePrivateDirectories(library));
-  Folder folder = TRY(Folder::open(library, Folder::Access::Write));
   const std::string temporary = Folder::temporaryName();
-  const auto build = [&]() -> Result<std::filesystem::path> {
-    {
-      Folder set = TRY(folder.makeChild(temporary));
-      TRY_VOID(fill(set, files));
-    }
+  // Nobody sweeps it while it is held. The library is free meanwhile: many files take their time.
+  Folder set = TRY(TRY(Folder::open(library, Folder::Access::Write)).makeChild(temporary));
+  const auto filled = fill(set, files, progress);
+  Folder folder = TRY(Folder::open(library, Folder::Access::Write));
+  const auto take = [&]() -> Result<std::filesystem::path> {
+    if (!filled) return filled.error();
+    const std::string base = names::check(name) ? name : "New Set";
     for (int number = 0;; ++number) {
-      const std::string candidate = newName(name, setSeparator, number, "");
+      const std::string candidate = newName(base, setSeparator, number, "");
+      if (isOurOwn(candidate)) continue;
       const auto renamed = folder.renameNew(temporary, folder, candidate);
       if (renamed) return library / candidate;
       if (renamed.error().systemCode() != EEXIST) return renamed.error();
     }
   };
-  auto path = build();
+  auto path = take();
   // Cut short, it would pass for the whole.
   if (!path) (void)folder.removeChild(temporary);  // else the next opening for writing sweeps it
   return path;

@@ -58,7 +58,8 @@ struct NewFile {
 };
 
 /// Makes a set of these files, listed in their order, under NAME or "NAME 1" ... : all of it, or nothing. Its path.
+/// `progress` is asked before each file whether to go on.
 Result<std::filesystem::path> makeSet(const std::filesystem::path& library, const std::string& name,
-                                      const std::vector<NewFile>& files);
+                                      const std::vector<NewFile>& files, const LibraryProgress& progress);
 
 }  // namespace quorvane::library

@@ -9,6 +9,7 @@
 #include "foundation/FileWriting.h"
 #include "foundation/Folder.h"
 #include "foundation/base/Limits.h"
+#include "foundation/base/Log.h"
 #include "foundation/base/Text.h"
 #include "foundation/plist/PropertyList.h"
 #include "library/core/IconImages.h"
@@ -26,14 +27,21 @@ namespace {
 // What archivers on other systems put in beside the files.
 constexpr std::string_view foreignFolder = "__MACOSX";
 
+/// A name as it comes in again: not hidden, and without what other systems take for a step.
+std::string handedOn(std::string name) {
+  std::ranges::replace(name, '\\', '_');
+  if (name.starts_with('.')) name.front() = '_';
+  return name;
+}
+
 /// The file that stands for an icon in a zip file.
 Result<NewFile> fileOf(const Folder& set, const std::string& name, const LibraryServices& services) {
   const std::filesystem::path plain = name;
   if (auto bytes = set.readFile(name, limits::pictureFileBytes); bytes && *bytes)
-    return NewFile{.name = newName(plain.stem().string(), "", 0, plain.extension().string()),
+    return NewFile{.name = handedOn(newName(plain.stem().string(), "", 0, plain.extension().string())),
                    .bytes = **std::move(bytes)};
   IconFamily family = TRY(IconSet::_iconFamilyForPath(set.pathOf(name), services));
-  return NewFile{.name = newName(name, "", 0, ".icns"), .bytes = family.data()};
+  return NewFile{.name = handedOn(newName(name, "", 0, ".icns")), .bytes = family.data()};
 }
 
 /// What of a zip file becomes a set: entries of one level, and its name.
@@ -97,16 +105,25 @@ Result<std::filesystem::path> import(ByteView bytes, const std::string& fileName
   std::mutex reading;
   NewSetFiles files;
   std::optional<Error> failure;
-  const auto make = [&](std::size_t at) -> Result<NewFile> {
+  // As with a folder, one picture that cannot be read does not keep the others out; what is damaged on its way does.
+  const auto make = [&](std::size_t at) -> Result<std::optional<NewFile>> {
     const ZipEntry& entry = chosen.pictures[at];
     std::unique_lock lock(reading);
     Bytes content = TRY(zip.read(entry));
     lock.unlock();
-    return unpacked(entry, std::move(content));
+    auto file = unpacked(entry, std::move(content));
+    if (file || chosen.pictures.size() == 1) return std::optional(TRY(std::move(file)));
+    logMessage("library", file.error().message());
+    return std::optional<NewFile>();
   };
-  const auto take = [&](std::size_t at, Result<NewFile> file) {
+  const auto take = [&](std::size_t at, Result<std::optional<NewFile>> file) {
     const std::string base = std::filesystem::path(chosen.pictures[at].steps.back()).stem().string();
-    const auto added = file ? files.add(base, file->name, file->bytes) : Result<void>(file.error());
+    Result<void> added;
+    if (!file) {
+      added = file.error();
+    } else if (*file) {
+      added = files.add(base, (*file)->name, (*file)->bytes);
+    }
     if (!added) failure = added.error();
     if (added && progress && !progress(at + 1, chosen.pictures.size())) failure = Error::refused("interrupted");
     return !failure;
@@ -114,7 +131,9 @@ Result<std::filesystem::path> import(ByteView bytes, const std::string& fileName
   makeInOrder(chosen.pictures.size(), make, take);
   if (failure) return *std::move(failure);
   if (isInterruptionRequested()) return Error::refused("interrupted");
-  return makeSet(library, chosen.name, files.files());
+  if (files.files().empty() && !chosen.pictures.empty())
+    return Error::invalidInput("no picture in the zip file can be read");
+  return makeSet(library, chosen.name, files.files(), progress);
 }
 
 }  // namespace
@@ -124,7 +143,7 @@ Result<void> exportSet(const std::filesystem::path& set, const std::filesystem::
   const Folder folder = TRY(openSetFolder(set, Folder::Access::Read));
   const auto icons = IconSet::_iconsInDirectory(set, services);
   if (!icons) return Error(ErrorKind::System, "cannot read the set").at(set);
-  const std::string name = newName(folder.path().filename().string(), "", 0, "") + "/";
+  const std::string name = handedOn(newName(folder.path().filename().string(), "", 0, "")) + "/";
   ZipWriter zip;
   std::vector<std::string> names;
   std::set<std::string> taken;

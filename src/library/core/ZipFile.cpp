@@ -4,6 +4,7 @@
 #include <sys/stat.h>
 #include <zip.h>
 
+#include <algorithm>
 #include <limits>
 #include <set>
 
@@ -75,7 +76,9 @@ Result<ZipReader> ZipReader::open(ByteView bytes) {
 Result<std::vector<ZipEntry>> ZipReader::entries() const {
   const auto count = static_cast<std::uint64_t>(std::max<zip_int64_t>(zip_get_num_entries(_handle.get(), 0), 0));
   if (count > limits::libraryArchiveEntries) return Error::tooLarge("the zip file has too many entries");
-  const std::uint64_t most = freeBytes + limits::libraryArchiveRatio * _length;
+  // Several are held unpacked at a time, before it is known that they are no pictures.
+  const std::uint64_t most =
+      std::min<std::uint64_t>(freeBytes + limits::libraryArchiveRatio * _length, 2 * limits::libraryNewSetBytes);
   std::vector<ZipEntry> files;
   std::set<std::string> seen;
   std::uint64_t total = 0;

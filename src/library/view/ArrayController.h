@@ -68,14 +68,21 @@ class ArrayController : public ArrayControllerBase {
   void addObject(Object object) { insertObjectAtArrangedObjectIndex(std::move(object), count()); }
   /// The row is brought to between 0 and the end.
   void insertObjectAtArrangedObjectIndex(Object object, int row) {
-    insertAt(std::clamp(row, 0, count()), std::move(object));
-    writeBack();
+    insertObjectsAtArrangedObjectIndex({std::move(object)}, row);
   }
-  /// In their order from that row on. Inserted from the last to the first: so that one is selected.
+  /// In their order from that row on. The first of them counts as inserted last: it is the one that is selected.
   void insertObjectsAtArrangedObjectIndex(const Objects& objects, int row) {
     if (objects.empty()) return;
     row = std::clamp(row, 0, count());
-    for (auto object = objects.crbegin(); object != objects.crend(); ++object) insertAt(row, *object);
+    const int added = static_cast<int>(objects.size());
+    change(
+        &ArrayControllerBase::rowsWillBeInserted, &ArrayControllerBase::rowsInserted,
+        [&] { _objects.insert(_objects.begin() + row, objects.begin(), objects.end()); }, row, row + added - 1);
+    IndexSet shifted;
+    for (const int selected : _selection) shifted.add(selected < row ? selected : selected + added);
+    const bool isOther = shifted != _selection;
+    _selection = shifted;
+    _settleSelection(_selectsInsertedObjects ? IndexSet::indexSetWithIndex(row) : shifted, isOther);
     writeBack();
   }
   virtual void removeObjectAtArrangedObjectIndex(int row) {
@@ -122,17 +129,6 @@ class ArrayController : public ArrayControllerBase {
     what();
     Q_EMIT(this->*end)();
     --_changing;
-  }
-
-  void insertAt(int row, Object object) {
-    change(
-        &ArrayControllerBase::rowsWillBeInserted, &ArrayControllerBase::rowsInserted,
-        [&] { _objects.insert(_objects.begin() + row, std::move(object)); }, row, row);
-    IndexSet shifted;
-    for (const int selected : _selection) shifted.add(selected < row ? selected : selected + 1);
-    const bool isOther = shifted != _selection;
-    _selection = shifted;
-    _settleSelection(_selectsInsertedObjects ? IndexSet::indexSetWithIndex(row) : shifted, isOther);
   }
 
   void removeRows(const IndexSet& rows) {

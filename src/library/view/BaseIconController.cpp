@@ -6,6 +6,7 @@
 #include <QPointer>
 #include <algorithm>
 
+#include "library/core/IconImages.h"
 #include "library/view/LibraryTableView.h"
 #include "library/view/RowsPasteboard.h"
 
@@ -27,6 +28,11 @@ BaseIconController::BaseIconController(LibraryPlaces places, const LibraryServic
   _builtinIconSetArrayController.setAvoidsEmptySelection(true);
   _customIconSetArrayController.setAvoidsEmptySelection(true);
   _undo.changed = [this] { Q_EMIT historyChanged(); };
+  connect(&_customIconSetArrayController, &ArrayControllerBase::contentChanged, this, [this] {
+    std::erase_if(_handles, [](const auto& each) { return each.expired(); });
+    for (const auto& set : _customIconSetArrayController.arrangedObjects())
+      if (std::ranges::none_of(_handles, [&](const auto& each) { return each.lock() == set; })) _handles.push_back(set);
+  });
   connect(&_adder, &IconAdder::failed, this, &BaseIconController::failed);
   connect(&_customIconSetArrayController, &IconSetArrayController::failed, this, &BaseIconController::failed);
   connect(&_customIconArrayController, &IconArrayController::failed, this, &BaseIconController::failed);
@@ -87,13 +93,15 @@ BaseIconController::IconSets BaseIconController::builtinIconSets() const {
 
 BaseIconController::IconSets BaseIconController::customIconSets() const {
   IconSets sets = _library.customIconSets();
-  // Whoever holds a set, the history for one, goes on with the one that is shown.
+  // Whoever holds a set, the history for one, goes on with the same one, be it shown or not.
   for (auto& set : sets) {
-    const auto& shown = _customIconSetArrayController.arrangedObjects();
-    const auto same = std::ranges::find_if(shown, [&](const auto& each) { return each->path() == set->path(); });
-    if (same == shown.end()) continue;
-    (*same)->reload();
-    set = *same;
+    for (auto each = _handles.rbegin(); each != _handles.rend(); ++each) {
+      const auto known = each->lock();
+      if (!known || known->path() != set->path()) continue;
+      known->reload();
+      set = known;
+      break;
+    }
   }
   return sets;
 }
@@ -132,7 +140,7 @@ void BaseIconController::tableViewSelectionDidChange(LibraryTableView& table) {
     return;
   }
   other->clearSelection();
-  Q_EMIT baseIconChosen(chosen ? std::optional(chosen->image) : std::nullopt, chosen ? chosen->path : Path());
+  Q_EMIT baseIconChosen(chosen ? std::optional(_lastingImage(*chosen)) : std::nullopt, chosen ? chosen->path : Path());
 }
 
 double BaseIconController::splitViewConstrainSplitPosition(double proposed, int /*divider*/) {
@@ -178,7 +186,12 @@ void BaseIconController::select(const std::shared_ptr<IconSet>& set, const std::
 void BaseIconController::choose(const IconRecord& icon) {
   _builtinTableView->clearSelection();
   _customTableView->clearSelection();
-  Q_EMIT baseIconChosen(icon.image, icon.path);
+  Q_EMIT baseIconChosen(_lastingImage(icon), icon.path);
+}
+
+Image BaseIconController::_lastingImage(const IconRecord& icon) {
+  if (!_lasting || !(_lasting->first == icon)) _lasting.emplace(icon, library::lastingImage(icon));
+  return _lasting->second;
 }
 
 void BaseIconController::undo() {

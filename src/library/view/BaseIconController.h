@@ -118,6 +118,8 @@ class BaseIconController : public QObject, public TableDropDelegate {
  private:
   void _readSets(const Path& selected = {});
   [[nodiscard]] std::shared_ptr<IconSet> _targetSet() const;
+  /// For the canvas, which may need it after the icon's file is gone. The same again for the same icon.
+  [[nodiscard]] Image _lastingImage(const IconRecord& icon);
 
   LibraryPrompts _prompts;
   SelectionStore _selections;
@@ -132,6 +134,8 @@ class BaseIconController : public QObject, public TableDropDelegate {
   LibraryTableView* _builtinTableView = nullptr;
   LibraryTableView* _customTableView = nullptr;
   QList<int> _rowsToRemove;
+  std::optional<std::pair<IconRecord, Image>> _lasting;
+  std::vector<std::weak_ptr<IconSet>> _handles;  ///< all sets that were ever shown and that somebody still holds
 };
 
 }  // namespace quorvane

@@ -12,16 +12,16 @@ IconAdder::IconAdder(const LibraryServices& services, WorkQueue::Mode mode, QObj
 
 IconAdder::~IconAdder() {
   // What is half done stays: the next look into the folder finds it.
-  _isCancelled = true;
+  _cancelled = _lastJob;
   _isEnding = true;
 }
 
 void IconAdder::_enqueue(const QString& words, std::function<WorkQueue::Delivery(const LibraryProgress&)> job) {
-  if (_queued++ == 0) _isCancelled = false;
+  ++_queued;
   Q_EMIT progressed(words, 0, 0);
   // The thread ends before this object does.
-  const LibraryProgress progress = [this, words](std::size_t done, std::size_t total) {
-    if (_isCancelled) return false;
+  const LibraryProgress progress = [this, words, number = ++_lastJob](std::size_t done, std::size_t total) {
+    if (number <= _cancelled) return false;
     const auto tell = [this, words, done, total] {
       if (isBusy()) Q_EMIT progressed(words, static_cast<int>(done), static_cast<int>(total));
     };
@@ -51,7 +51,7 @@ void IconAdder::release() {
 }
 
 void IconAdder::cancel() {
-  if (isBusy()) _isCancelled = true;
+  _cancelled = _lastJob;
 }
 
 void IconAdder::addIcons(std::vector<Path> files, const std::shared_ptr<IconSet>& set,

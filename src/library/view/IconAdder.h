@@ -57,7 +57,8 @@ class IconAdder : public QObject {
   void _deliver(const WorkQueue::Delivery& delivery);
 
   LibraryServices _services;
-  std::atomic<bool> _isCancelled = false;
+  int _lastJob = 0;
+  std::atomic<int> _cancelled = 0;  ///< no job up to this one goes on
   bool _isEnding = false;
   int _queued = 0;
   bool _isHeld = false;

@@ -2,6 +2,8 @@
 #include "library/view/IconArrayController.h"
 
 #include <QPointer>
+#include <algorithm>
+#include <map>
 
 #include "library/core/LibraryUndo.h"
 #include "library/view/IconAdder.h"
@@ -81,9 +83,25 @@ void IconArrayController::addFiles(const std::vector<std::filesystem::path>& fil
 }
 
 void IconArrayController::_insert(std::vector<IconRecord> records, const std::shared_ptr<IconSet>& set, int row) {
-  if (records.empty()) return;
+  // The set may have been renamed meanwhile, or read anew, and have found some of them by itself.
+  Objects here;
   std::vector<std::string> names;
-  for (const IconRecord& record : records) names.push_back(record.name);
+  for (const IconRecord& record : records) {
+    auto found = record.path.parent_path() == set->path()
+                     ? std::optional(record)
+                     : IconSet::_iconForPath(set->path() / record.name, set->services());
+    if (!found) continue;
+    names.push_back(record.name);
+    here.push_back(*std::move(found));
+  }
+  records = std::move(here);
+  if (records.empty()) return;
+  const auto isNew = [&](const IconRecord& icon) { return std::ranges::find(names, icon.name) != names.end(); };
+  IconSet::Icons others = set->icons();
+  if (row >= 0)
+    row -= static_cast<int>(
+        std::count_if(others.begin(), others.begin() + std::min(row, static_cast<int>(others.size())), isNew));
+  if (std::erase_if(others, isNew) > 0) static_cast<void>(set->setIcons(std::move(others)).ok());
   // Inserted one after the other at one row they stand reversed; that is meant.
   if (row >= 0) std::ranges::reverse(records);
   if (set == iconSet()) {
@@ -106,12 +124,10 @@ void IconArrayController::remove() {
       n == 1 ? tr("Are you sure you want to delete the selected icon?")
              : filled(tr("Are you sure you want to delete the %d selected icons?"), {QString::number(n)});
   const QPointer<IconArrayController> self(this);
+  // What has been added when the answer comes is selected then, and was not asked about.
+  const Objects meant = selectedObjects();
   if (_prompts->prompt(title, tr("You cannot undo this action."), tr("Delete"), tr("Cancel")) != 1 || !self) return;
-  const IndexSet rows = selectionIndexes();
-  std::vector<std::filesystem::path> paths;
-  for (const IconRecord& record : selectedObjects()) paths.push_back(record.path);
-  _removeFilesAtPaths(paths);
-  ArrayController::removeObjectsAtArrangedObjectIndexes(rows);
+  removeObjectsAtArrangedObjectIndexes(indexesOf(meant));
 }
 
 void IconArrayController::removeObjectsAtArrangedObjectIndexes(const IndexSet& indexes) {
@@ -124,10 +140,16 @@ void IconArrayController::removeObjectsAtArrangedObjectIndexes(const IndexSet& i
 void IconArrayController::_removeFilesAtPaths(const std::vector<std::filesystem::path>& paths) {
   const auto set = iconSet();
   if (!set || paths.empty()) return;
-  std::vector<std::string> names;
-  for (const auto& path : paths) names.push_back(path.filename().string());
-  // Nothing is said about failures, as a file that is gone already is one.
-  static_cast<void>(_undo->removeIcons(set, names, false).ok());
+  // After a renaming that failed a set shows the icons of another one.
+  std::map<std::filesystem::path, std::vector<std::string>> names;
+  for (const auto& path : paths) names[path.parent_path()].push_back(path.filename().string());
+  for (const auto& [folder, icons] : names) {
+    auto owner = set->path() == folder ? set : nullptr;
+    for (const auto& each : _iconSetArrayController.arrangedObjects())
+      if (!owner && each->path() == folder) owner = each;
+    // Nothing is said about failures, as a file that is gone already is one.
+    if (owner) static_cast<void>(_undo->removeIcons(owner, icons, owner != set).ok());
+  }
 }
 
 void IconArrayController::reorder(const IndexSet& indexes, int toIndex) {

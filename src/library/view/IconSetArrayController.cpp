@@ -65,7 +65,14 @@ std::filesystem::path IconSetArrayController::customIconsPath() const {
 std::filesystem::path IconSetArrayController::pathToNewSet() const {
   std::vector<std::string> names;
   for (const auto& set : arrangedObjects()) names.push_back(set->name());
-  return _library->pathToNewSet(names);
+  // Folders on the disk are not looked for, but where something else stands no set can be made.
+  for (;;) {
+    std::filesystem::path path = _library->pathToNewSet(names);
+    std::error_code ignored;
+    const auto there = std::filesystem::symlink_status(path, ignored);
+    if (!std::filesystem::exists(there) || std::filesystem::is_directory(there)) return path;
+    names.push_back(path.filename().string());
+  }
 }
 
 void IconSetArrayController::add() {
@@ -87,6 +94,8 @@ void IconSetArrayController::editNewlyInsertedRow() {
 
 bool IconSetArrayController::setName(int row, const QString& name) {
   const auto set = objectAt(row);
+  // A name may not be what its text says: what was not edited stays as it is.
+  if (name == QFile::decodeName(set->name().c_str())) return false;
   const std::string wanted = QFile::encodeName(name.trimmed()).toStdString();
   if (wanted.empty() || wanted == set->name()) return false;
   if (const auto renamed = _undo->renameSet(set, wanted); !renamed)
@@ -141,7 +150,8 @@ Qt::DropAction IconSetArrayController::tableViewValidateDrop(LibraryTableView& /
     const bool isOnOther = proposed.operation == TableDrop::Operation::On && proposed.row != selectionIndex();
     return isOnOther ? Qt::MoveAction : Qt::IgnoreAction;
   }
-  if (!tableViewRefusal(*_tableView, dragged).isEmpty()) return Qt::IgnoreAction;
+  // Rows of another process, or of none, are nothing here.
+  if (dragged.hasFormat(rowsPboardType) || !tableViewRefusal(*_tableView, dragged).isEmpty()) return Qt::IgnoreAction;
   proposed = {count(), TableDrop::Operation::Above};
   return Qt::CopyAction;
 }

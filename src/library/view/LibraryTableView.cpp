@@ -80,7 +80,12 @@ void LibraryTableView::_showControllersSelection() {
   if (!model() || _controller->isChanging()) return;
   const IndexSet& wanted = _controller->selectionIndexes();
   QItemSelection selection;
-  for (const int row : wanted) selection.select(model()->index(row, 0), model()->index(row, 0));
+  for (auto row = wanted.begin(); row != wanted.end();) {
+    const int first = *row;
+    int last = first;
+    while (++row != wanted.end() && *row == last + 1) ++last;
+    selection.append(QItemSelectionRange(model()->index(first, 0), model()->index(last, 0)));
+  }
   _isShowingSelection = true;
   selectionModel()->select(selection, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
   const bool isElsewhere = !wanted.isEmpty() && !wanted.contains(currentIndex().row());
