@@ -13,7 +13,9 @@
 #include <utility>
 
 #include "app/LayoutPieces.h"
+#include "foundation/plist/PropertyList.h"
 #include "imaging/ImagingLibraries.h"
+#include "library/core/ZipFile.h"
 #include "system/SystemLibraries.h"
 #include "ui/Tag.h"
 #include "ui/WindowResources.h"
@@ -111,6 +113,8 @@ QVBoxLayout* beginCard(QVBoxLayout& rows, const QString& caption) {
 std::vector<LibraryNotice> linkedLibraries() {
   std::vector<LibraryNotice> all = imagingLibraries();
   for (LibraryNotice& library : systemLibraries()) all.push_back(std::move(library));
+  all.push_back(plist::xmlLibrary());
+  all.push_back(library::zipLibrary());
   all.push_back({.name = "Qt", .version = qVersion(), .licence = "LGPL-3.0-only"});
   std::ranges::sort(all, [](const LibraryNotice& one, const LibraryNotice& other) {
     return QString::fromStdString(one.name).compare(QString::fromStdString(other.name), Qt::CaseInsensitive) < 0;
