@@ -4,6 +4,7 @@
 #include <QAccessible>
 
 #include "ui/Motion.h"
+#include "ui/Texts.h"
 
 namespace quorvane {
 
@@ -38,7 +39,7 @@ void NoticeLabel::notice(const QString& words) {
   _fade.stop();
   _opacity->setEnabled(false);
   setText(words);
-  setToolTip(words);
+  setToolTip(plainToolTip(words));
   // The name is all that assistive tools read out of a label.
   setAccessibleName(words);
   _stay.start(5000 + static_cast<int>(words.size()) * 30);

@@ -17,6 +17,7 @@
 #include "library/view/LibraryTexts.h"
 #include "library/view/Thumbnails.h"
 #include "ui/ElidedLabel.h"
+#include "ui/Texts.h"
 
 namespace quorvane {
 
@@ -69,6 +70,7 @@ QVariant setValue(const IconSetArrayController& sets, int row, int role) {
     case DetailRole:
       return QLocale().toString(icons);
     case Qt::ToolTipRole:
+      return plainToolTip(setValue(sets, row, Qt::AccessibleTextRole).toString());
     case Qt::AccessibleTextRole:
       return LibraryPage::tr("%1, %2").arg(IconSetArrayController::shownName(set), iconCount(icons));
     default:
@@ -82,7 +84,7 @@ QVariant iconValue(const IconArrayController& icons, int row, int role) {
     case Qt::DisplayRole:
       return shownIconName(icon);
     case Qt::ToolTipRole:
-      return visibleText(QFile::decodeName(icon.name.c_str()));
+      return plainToolTip(visibleText(QFile::decodeName(icon.name.c_str())));
     case IconRecordRole:
       return QVariant::fromValue(icon);
     default:

@@ -9,6 +9,7 @@
 #include "library/view/LibraryDelegates.h"
 #include "library/view/LibraryTexts.h"
 #include "library/view/Thumbnails.h"
+#include "ui/Texts.h"
 
 namespace quorvane {
 
@@ -46,6 +47,7 @@ QVariant LibraryFinds::data(const QModelIndex& index, int role) const {
     case DetailRole:
       return set;
     case Qt::ToolTipRole:
+      return plainToolTip(data(index, Qt::AccessibleTextRole).toString());
     case Qt::AccessibleTextRole:
       return (find.isBuiltin ? tr("%1, built-in, in %2") : tr("%1, in %2")).arg(shownIconName(find.icon), set);
     case IconRecordRole:
