@@ -103,7 +103,11 @@ void Sheet::begin() {
   _host.installEventFilter(this);
   _frame->installEventFilter(this);
   _content->installEventFilter(this);
-  connect(_content, &QObject::destroyed, this, [this] { Q_EMIT answered(-1); });
+  connect(_content, &QObject::destroyed, this, [this] {
+    // Pointers to a widget that is being deleted are not null yet.
+    _content.clear();
+    Q_EMIT answered(-1);
+  });
   if (auto* dialog = qobject_cast<QDialog*>(_content.data()))
     connect(dialog, &QDialog::finished, this, &Sheet::answered);
 
