@@ -80,6 +80,8 @@ void AppController::_connectMenu() {
     _mainMenu->validate([this](MenuCommand command) { return validateMenuItem(command); });
   };
   connect(_mainMenu, &MainMenu::opening, this, validate);
+  // Keys reach what is enabled only, and for the clipboard that depends on the focus.
+  connect(qApp, &QApplication::focusChanged, this, validate);
   connect(this, &AppController::stateChanged, _mainMenu, [this, validate] {
     validate();
     _mainMenu->setUndoTexts(_undoesLibrary() ? _baseIconController->undoText() : _history->undoText(),
@@ -126,9 +128,14 @@ bool AppController::validateMenuItem(MenuCommand command) const {
     case MenuCommand::Looks:
       return _services.looks != nullptr;
     case MenuCommand::Cut:
+      return isTextField(QApplication::focusWidget());
+    case MenuCommand::Copy:
+      // The picture on the canvas, when it is no text and no icons of the library.
+      if (_path) return true;
+      [[fallthrough]];
     case MenuCommand::Paste:
     case MenuCommand::SelectAll:
-      return isTextField(QApplication::focusWidget());
+      return isTextField(QApplication::focusWidget()) || _baseColumn->library()->hasListFocus();
     case MenuCommand::OpenRecent:
       return !_isWriting() && _services.recentFolders;
     case MenuCommand::Open:
