@@ -104,6 +104,12 @@ TEST_F(AppcastUpdaterTest, OffersANewerVersionAndDoesWhatIsAnswered) {
   const std::vector<QUrl> opened = {QUrl(u"https://xn--e1awd7f.test/two"_s), QUrl(u"https://home.test/"_s),
                                     QUrl(u"https://home.test/"_s)};
   EXPECT_EQ(opener.opened, opened);
+  EXPECT_TRUE(view.told.isEmpty());
+  opener.answer = false;
+  updater.checkForUpdates();
+  answer(feed("2", page));
+  EXPECT_EQ(view.told.size(), 1);
+  EXPECT_TRUE(view.told.takeFirst().contains(u"https://xn--e1awd7f.test/two"_s));
 
   // A skipped one is told of to those who ask only; the next one to all.
   view.answer = UpdateAnswer::Skip;
