@@ -46,8 +46,10 @@ namespace quorvane {
 
 namespace {
 
-/// The controller waits for less. After that what hangs does not come back.
+/// The controller waits for less, for what must be written. After that what hangs does not come back.
 constexpr std::chrono::seconds patienceAtEnd{40};
+/// For all else that is being done.
+constexpr std::chrono::seconds patienceForTheRest{10};
 
 /// What touches folders, as on the command line.
 struct FolderServices {
@@ -61,12 +63,20 @@ struct FolderServices {
       .forks = forks, .kinds = *kinds, .notices = notices, .families = &families, .marks = marks.get()};
 };
 
-/// The user's settings; kept for this run only when there is no place for them.
+/// Settings for which there is no place: they last as long as the run, and whoever asks is told.
+class UnkeptSettings : public MemorySettings {
+ public:
+  explicit UnkeptSettings(Error why) : _why(std::move(why)) {}
+  Result<void> settle() override { return _why; }
+
+ private:
+  Error _why;
+};
+
 std::unique_ptr<SettingsStorage> openSettings() {
   auto path = SettingsFile::usualPath();
   if (path) return std::make_unique<SettingsFile>(*path);
-  logMessage("window", path.error().message());
-  return std::make_unique<MemorySettings>();
+  return std::make_unique<UnkeptSettings>(path.error());
 }
 
 }  // namespace
@@ -199,6 +209,7 @@ int runApplication(int argc, char** argv) {
   instance.reset();
   endAtTheLatest(patienceAtEnd, code);
   controller->applicationWillTerminate();
+  endAtTheLatest(patienceForTheRest, code);
   return code;
 }
 

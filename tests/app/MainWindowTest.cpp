@@ -246,6 +246,8 @@ TEST(MainWindowTest, TheClipboardsItemsFollowTheFocus) {
   EXPECT_TRUE(QTest::qWaitFor([&] { return test.ui()._customTableView->model()->rowCount() == 1; }));
   test.controller->applicationOpenFile(test.folder);
   EXPECT_EQ(enabled(), "xcva");
+  test.window.menuBar()->setFocus(Qt::MenuBarFocusReason);
+  EXPECT_EQ(enabled(), "xcva") << "going through the menus by keys";
   test.ui()._openBtn->setFocus();
   EXPECT_EQ(enabled(), "c");
 }
