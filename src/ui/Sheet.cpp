@@ -97,6 +97,8 @@ void Sheet::begin() {
   }
   _formerFocus = _host.focusWidget();
   _up = true;
+  // Changing its parent makes the content forget which control is to have the focus first.
+  if (QWidget* first = _content->focusWidget(); first && _kind == Kind::Dialog) rememberFocus(*first);
   _content->setParent(_frame, Qt::Widget);
   _frame->layout()->addWidget(_content);
   _content->show();

@@ -217,6 +217,7 @@ TEST(SheetUpdateView, ShowsSheetsAndTakesNoAnswerForLater) {
       .version = u"2"_s, .runningVersion = u"1"_s, .published = {}, .news = u"<b>bold</b>"_s, .pageHost = u"a.test"_s};
   const std::pair<std::function<void()>, UpdateAnswer> rows[] = {
       {[&] { press(u"Open Download Page"_s); }, UpdateAnswer::OpenPage},
+      {[&] { QTest::keyClick(window.focusWidget(), Qt::Key_Return); }, UpdateAnswer::OpenPage},
       {[&] { press(u"Later"_s); }, UpdateAnswer::Later},
       {[&] { press(u"Skip This Version"_s); }, UpdateAnswer::Skip},
       {[&] { window.cancelSheets(); }, UpdateAnswer::Later},
