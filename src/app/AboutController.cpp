@@ -68,7 +68,7 @@ QLayout* makeHead() {
 QScrollArea* makeLibraryList() {
   auto* list = new QWidget;
   auto* grid = new QGridLayout(list);
-  grid->setContentsMargins(0, 0, 8, 0);
+  grid->setContentsMargins(4, 2, 8, 2);
   grid->setHorizontalSpacing(24);
   grid->setVerticalSpacing(6);
   grid->setColumnStretch(2, 1);
@@ -87,7 +87,8 @@ QScrollArea* makeLibraryList() {
   auto* scroll = new QScrollArea;
   scroll->setWidget(list);
   scroll->setWidgetResizable(true);
-  scroll->setFrameShape(QFrame::NoFrame);
+  // Scrolled by keys: the theme shows where they go.
+  scroll->setProperty("ringed", true);
   scroll->setFocusPolicy(Qt::StrongFocus);
   scroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   scroll->viewport()->setAutoFillBackground(false);
