@@ -108,6 +108,7 @@ TEST_F(PreferenceTest, CancelEscapeAndClosingStoreNothing) {
     test.panels.colorPanel().setColor(Qt::black);
     Q_EMIT test.panels.colorPanel().colorChanged(Qt::black);
     settings::setValue(test.defaults, settings::lastUsedColor, Qt::black);
+    static_cast<void>(test.defaults.synchronize());
     test.storage.values = before;
     test.defaults.refresh();
     whileOpen([&] {
