@@ -2,6 +2,8 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
 """check_layers.py ROOT: holds the includes of src/ against the table of who may know whom.
 
+A source with a header of its name includes that first, so that the header is known to compile alone.
+
 Exit 1 with one line per offending include. The same table stands in docs/architecture.md, which is checked too."""
 import os
 import re
@@ -72,6 +74,7 @@ def main(root):
                 faults.append(f"src/{path}: belongs to no module of the table")
                 continue
             _own_folder, allowed, qt_allowed, widgets_allowed = MODULES[module]
+            own_header = path[:-4] + ".h" if name.endswith(".cpp") and name[:-4] + ".h" in files else None
             with open(os.path.join(folder, name), encoding="utf-8") as text:
                 for number, line in enumerate(text, 1):
                     found = re.match(r'\s*#\s*include\s*([<"])([^>"]+)[>"]', line)
@@ -79,6 +82,9 @@ def main(root):
                         continue
                     count += 1
                     quoted, header = found.group(1) == '"', found.group(2)
+                    if own_header and header != own_header:
+                        faults.append(f"src/{path}:{number}: its own header comes first")
+                    own_header = None
                     if quoted:
                         other = module_of(header)
                         if other is None:

@@ -114,7 +114,7 @@ int runApplication(int argc, char** argv) {
   DesktopAppearance appearance;
   appearance.start();
   Theme theme(&appearance);
-  theme.apply();
+  theme.prepare();
   const CaretRest caretRest;
 
   const auto storage = openSettings();
@@ -173,6 +173,7 @@ int runApplication(int argc, char** argv) {
                            .feedFolder = QStringLiteral(QUORVANE_PRODUCT_FOLDER),
                            .makeUpdater = updaterFactory(window, defaults, opener)});
   controller->setOutlets(layOutMainWindow(window, panels, *library));
+  theme.apply();
   window.setOutlets(controller->outlets()._folderView, controller.get());
   // Not quit(): that would ask every window once more.
   QObject::connect(

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/ApplicationIcon.h"
 
+#include <QBuffer>
+#include <QImageReader>
 #include <QPixmap>
 
 #include "ui/WindowResources.h"
@@ -13,9 +15,12 @@ QIcon applicationIcon(const QString& themeName) {
   if (!themed.availableSizes().isEmpty()) return themed;
   QIcon own;
   for (const int side : {16, 32, 48, 128}) {
-    QPixmap picture;
-    picture.loadFromData(windowResource(QStringLiteral("application/%1.png").arg(side)), "PNG");
-    own.addPixmap(picture);
+    QByteArray bytes = windowResource(QStringLiteral("application/%1.png").arg(side));
+    QBuffer buffer(&bytes);
+    QImageReader reader(&buffer, "png");
+    // Else every plug-in for pictures is loaded and asked first, a twentieth of the program's start.
+    reader.setAutoDetectImageFormat(false);
+    own.addPixmap(QPixmap::fromImage(reader.read()));
   }
   return own;
 }

@@ -185,17 +185,26 @@ void Theme::setScheme(Scheme scheme) {
   if (_applied) apply();
 }
 
+void Theme::prepare() {
+  _setPalette();
+}
+
 void Theme::apply() {
-  if (!_applied) QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
   _applied = true;
   // The arrows that the style sheet names are embedded.
   windowResource({});
+  qApp->setStyleSheet(styleSheet(_setPalette()));
+  Q_EMIT changed();
+}
+
+QPalette Theme::_setPalette() {
+  if (!_prepared) QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+  _prepared = true;
   const QPalette colors = palette(isDark(), _appearance ? _appearance->accent() : std::nullopt,
                                   _appearance && _appearance->prefersHighContrast());
   setMotionReduced(_appearance && _appearance->prefersReducedMotion());
   QApplication::setPalette(colors);
-  qApp->setStyleSheet(styleSheet(colors));
-  Q_EMIT changed();
+  return colors;
 }
 
 QPalette Theme::palette(bool isDark, const std::optional<QColor>& accent, bool highContrast) {

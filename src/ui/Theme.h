@@ -32,6 +32,9 @@ class Theme : public QObject {
   /// The appearance is not owned and must live as long; null: only the palette that the application came with counts.
   explicit Theme(DesktopAppearance* appearance, QObject* parent = nullptr);
 
+  /// Sets style and palette, and no style sheet yet: as long as there is one, a whole branch of widgets is styled anew
+  /// whenever it gets a parent, which is half of what building a window costs. apply() follows when it is built.
+  void prepare();
   /// Sets style, palette and style sheet of the application, now and at each change.
   void apply();
   void setScheme(Scheme scheme);
@@ -47,9 +50,12 @@ class Theme : public QObject {
   void changed();
 
  private:
+  QPalette _setPalette();
+
   DesktopAppearance* _appearance;
   Scheme _scheme = Scheme::FollowDesktop;
   bool _cameDark;
+  bool _prepared = false;
   bool _applied = false;
 };
 

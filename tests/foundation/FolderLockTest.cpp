@@ -98,16 +98,22 @@ TEST(FolderLock, AKilledWriterLeavesTheOldOrTheNewFileAndTheNextOneSweeps) {
   TemporaryFolder root;
   std::mt19937 random(7);
   std::uniform_int_distribution<int> delay(0, 4000);
+  void* const shared = ::mmap(nullptr, sizeof(int), PROT_READ | PROT_WRITE, MAP_SHARED | MAP_ANONYMOUS, -1, 0);
+  std::atomic<int>& begun = *new (shared) std::atomic<int>(0);
   int leftovers = 0;
-  for (int round = 0; round < 100; ++round) {
+  // A machine under load meets fewer writers at work: it goes on until enough of them were.
+  for (int round = 0; round < 100 || (leftovers <= 10 && round < 3000); ++round) {
+    begun = 0;
     const pid_t child = test::startChild([&] {
       Folder folder = Folder::open(root.path(), Access::Write).value();
+      begun = 1;
       for (std::uint8_t value = 0;; ++value) {
         static_cast<void>(folder.writeFile("f", Bytes(300'000, value)));
         if (auto made = folder.makeChild(Folder::temporaryName()); made.ok())
           static_cast<void>(made->writeFile("inside", Bytes(100, value)));
       }
     });
+    for (int waits = 0; begun == 0 && waits < 5000; ++waits) std::this_thread::sleep_for(1ms);
     std::this_thread::sleep_for(std::chrono::microseconds(delay(random)));
     ::kill(child, SIGKILL);
     ::waitpid(child, nullptr, 0);
@@ -117,6 +123,7 @@ TEST(FolderLock, AKilledWriterLeavesTheOldOrTheNewFileAndTheNextOneSweeps) {
     EXPECT_TRUE(!content->has_value() || isWhole(**content, 300'000)) << "round " << round;
     EXPECT_LE(folder.names()->size(), 1U) << "round " << round;
   }
+  ::munmap(shared, sizeof(int));
   EXPECT_GT(leftovers, 10) << "the loop must meet writers at work";
 }
 

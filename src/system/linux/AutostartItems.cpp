@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// GLib before Qt: its headers use names that Qt's macros take.
+#include "system/linux/AutostartItems.h"
+
 #include <glib.h>
 
 #include <algorithm>
@@ -12,7 +13,6 @@
 #include "foundation/base/Limits.h"
 #include "foundation/base/Text.h"
 #include "system/ScriptText.h"
-#include "system/linux/AutostartItems.h"
 
 namespace quorvane {
 
