@@ -1250,6 +1250,18 @@ Vielen Dank!</translation>
         <source>Open a folder: the label is drawn on this picture then.</source>
         <translation>Öffnen Sie einen Ordner: Die Beschriftung wird dann auf dieses Bild gezeichnet.</translation>
     </message>
+    <message>
+        <source>No program was found that opens web pages.</source>
+        <translation>Es wurde kein Programm gefunden, das Webseiten öffnet.</translation>
+    </message>
+    <message>
+        <source>No program was found that writes mail.</source>
+        <translation>Es wurde kein E-Mail-Programm gefunden.</translation>
+    </message>
+    <message>
+        <source>The settings cannot be kept: %1</source>
+        <translation>Die Einstellungen können nicht gespeichert werden: %1</translation>
+    </message>
 </context>
 <context>
     <name>quorvane::AppcastUpdater</name>
@@ -1309,32 +1321,20 @@ Vielen Dank!</translation>
         <source>Quorvane %1 is the newest version there is.</source>
         <translation>Quorvane %1 ist die neueste Version.</translation>
     </message>
+    <message>
+        <source>Could Not Open the Page</source>
+        <translation>Seite konnte nicht geöffnet werden</translation>
+    </message>
+    <message>
+        <source>No program was found that opens web pages.</source>
+        <translation>Es wurde kein Programm gefunden, das Webseiten öffnet.</translation>
+    </message>
 </context>
 <context>
     <name>quorvane::BaseColumn</name>
     <message>
         <source>Choose Pict&amp;ure…</source>
         <translation>Bi&amp;ld wählen…</translation>
-    </message>
-    <message>
-        <source>Use Fol&amp;der’s Icon</source>
-        <translation>Ordnersymbol &amp;verwenden</translation>
-    </message>
-    <message>
-        <source>Built-in Icons</source>
-        <translation>Mitgelieferte Symbole</translation>
-    </message>
-    <message>
-        <source>My Icons</source>
-        <translation>Meine Symbole</translation>
-    </message>
-    <message>
-        <source>&amp;Built-in Icons</source>
-        <translation>Mitgelie&amp;ferte Symbole</translation>
-    </message>
-    <message>
-        <source>My &amp;Icons</source>
-        <translation>Meine S&amp;ymbole</translation>
     </message>
     <message>
         <source>Base Picture</source>
@@ -1756,7 +1756,7 @@ Vielen Dank!</translation>
         <translation>&amp;Neue Sammlung</translation>
     </message>
     <message>
-        <source>Re&amp;name Set</source>
+        <source>Rena&amp;me Set</source>
         <translation>Sammlung &amp;umbenennen</translation>
     </message>
     <message>
@@ -2002,7 +2002,7 @@ Vielen Dank!</translation>
         <translation>&amp;Neue Sammlung</translation>
     </message>
     <message>
-        <source>Re&amp;name Set</source>
+        <source>Rena&amp;me Set</source>
         <translation>Sammlung &amp;umbenennen</translation>
     </message>
     <message>
@@ -2062,10 +2062,6 @@ Vielen Dank!</translation>
 </context>
 <context>
     <name>quorvane::OverlayGroup</name>
-    <message>
-        <source>Choose Overlay…</source>
-        <translation>Abzeichen wählen…</translation>
-    </message>
     <message>
         <source>Automatic</source>
         <translation>Automatisch</translation>

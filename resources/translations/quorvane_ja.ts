@@ -1249,6 +1249,18 @@ Thank you!</source>
         <source>Open a folder: the label is drawn on this picture then.</source>
         <translation>フォルダーを開くと、この画像の上にラベルが描かれます。</translation>
     </message>
+    <message>
+        <source>No program was found that opens web pages.</source>
+        <translation>ウェブページを開くプログラムが見つかりません。</translation>
+    </message>
+    <message>
+        <source>No program was found that writes mail.</source>
+        <translation>メールを書くプログラムが見つかりません。</translation>
+    </message>
+    <message>
+        <source>The settings cannot be kept: %1</source>
+        <translation>設定を保存できません: %1</translation>
+    </message>
 </context>
 <context>
     <name>quorvane::AppcastUpdater</name>
@@ -1308,32 +1320,20 @@ Thank you!</source>
         <source>Quorvane %1 is the newest version there is.</source>
         <translation>Quorvane %1 は最新バージョンです。</translation>
     </message>
+    <message>
+        <source>Could Not Open the Page</source>
+        <translation>ページを開けませんでした</translation>
+    </message>
+    <message>
+        <source>No program was found that opens web pages.</source>
+        <translation>ウェブページを開くプログラムが見つかりません。</translation>
+    </message>
 </context>
 <context>
     <name>quorvane::BaseColumn</name>
     <message>
         <source>Choose Pict&amp;ure…</source>
         <translation>画像を選択(&amp;U)…</translation>
-    </message>
-    <message>
-        <source>Use Fol&amp;der’s Icon</source>
-        <translation>フォルダーのアイコンを使う(&amp;D)</translation>
-    </message>
-    <message>
-        <source>Built-in Icons</source>
-        <translation>付属のアイコン</translation>
-    </message>
-    <message>
-        <source>My Icons</source>
-        <translation>マイアイコン</translation>
-    </message>
-    <message>
-        <source>&amp;Built-in Icons</source>
-        <translation>付属のアイコン(&amp;B)</translation>
-    </message>
-    <message>
-        <source>My &amp;Icons</source>
-        <translation>マイアイコン(&amp;I)</translation>
     </message>
     <message>
         <source>Base Picture</source>
@@ -1753,8 +1753,8 @@ Thank you!</source>
         <translation>新しいセット(&amp;N)</translation>
     </message>
     <message>
-        <source>Re&amp;name Set</source>
-        <translation>セットの名前を変更(&amp;N)</translation>
+        <source>Rena&amp;me Set</source>
+        <translation>セットの名前を変更(&amp;M)</translation>
     </message>
     <message>
         <source>&amp;Remove Set</source>
@@ -1998,8 +1998,8 @@ Thank you!</source>
         <translation>新しいセット(&amp;N)</translation>
     </message>
     <message>
-        <source>Re&amp;name Set</source>
-        <translation>セットの名前を変更(&amp;N)</translation>
+        <source>Rena&amp;me Set</source>
+        <translation>セットの名前を変更(&amp;M)</translation>
     </message>
     <message>
         <source>&amp;Remove Set</source>
@@ -2058,10 +2058,6 @@ Thank you!</source>
 </context>
 <context>
     <name>quorvane::OverlayGroup</name>
-    <message>
-        <source>Choose Overlay…</source>
-        <translation>バッジを選択…</translation>
-    </message>
     <message>
         <source>Automatic</source>
         <translation>自動</translation>

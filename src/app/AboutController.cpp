@@ -13,7 +13,9 @@
 #include <utility>
 
 #include "app/LayoutPieces.h"
+#include "foundation/plist/PropertyList.h"
 #include "imaging/ImagingLibraries.h"
+#include "library/core/ZipFile.h"
 #include "system/SystemLibraries.h"
 #include "ui/Tag.h"
 #include "ui/WindowResources.h"
@@ -66,7 +68,7 @@ QLayout* makeHead() {
 QScrollArea* makeLibraryList() {
   auto* list = new QWidget;
   auto* grid = new QGridLayout(list);
-  grid->setContentsMargins(0, 0, 8, 0);
+  grid->setContentsMargins(4, 2, 8, 2);
   grid->setHorizontalSpacing(24);
   grid->setVerticalSpacing(6);
   grid->setColumnStretch(2, 1);
@@ -85,7 +87,8 @@ QScrollArea* makeLibraryList() {
   auto* scroll = new QScrollArea;
   scroll->setWidget(list);
   scroll->setWidgetResizable(true);
-  scroll->setFrameShape(QFrame::NoFrame);
+  // Scrolled by keys: the theme shows where they go.
+  scroll->setProperty("ringed", true);
   scroll->setFocusPolicy(Qt::StrongFocus);
   scroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   scroll->viewport()->setAutoFillBackground(false);
@@ -111,6 +114,8 @@ QVBoxLayout* beginCard(QVBoxLayout& rows, const QString& caption) {
 std::vector<LibraryNotice> linkedLibraries() {
   std::vector<LibraryNotice> all = imagingLibraries();
   for (LibraryNotice& library : systemLibraries()) all.push_back(std::move(library));
+  all.push_back(plist::xmlLibrary());
+  all.push_back(library::zipLibrary());
   all.push_back({.name = "Qt", .version = qVersion(), .licence = "LGPL-3.0-only"});
   std::ranges::sort(all, [](const LibraryNotice& one, const LibraryNotice& other) {
     return QString::fromStdString(one.name).compare(QString::fromStdString(other.name), Qt::CaseInsensitive) < 0;

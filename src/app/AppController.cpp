@@ -63,7 +63,10 @@ AppController::AppController(const AppServices& services)
   connect(&_busyTimer, &QTimer::timeout, this, &AppController::_showBusy);
 }
 
-AppController::~AppController() = default;
+AppController::~AppController() {
+  // The windows that go with it move the focus.
+  QObject::disconnect(qApp, nullptr, this, nullptr);
+}
 
 void AppController::_init() {
   _appInitialized = false;

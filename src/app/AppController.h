@@ -235,6 +235,11 @@ class AppController : public QObject, public HVWindowDelegate, public LabelTextF
   void _cancelLook();
   void _cancelPicture();
   void _endReading();
+  /// Whoever the Edit menu is about.
+  [[nodiscard]] QWidget* _editFocus() const;
+  /// Whether cut, copy, paste or select all would do anything.
+  [[nodiscard]] bool _canEdit(MenuCommand command) const;
+  void _watchFocus(const std::function<void()>& validate);
   /// Cut, copy and the like go to the text that has the focus; copy goes to the canvas otherwise.
   void _edit(MenuCommand command);
   /// The same while the focus is on the library's lists.
@@ -282,6 +287,7 @@ class AppController : public QObject, public HVWindowDelegate, public LabelTextF
   QTimer _busyTimer;
   QTimer _libraryLayoutTimer;
   QPointer<QWidget> _focusBeforeWork;
+  QPointer<QWidget> _lastFocus;        ///< of what is no menu
   std::optional<Path> _basePicture;    ///< the file that the base icon was read from, when it was one
   std::vector<QAction*> _lookActions;  ///< in the menu
   Slider* _heldSlider = nullptr;       ///< whose run of changes is one step of the history

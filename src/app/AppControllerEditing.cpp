@@ -42,7 +42,7 @@ void AppController::setFont(const LabelFont& font) {
 
 void AppController::_updateFontToolTip() {
   const LabelFont font = _folderView->font();
-  _fontBtn->setToolTip(filled(tr("%@ %.0f"), {font.displayName(), QString::number(font.size, 'f', 0)}));
+  _fontBtn->setToolTip(plainToolTip(filled(tr("%@ %.0f"), {font.displayName(), QString::number(font.size, 'f', 0)})));
   // Ampersands would be taken for access keys.
   _fontBtn->setText(font.displayName().replace(QLatin1Char('&'), QLatin1String("&&")));
 }

@@ -5,6 +5,8 @@
 #include <QCoreApplication>
 #include <QFile>
 #include <QTimer>
+#include <algorithm>
+#include <limits>
 
 #include "app/AboutController.h"
 #include "app/AppController.h"
@@ -13,6 +15,7 @@
 #include "app/core/UserPrompts.h"
 #include "composition/view/FolderView.h"
 #include "foundation/UserDefaults.h"
+#include "ui/ElidedLabel.h"
 #include "ui/HVColorWell.h"
 #include "ui/SharedPanels.h"
 #include "ui/Texts.h"
@@ -42,7 +45,9 @@ void AppController::migrateCheckAtStartup() {
 
 qint64 AppController::runCount() {
   if (_runCount) return *_runCount;
-  _runCount = std::max<qint64>(0, settings::value(_services.defaults, settings::launchCount)) + 1;
+  // Somebody may have edited the file.
+  const qint64 former = settings::value(_services.defaults, settings::launchCount);
+  _runCount = std::clamp<qint64>(former, 0, std::numeric_limits<qint64>::max() - 1) + 1;
   settings::setValue(_services.defaults, settings::launchCount, *_runCount);
   return *_runCount;
 }
@@ -109,7 +114,7 @@ void AppController::runRateOnAppStoreSheet() {
 }
 
 void AppController::_visitPage(const QString& page) {
-  if (_services.visitPage) _services.visitPage(page);
+  if (_services.visitPage && !_services.visitPage(page)) _notice(tr("No program was found that opens web pages."));
 }
 
 QString AppController::tmpdirString() const {
@@ -145,13 +150,21 @@ void AppController::checkForUpdatesInBackgroundLastAttempt() {
 }
 
 void AppController::showAboutWindow(QObject* /*sender*/) {
-  if (!_aboutController)
+  if (!_aboutController) {
+    std::function<void()> writeToMaker;
+    if (_services.writeToMaker)
+      writeToMaker = [this] {
+        if (!_services.writeToMaker()) _notice(tr("No program was found that writes mail."));
+      };
     _aboutController = std::make_unique<AboutController>(AboutController::Actions{
-        .writeToMaker = _services.writeToMaker, .visitPage = [this](const QString& page) { _visitPage(page); }});
+        .writeToMaker = writeToMaker, .visitPage = [this](const QString& page) { _visitPage(page); }});
+  }
   _aboutController->showWindow(_mainWindow);
 }
 
 void AppController::showPreference(QObject* /*sender*/) {
+  // Chosen once more, by an assistive tool: a sheet may have the panels.
+  if (_preferenceController->isModal()) return _preferenceController->showWindow(_mainWindow);
   ColorPanel& colors = _services.panels.colorPanel();
   FontPanel& fonts = _services.panels.fontPanel();
   colors.close();
@@ -161,6 +174,8 @@ void AppController::showPreference(QObject* /*sender*/) {
   const LabelFont font = _folderView->font();
   fonts.setPanelFont(font.family, font.style, font.size);
   colors.setColor(_colorWell->color());
+  if (const auto kept = _services.defaults.synchronize(); !kept)
+    _notice(tr("The settings cannot be kept: %1").arg(visibleText(QString::fromStdString(kept.error().why()))));
 }
 
 }  // namespace quorvane

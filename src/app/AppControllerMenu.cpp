@@ -1,12 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // What the menus do.
-#include <QAbstractItemView>
 #include <QApplication>
-#include <QClipboard>
-#include <QDir>
-#include <QLineEdit>
 #include <QMenu>
-#include <QMimeData>
 #include <QPushButton>
 
 #include "app/AppController.h"
@@ -21,16 +16,11 @@
 #include "library/view/LibraryView.h"
 #include "ui/ElidedLabel.h"
 #include "ui/HVColorWell.h"
-#include "ui/LocalPath.h"
 #include "ui/SharedPanels.h"
 
 namespace quorvane {
 
 namespace {
-
-bool isTextField(const QWidget* focus) {
-  return qobject_cast<const QLineEdit*>(focus) || qobject_cast<const QPlainTextEdit*>(focus);
-}
 
 std::optional<LibraryCommand> libraryCommand(MenuCommand command) {
   switch (command) {
@@ -80,6 +70,7 @@ void AppController::_connectMenu() {
     _mainMenu->validate([this](MenuCommand command) { return validateMenuItem(command); });
   };
   connect(_mainMenu, &MainMenu::opening, this, validate);
+  _watchFocus(validate);
   connect(this, &AppController::stateChanged, _mainMenu, [this, validate] {
     validate();
     _mainMenu->setUndoTexts(_undoesLibrary() ? _baseIconController->undoText() : _history->undoText(),
@@ -126,9 +117,10 @@ bool AppController::validateMenuItem(MenuCommand command) const {
     case MenuCommand::Looks:
       return _services.looks != nullptr;
     case MenuCommand::Cut:
+    case MenuCommand::Copy:
     case MenuCommand::Paste:
     case MenuCommand::SelectAll:
-      return isTextField(QApplication::focusWidget());
+      return _canEdit(command);
     case MenuCommand::OpenRecent:
       return !_isWriting() && _services.recentFolders;
     case MenuCommand::Open:
@@ -150,21 +142,6 @@ void AppController::help(int tag) {
   for (const Page& page : pages) {
     if (page.tag == tag) _visitPage(QLatin1String(page.path));
   }
-}
-
-void AppController::pasteFolderPath() {
-  const QMimeData* data = QApplication::clipboard()->mimeData();
-  std::optional<Path> path = data ? firstLocalPath(*data) : std::nullopt;
-  if (!path && data && data->hasText()) {
-    QString text = data->text().trimmed();
-    if (text == QLatin1String("~") || text.startsWith(QLatin1String("~/"))) text.replace(0, 1, QDir::homePath());
-    const QUrl address(text);
-    path = address.isLocalFile() ? localPath(address) : std::optional<Path>(QFile::encodeName(text).toStdString());
-    if (path && !path->is_absolute()) path.reset();
-  }
-  const auto refuse = [this] { _notice(tr("The clipboard holds no path of a folder.")); };
-  if (!path) return refuse();
-  applicationOpenFile(*path, refuse);
 }
 
 void AppController::showInFileManager() {
@@ -241,37 +218,6 @@ void AppController::perform(MenuCommand command) {
       return showAboutWindow(_mainMenu);
     default:
       return;
-  }
-}
-
-void AppController::_edit(MenuCommand command) {
-  QWidget* focus = QApplication::focusWidget();
-  const bool isText = isTextField(focus);
-  if (!isText && _baseColumn->library()->hasListFocus()) return _editLibrary(command);
-  if (!isText) {
-    // The icon as it would be written, for other programs.
-    if (command != MenuCommand::Copy) return;
-    const auto icon = _folderView->composition().canvasIconImage();
-    const auto bitmap = icon ? icon->bitmapForPixels(512, 512) : std::nullopt;
-    if (bitmap) QApplication::clipboard()->setImage(bitmap->toImage());
-    return;
-  }
-  const char* slot = command == MenuCommand::Cut     ? "cut"
-                     : command == MenuCommand::Copy  ? "copy"
-                     : command == MenuCommand::Paste ? "paste"
-                                                     : "selectAll";
-  QMetaObject::invokeMethod(focus, slot);
-}
-
-void AppController::_editLibrary(MenuCommand command) {
-  QClipboard& clipboard = *QApplication::clipboard();
-  if (command == MenuCommand::Paste) {
-    if (!clipboard.mimeData() || !_baseIconController->paste(*clipboard.mimeData())) return;
-    _baseColumn->library()->setLibrary(LibraryView::Custom);
-  } else if (command == MenuCommand::SelectAll) {
-    if (auto* table = qobject_cast<QAbstractItemView*>(QApplication::focusWidget())) table->selectAll();
-  } else if (command == MenuCommand::Copy) {
-    if (QMimeData* copied = _baseIconController->copy()) clipboard.setMimeData(copied);
   }
 }
 

@@ -22,8 +22,10 @@ void AppController::_initColorPanel() {
   const QColor color = settings::startColor(_services.defaults);
   ColorPanel& panel = _services.panels.colorPanel();
   panel.setColor(color);
-  connect(&panel, &ColorPanel::colorChanged, _mainWindow,
-          [window = _mainWindow, &panel] { window->myChangeColor(panel); });
+  // What is chosen for a tint or an overlay is not the colour that a label was given last.
+  connect(&panel, &ColorPanel::colorChanged, this, [this, &panel] {
+    if (!_isOtherWellActive()) _mainWindow->myChangeColor(panel);
+  });
   _colorWell->setColor(color);
   _folderView->setColor(color);
 }

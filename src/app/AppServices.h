@@ -43,10 +43,10 @@ struct AppServices {
   std::function<std::vector<RecentFolder>()> recentFolders = {};  ///< the last one first
   std::function<void()> clearRecentFolders = {};
   std::function<void(const Path& folder)> revealInFileManager = {};
-  /// Opens a page of the maker's web site.
-  std::function<void(const QString& page)> visitPage = {};
-  /// Begins a message to the maker.
-  std::function<void()> writeToMaker = {};
+  /// Opens a page of the maker's web site; false when there is nothing to open it with.
+  std::function<bool(const QString& page)> visitPage = {};
+  /// Begins a message to the maker; false as before.
+  std::function<bool()> writeToMaker = {};
   /// The product's folder on the maker's web site, ending in "/": the feeds lie there.
   QString feedFolder = {};
   /// Called when it is first needed. None: the program does not look for newer versions, and nothing offers to.

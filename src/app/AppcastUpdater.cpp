@@ -174,7 +174,9 @@ void AppcastUpdater::_say(const Finding& finding) {
   if (!finding.offer) return _parts.view.tell(finding.title, finding.message, finding.details);
   switch (_parts.view.offer(*finding.offer)) {
     case UpdateAnswer::OpenPage:
-      if (!finding.page.isEmpty()) _parts.opener.open(finding.page);
+      if (!finding.page.isEmpty() && !_parts.opener.open(finding.page))
+        _parts.view.tell(tr("Could Not Open the Page"), tr("No program was found that opens web pages."),
+                         finding.page.toString(QUrl::FullyEncoded));
       break;
     case UpdateAnswer::Skip:
       settings::setValue(_parts.defaults, settings::skippedVersion, finding.newest);

@@ -7,6 +7,7 @@
 #include "app/AppController.h"
 #include "app/Choosers.h"
 #include "app/DefaultsFrameStore.h"
+#include "app/EndAtTheLatest.h"
 #include "app/MainWindowLayout.h"
 #include "app/QVWindow.h"
 #include "app/RecentList.h"
@@ -45,6 +46,11 @@ namespace quorvane {
 
 namespace {
 
+/// The controller waits for less, for what must be written. After that what hangs does not come back.
+constexpr std::chrono::seconds patienceAtEnd{40};
+/// For all else that is being done.
+constexpr std::chrono::seconds patienceForTheRest{10};
+
 /// What touches folders, as on the command line.
 struct FolderServices {
   AppleDoubleForkStore forks;
@@ -57,12 +63,20 @@ struct FolderServices {
       .forks = forks, .kinds = *kinds, .notices = notices, .families = &families, .marks = marks.get()};
 };
 
-/// The user's settings; kept for this run only when there is no place for them.
+/// Settings for which there is no place: they last as long as the run, and whoever asks is told.
+class UnkeptSettings : public MemorySettings {
+ public:
+  explicit UnkeptSettings(Error why) : _why(std::move(why)) {}
+  Result<void> settle() override { return _why; }
+
+ private:
+  Error _why;
+};
+
 std::unique_ptr<SettingsStorage> openSettings() {
   auto path = SettingsFile::usualPath();
   if (path) return std::make_unique<SettingsFile>(*path);
-  logMessage("window", path.error().message());
-  return std::make_unique<MemorySettings>();
+  return std::make_unique<UnkeptSettings>(path.error());
 }
 
 }  // namespace
@@ -93,8 +107,8 @@ int runApplication(int argc, char** argv) {
   QGuiApplication::setQuitOnLastWindowClosed(false);
 
   const OpenRequest request = OpenRequest::fromArguments(arguments.folders);
-  SingleInstance instance(QStringLiteral(QUORVANE_APP_ID));
-  if (instance.start(request) == SingleInstance::Role::Second) return 0;
+  std::optional<SingleInstance> instance(std::in_place, QStringLiteral(QUORVANE_APP_ID));
+  if (instance->start(request) == SingleInstance::Role::Second) return 0;
 
   const Translations translations(QLocale::system().uiLanguages());
   DesktopAppearance appearance;
@@ -154,8 +168,8 @@ int runApplication(int argc, char** argv) {
                            .recentFolders = [&] { return recent.folders(); },
                            .clearRecentFolders = [&] { recent.clear(); },
                            .revealInFileManager = [&](const auto& folder) { reveal.show(folder); },
-                           .visitPage = [&](const QString& page) { website.visitPage(page); },
-                           .writeToMaker = [&] { opener.open(QUrl(QStringLiteral("mailto:" QUORVANE_MAIL))); },
+                           .visitPage = [&](const QString& page) { return website.visitPage(page); },
+                           .writeToMaker = [&] { return opener.open(QUrl(QStringLiteral("mailto:" QUORVANE_MAIL))); },
                            .feedFolder = QStringLiteral(QUORVANE_PRODUCT_FOLDER),
                            .makeUpdater = updaterFactory(window, defaults, opener)});
   controller->setOutlets(layOutMainWindow(window, panels, *library));
@@ -179,7 +193,7 @@ int runApplication(int argc, char** argv) {
   open(request, [](const auto& path) {
     std::fprintf(stderr, "quorvane-window: %s: this is no folder\n", printable(path).c_str());
   });
-  instance.setHandler([&](const OpenRequest& wish) {
+  instance->setHandler([&](const OpenRequest& wish) {
     // What the desktop gave the other process lets this window come to the front.
     if (!wish.activationToken.empty()) qputenv("XDG_ACTIVATION_TOKEN", QByteArray::fromStdString(wish.activationToken));
     window.bringToFront();
@@ -192,7 +206,11 @@ int runApplication(int argc, char** argv) {
   });
   QTimer::singleShot(0, controller.get(), &AppController::applicationDidFinishLaunching);
   const int code = QApplication::exec();
+  // What is left to do may take its time. Whoever starts the program meanwhile gets a window of their own.
+  instance.reset();
+  endAtTheLatest(patienceAtEnd, code);
   controller->applicationWillTerminate();
+  endAtTheLatest(patienceForTheRest, code);
   return code;
 }
 

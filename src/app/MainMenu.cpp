@@ -87,7 +87,7 @@ MainMenu::MainMenu(QMainWindow& window) : QObject(&window), _window(window) {
                         {C::RemoveSelectedIcons, tr("Remove Selected Icon")},
                         line,
                         {C::NewSet, tr("&New Set"), {K(Qt::CTRL | Qt::Key_N)}},
-                        {C::RenameSet, tr("Re&name Set"), {K(Qt::Key_F2)}},
+                        {C::RenameSet, tr("Rena&me Set"), {K(Qt::Key_F2)}},
                         {C::RemoveSet, tr("&Remove Set")},
                         line,
                         {C::ImportSet, tr("&Import Set…")},

@@ -3,8 +3,8 @@
 
 #include <QAccessible>
 
-#include "ui/ElidedLabel.h"
 #include "ui/Motion.h"
+#include "ui/Texts.h"
 
 namespace quorvane {
 

@@ -42,6 +42,9 @@ QVWindow::QVWindow(UserDefaults& defaults)
       _refused(*_inside, [this](const QString& reason) { Q_EMIT dropRefused(reason); }) {
   setAcceptDrops(true);
   _inside->hide();
+  _release.setSingleShot(true);
+  _release.setInterval(400);
+  connect(&_release, &QTimer::timeout, this, [this] { _defaults.release(); });
 }
 
 void QVWindow::setOutlets(FolderView* folderView, AppController* appController) {
@@ -52,12 +55,20 @@ void QVWindow::setOutlets(FolderView* folderView, AppController* appController) 
 void QVWindow::myChangeFont(const FontPanel& sender) {
   const LabelFont font{sender.family(), sender.style(), sender.size()};
   _appController->setFont(font);
+  _holdSettings();
   settings::setValue(_defaults, settings::lastUsedFont, font);
 }
 
 void QVWindow::myChangeColor(const ColorPanel& sender) {
   _appController->setColor(sender.color());
+  _holdSettings();
   settings::setValue(_defaults, settings::lastUsedColor, sender.color());
+}
+
+void QVWindow::_holdSettings() {
+  // A file that is flushed for every step would hold up who drags through the colours.
+  _defaults.hold();
+  _release.start();
 }
 
 void QVWindow::growBy(QSize missing) {

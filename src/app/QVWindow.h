@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <QTimer>
 #include <filesystem>
 
 #include "ui/HVWindow.h"
@@ -53,6 +54,8 @@ class QVWindow : public HVWindow {
   /// Back to where it can be reached when its screen is gone.
   void _mendFrame();
   void _showDropFrame(bool shown);
+  /// For a moment from now on: the next change comes right behind.
+  void _holdSettings();
 
   UserDefaults& _defaults;
   FolderView* _folderView = nullptr;
@@ -60,6 +63,7 @@ class QVWindow : public HVWindow {
   DropFrame* _dropFrame;
   QWidget* _inside;  ///< all but a rim: what is let go on the rim may as well be leaving
   RefusedDropWatch _refused;
+  QTimer _release;
 };
 
 }  // namespace quorvane

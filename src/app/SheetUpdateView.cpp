@@ -14,7 +14,8 @@
 namespace quorvane {
 
 bool SheetUpdateView::isOccupied() const {
-  return _window.isSheetUp() || QApplication::activeModalWidget() || QApplication::activePopupWidget();
+  return _window.isSheetUp() || QApplication::activeModalWidget() || QApplication::activePopupWidget() ||
+         QGuiApplication::mouseButtons() != Qt::NoButton;  // something is being dragged
 }
 
 void SheetUpdateView::beginWaiting(std::function<void()> givenUp) {

@@ -20,7 +20,7 @@ class ShortcutList : public QScrollArea {
  public:
   [[nodiscard]] QSize sizeHint() const override {
     const QSize wanted = widget() ? widget()->sizeHint() : QSize();
-    return {wanted.width() + 12, std::min(wanted.height(), 480)};
+    return {wanted.width() + 12 + 2 * frameWidth(), std::min(wanted.height() + 2 * frameWidth(), 480)};
   }
 };
 
@@ -44,7 +44,7 @@ ShortcutsSheet::ShortcutsSheet(const MainMenu& menu) {
   // Two columns of groups, each a name and its keys.
   auto* list = new QWidget;
   auto* columns = new QHBoxLayout(list);
-  columns->setContentsMargins({});
+  columns->setContentsMargins(4, 2, 4, 2);
   columns->setSpacing(40);
   std::size_t rowCount = 0;
   for (const auto& group : groups) rowCount += group.shortcuts.size() + 2;
@@ -77,7 +77,8 @@ ShortcutsSheet::ShortcutsSheet(const MainMenu& menu) {
   auto* scroll = new ShortcutList;
   scroll->setWidget(list);
   scroll->setWidgetResizable(true);
-  scroll->setFrameShape(QFrame::NoFrame);
+  // Scrolled by keys: the theme shows where they go.
+  scroll->setProperty("ringed", true);
   scroll->viewport()->setAutoFillBackground(false);
   list->setAutoFillBackground(false);
   scroll->setAccessibleName(windowTitle());

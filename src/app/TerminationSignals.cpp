@@ -4,6 +4,8 @@
 #include <fcntl.h>
 #include <unistd.h>
 
+#include <QCoreApplication>
+#include <QEvent>
 #include <QSocketNotifier>
 #include <cerrno>
 #include <csignal>
@@ -27,6 +29,7 @@ constexpr int signals_[] = {SIGTERM, SIGINT, SIGHUP};
 }  // namespace
 
 TerminationSignals::TerminationSignals() {
+  QCoreApplication::instance()->installEventFilter(this);
   if (::pipe2(pipeEnds, O_CLOEXEC | O_NONBLOCK) != 0) return;
   auto* notifier = new QSocketNotifier(pipeEnds[0], QSocketNotifier::Read, this);
   connect(notifier, &QSocketNotifier::activated, this, [this] {
@@ -46,6 +49,14 @@ TerminationSignals::~TerminationSignals() {
     if (end >= 0) ::close(end);
     end = -1;
   }
+}
+
+bool TerminationSignals::eventFilter(QObject* watched, QEvent* event) {
+  if (event->type() != QEvent::Quit || watched != QCoreApplication::instance())
+    return QObject::eventFilter(watched, event);
+  // The application would ask every window, and stay when a sheet on one wants an answer first.
+  Q_EMIT received();
+  return true;
 }
 
 }  // namespace quorvane

@@ -5,7 +5,8 @@
 
 namespace quorvane {
 
-/// Turns the signals by which a session or a terminal ends a program into a Qt signal. One in a process.
+/// Turns the signals by which a terminal ends a program, and the word by which a desktop's session does, into a Qt
+/// signal. One in a process, behind the application object. The application does not end by itself then.
 class TerminationSignals : public QObject {
   Q_OBJECT
  public:
@@ -14,6 +15,9 @@ class TerminationSignals : public QObject {
 
  Q_SIGNALS:
   void received();
+
+ protected:
+  bool eventFilter(QObject* watched, QEvent* event) override;
 };
 
 }  // namespace quorvane

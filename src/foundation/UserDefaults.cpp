@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 #include "foundation/SettingsText.h"
 #include "foundation/base/Limits.h"
@@ -90,6 +91,10 @@ void UserDefaults::_change(const QString& key, const SettingsChange& change) {
   const auto known = _pending.find(key);
   const auto former = known == _pending.end() ? std::nullopt : std::optional(known->second);
   _pending[key] = former.value_or(SettingsChange()).then(change);
+  if (_isHeld) {
+    _held.append(key);
+    return _adopt(_stored);
+  }
   if (const auto written = _write(); written.ok()) {
     if (const auto settled = _storage.settle(); !settled.ok()) _noteFailure(settled.error());
   } else if (written.error().kind() == ErrorKind::TooLarge) {
@@ -98,6 +103,16 @@ void UserDefaults::_change(const QString& key, const SettingsChange& change) {
     if (former) _pending[key] = *former;
     _adopt(_stored);
   }
+}
+
+void UserDefaults::release() {
+  _isHeld = false;
+  const QStringList held = std::exchange(_held, {});
+  if (_pending.empty()) return;
+  if (const auto written = synchronize(); written.ok() || written.error().kind() != ErrorKind::TooLarge) return;
+  // There is no room, as in _change().
+  for (const QString& key : held) _pending.erase(key);
+  _adopt(_stored);
 }
 
 Result<void> UserDefaults::_write() {

@@ -18,9 +18,10 @@ namespace quorvane {
 /// The user's settings: values by key in a storage, and behind them factory values that are registered by every run
 /// anew and never written.
 ///
-/// Every change is written at once. Where that fails it holds in memory, is tried again with the next change and by
-/// synchronize(), and there is one line in the log; nothing is lost or waited for long. Values keep their types over a
-/// restart. A key whose value is of another type than asked for, or cannot be read, gives what a missing one gives.
+/// Every change is written at once, but see hold(). Where that fails it holds in memory, is tried again with the next
+/// change and by synchronize(), and there is one line in the log; nothing is lost or waited for long. Values keep their
+/// types over a restart. A key whose value is of another type than asked for, or cannot be read, gives what a missing
+/// one gives.
 ///
 /// Belongs to one thread. The storage must live longer.
 class UserDefaults {
@@ -85,6 +86,11 @@ class UserDefaults {
   /// be written at first.
   qint64 incrementIntegerForKey(const QString& key);
 
+  /// Until release(), changes are seen but not written: for what changes many times a second while something is
+  /// dragged. Both may be called any number of times. The end of this object writes nothing, but synchronize() does.
+  void hold() { _isHeld = true; }
+  void release();
+
   /// Writes what is not written yet, and reads what others have changed.
   Result<void> synchronize();
   /// Reads again when another process has changed the storage; true when it had. Cheap: for whenever a window becomes
@@ -107,7 +113,9 @@ class UserDefaults {
   QVariantMap _stored;       ///< as last seen in the storage
   QVariantMap _values;       ///< the same with _pending
   SettingsChanges _pending;  ///< not written yet
-  std::string _failure;      ///< the last failure, which is not logged again
+  bool _isHeld = false;
+  QStringList _held;     ///< changed since hold()
+  std::string _failure;  ///< the last failure, which is not logged again
   std::vector<std::weak_ptr<Observer>> _observers;
 };
 

@@ -15,6 +15,7 @@
 #include <algorithm>
 
 #include "foundation/base/Text.h"
+#include "ui/Texts.h"
 
 namespace quorvane {
 
@@ -30,10 +31,6 @@ QAccessibleInterface* elidedLabelInterface(const QString&, QObject* object) {
 
 QString visibleText(const QString& text) {
   return QString::fromStdString(printable(text.toStdString()));
-}
-
-QString plainToolTip(const QString& text) {
-  return QStringLiteral("<p style=\"white-space:pre-wrap\">%1</p>").arg(text.toHtmlEscaped());
 }
 
 ElidedLabel::ElidedLabel(const QString& text, QWidget* parent) : QWidget(parent) {

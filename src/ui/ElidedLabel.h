@@ -8,8 +8,6 @@ namespace quorvane {
 /// The text with what cannot be seen, or would turn the rest round, written out: control characters, line breaks and
 /// direction marks.
 QString visibleText(const QString& text);
-/// A tool tip that shows the text to the letter: tool tips guess at markup.
-QString plainToolTip(const QString& text);
 
 /// One line of text, a path for instance, that is shortened in the middle where it does not fit; the tool tip then has
 /// all of it. It can be copied from its menu. The text is plain, and shown as visibleText makes it.

@@ -97,13 +97,19 @@ void Sheet::begin() {
   }
   _formerFocus = _host.focusWidget();
   _up = true;
+  // Changing its parent makes the content forget which control is to have the focus first.
+  if (QWidget* first = _content->focusWidget(); first && _kind == Kind::Dialog) rememberFocus(*first);
   _content->setParent(_frame, Qt::Widget);
   _frame->layout()->addWidget(_content);
   _content->show();
   _host.installEventFilter(this);
   _frame->installEventFilter(this);
   _content->installEventFilter(this);
-  connect(_content, &QObject::destroyed, this, [this] { Q_EMIT answered(-1); });
+  connect(_content, &QObject::destroyed, this, [this] {
+    // Pointers to a widget that is being deleted are not null yet.
+    _content.clear();
+    Q_EMIT answered(-1);
+  });
   if (auto* dialog = qobject_cast<QDialog*>(_content.data()))
     connect(dialog, &QDialog::finished, this, &Sheet::answered);
 

@@ -2,6 +2,7 @@
 #include "ui/Texts.h"
 
 #include <QRegularExpression>
+#include <QTextDocument>
 
 namespace quorvane {
 
@@ -28,6 +29,11 @@ QString withoutAccessKey(const QString& text) {
     isAppended ? plain.remove(at - 1, 4) : plain.remove(at, 1);
   }
   return plain;
+}
+
+QString plainToolTip(const QString& text) {
+  if (!Qt::mightBeRichText(text)) return text;
+  return QStringLiteral("<p style=\"white-space:pre-wrap\">%1</p>").arg(text.toHtmlEscaped());
 }
 
 }  // namespace quorvane

@@ -14,4 +14,7 @@ QString filled(const QString& format, const QStringList& arguments);
 /// script is not on the keys.
 QString withoutAccessKey(const QString& text);
 
+/// A tool tip that says the text as it stands, also where it has what would be taken for HTML, as names may.
+QString plainToolTip(const QString& text);
+
 }  // namespace quorvane

@@ -116,6 +116,8 @@ QToolButton:pressed, QToolButton:checked { background: %groove; }
 QToolButton:focus { border: 2px solid %accent; padding: 4px 6px; }
 QToolButton:disabled { color: %disabled; }
 
+QScrollArea[ringed="true"] { border: 2px solid transparent; border-radius: 6px; background: transparent; }
+QScrollArea[ringed="true"]:focus { border-color: %accent; }
 QLineEdit, QPlainTextEdit, QAbstractSpinBox[number="true"] { background: %base;
               border: 1px solid %outline; border-radius: 8px; padding: 5px 9px;
               selection-background-color: %accent; selection-color: %onaccent; }

@@ -104,6 +104,12 @@ TEST_F(AppcastUpdaterTest, OffersANewerVersionAndDoesWhatIsAnswered) {
   const std::vector<QUrl> opened = {QUrl(u"https://xn--e1awd7f.test/two"_s), QUrl(u"https://home.test/"_s),
                                     QUrl(u"https://home.test/"_s)};
   EXPECT_EQ(opener.opened, opened);
+  EXPECT_TRUE(view.told.isEmpty());
+  opener.answer = false;
+  updater.checkForUpdates();
+  answer(feed("2", page));
+  EXPECT_EQ(view.told.size(), 1);
+  EXPECT_TRUE(view.told.takeFirst().contains(u"https://xn--e1awd7f.test/two"_s));
 
   // A skipped one is told of to those who ask only; the next one to all.
   view.answer = UpdateAnswer::Skip;
@@ -211,6 +217,7 @@ TEST(SheetUpdateView, ShowsSheetsAndTakesNoAnswerForLater) {
       .version = u"2"_s, .runningVersion = u"1"_s, .published = {}, .news = u"<b>bold</b>"_s, .pageHost = u"a.test"_s};
   const std::pair<std::function<void()>, UpdateAnswer> rows[] = {
       {[&] { press(u"Open Download Page"_s); }, UpdateAnswer::OpenPage},
+      {[&] { QTest::keyClick(window.focusWidget(), Qt::Key_Return); }, UpdateAnswer::OpenPage},
       {[&] { press(u"Later"_s); }, UpdateAnswer::Later},
       {[&] { press(u"Skip This Version"_s); }, UpdateAnswer::Skip},
       {[&] { window.cancelSheets(); }, UpdateAnswer::Later},

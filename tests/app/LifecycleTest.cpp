@@ -9,10 +9,14 @@
 #include <QMenu>
 #include <QPlainTextEdit>
 #include <QTest>
+#include <limits>
+#include <thread>
 
 #include "TestWindow.h"
 #include "app/AboutController.h"
+#include "app/EndAtTheLatest.h"
 #include "app/SheetPrompts.h"
+#include "app/TerminationSignals.h"
 #include "ui/LabelTextField.h"
 
 namespace quorvane::test {
@@ -46,7 +50,6 @@ TEST(LifecycleTest, AStartCountsMigratesAndPlacesTheWindow) {
   EXPECT_EQ(test.controller->runCount(), 2);
   EXPECT_EQ(test.controller->runCount(), 2);
   EXPECT_EQ(settings::value(test.defaults, settings::launchCount), 2);
-
   struct Feed {
     std::uint32_t version;
     const char* name;
@@ -54,6 +57,16 @@ TEST(LifecycleTest, AStartCountsMigratesAndPlacesTheWindow) {
   for (const Feed& feed : {Feed{0x1059, "105"}, Feed{0x1060, "106"}, Feed{0x106f, "106"}, Feed{0x1070, "107"},
                            Feed{0x1079, "107"}, Feed{0x1080, "108"}, Feed{0x9999, "108"}})
     EXPECT_TRUE(test.controller->feedAddress(feed.version).contains(QLatin1String(feed.name))) << feed.version;
+}
+
+TEST(LifecycleTest, ACountThatWasTamperedWithIsMended) {
+  constexpr qint64 most = std::numeric_limits<qint64>::max();
+  for (const auto& [former, count] : {std::pair<qint64, qint64>{-5, 1}, {most, most}}) {
+    TestWindow test({.arrangeSettings = [kept = former](UserDefaults& defaults) {
+      settings::setValue(defaults, settings::launchCount, kept);
+    }});
+    EXPECT_EQ(test.controller->runCount(), count);
+  }
 }
 
 TEST(LifecycleTest, ALaterStartComesBackWhereTheWindowWasAndChecksNothingUnasked) {
@@ -164,6 +177,28 @@ TEST(LifecycleTest, TheEndOfTheSessionIsNoAnswer) {
   EXPECT_TRUE(QTest::qWaitFor([&] { return ended == 1; }));
 }
 
+TEST(LifecycleTest, TheSessionsWordIsASignal) {
+  int heard = 0;
+  TerminationSignals ends;
+  QObject::connect(&ends, &TerminationSignals::received, [&] { ++heard; });
+  HVWindow window;
+  QWidget sheet;
+  window.show();
+  window.beginSheet(sheet);
+  QEvent quit(QEvent::Quit);
+  QCoreApplication::sendEvent(qApp, &quit);
+  EXPECT_EQ(heard, 1) << "no sheet keeps it";
+  EXPECT_TRUE(window.isVisible()) << "whoever hears it closes what is open";
+}
+
+TEST(EndAtTheLatestDeathTest, WhatHangsIsGivenUp) {
+  const auto hang = [] {
+    endAtTheLatest(std::chrono::milliseconds(20), 7);
+    std::this_thread::sleep_for(std::chrono::seconds(60));
+  };
+  EXPECT_EXIT(hang(), testing::ExitedWithCode(7), "");
+}
+
 TEST(LifecycleTest, ABackgroundCheckGivesWayToSheetsAndIsTriedOnceMore) {
   {
     TestWindow test;
@@ -227,6 +262,8 @@ TEST(AboutTest, ItNamesTheLibrariesAndLeadsToTheMaker) {
   ASSERT_TRUE(QTest::qWaitForWindowActive(&about));
   QStringList texts;
   for (const QLabel* label : about.findChildren<QLabel*>()) texts << label->text();
+  for (const char* name : {"Expat", "libzip", "Qt", "GLib, GIO", "libpng"})
+    EXPECT_TRUE(texts.contains(QLatin1String(name)));
   for (const LibraryNotice& library : linkedLibraries()) {
     EXPECT_TRUE(texts.contains(QString::fromStdString(library.name))) << library.name;
     EXPECT_TRUE(texts.contains(QString::fromStdString(library.licence))) << library.licence;

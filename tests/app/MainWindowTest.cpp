@@ -12,15 +12,20 @@
 #include <QMenuBar>
 #include <QMimeData>
 #include <QTest>
+#include <QTextDocument>
 #include <QTranslator>
 #include <set>
 
 #include "TestWindow.h"
+#include "app/AboutController.h"
+#include "app/LooksSheets.h"
 #include "app/NoticeLabel.h"
 #include "app/Translations.h"
+#include "app/UpdateSheet.h"
 #include "app/WindowArguments.h"
 #include "iconfamily/CustomIcon.h"
 #include "ui/HVColorWell.h"
+#include "ui/HVTableView.h"
 #include "ui/LabelTextField.h"
 #include "ui/Texts.h"
 
@@ -104,10 +109,11 @@ TEST_P(MainWindowInLanguage, EveryControlHasANameAndNoKeyIsTakenTwice) {
     ASSERT_TRUE(accessible);
     EXPECT_FALSE(accessible->text(QAccessible::Name).isEmpty()) << widget->metaObject()->className();
   }
-  for (const QAction* menu : test.window.menuBar()->actions()) {
+  for (const QAction* menu : test.window.menuBar()->actions())
     take(QKeySequence::mnemonic(menu->text()).toString(), menu->text());
+  for (const QMenu* menu : test.window.menuBar()->findChildren<QMenu*>()) {
     std::set<QString> letters;
-    for (const QAction* action : menu->menu()->actions()) {
+    for (const QAction* action : menu->actions()) {
       const QString letter = QKeySequence::mnemonic(action->text()).toString();
       EXPECT_TRUE(letter.isEmpty() || letters.insert(letter).second) << action->text().toStdString();
     }
@@ -115,6 +121,22 @@ TEST_P(MainWindowInLanguage, EveryControlHasANameAndNoKeyIsTakenTwice) {
   for (const QAction* action : test.window.findChildren<QAction*>())
     for (const QKeySequence& shortcut : action->shortcuts()) take(shortcut.toString(), action->text());
   EXPECT_TRUE(keys.contains(QStringLiteral("Ctrl+Shift+Z")));
+
+  test.controller->showAboutWindow(nullptr);
+  UpdateSheet update(
+      {.version = {}, .runningVersion = {}, .news = QStringLiteral("x"), .pageHost = QStringLiteral("x")});
+  SaveLookSheet save({});
+  ManageLooksSheet manage(test.looks);
+  for (QWidget* other :
+       std::initializer_list<QWidget*>{&test.controller->preferenceController().window(),
+                                       &test.controller->aboutController()->window(), &update, &save, &manage}) {
+    keys.clear();
+    for (const auto* button : other->findChildren<QAbstractButton*>())
+      take(QKeySequence::mnemonic(button->text()).toString(), button->text());
+    for (const auto* label : other->findChildren<QLabel*>())
+      if (label->buddy()) take(QKeySequence::mnemonic(label->text()).toString(), label->text());
+    EXPECT_GE(keys.size(), 3U);
+  }
 }
 
 TEST(MainWindowTest, EveryTextIsLookedUp) {
@@ -193,12 +215,56 @@ TEST(MainWindowTest, PagesAreOpenedByTheirTags) {
   for (const int tag : {-1, 0, 1, 2, 3, 4, 5, 6, 7, 8}) test.controller->help(tag);
   EXPECT_EQ(test.pages, (std::vector<std::string>{"/quorvane/help/", "forum", "blog", "", "quorvane/faq/",
                                                   "quorvane/fb/", "quorvane/mu/"}));
+  EXPECT_TRUE(test.ui()._noticeLabel->text().isEmpty());
+  test.hasOpener = false;
+  test.controller->perform(MenuCommand::Help);
+  EXPECT_TRUE(test.ui()._noticeLabel->text().contains(QStringLiteral("No program")));
+}
+
+TEST(MainWindowTest, TheClipboardsItemsFollowTheFocus) {
+  TestWindow test;
+  test.launch();
+  EXPECT_TRUE(QTest::qWaitForWindowActive(&test.window));
+  const auto enabled = [&] {
+    std::string on;
+    for (const auto& [letter, command] : {std::pair{'x', MenuCommand::Cut},
+                                          {'c', MenuCommand::Copy},
+                                          {'v', MenuCommand::Paste},
+                                          {'a', MenuCommand::SelectAll}})
+      if (test.ui()._mainMenu->action(command)->isEnabled()) on += letter;
+    return on;
+  };
+  test.ui()._openBtn->setFocus();
+  EXPECT_EQ(enabled(), "");
+  test.ui()._baseColumn->library()->setLibrary(LibraryView::Custom);
+  test.ui()._customTableView->setFocus();
+  EXPECT_EQ(enabled(), "cva");
+  QApplication::clipboard()->setImage(QImage(64, 64, QImage::Format_ARGB32));
+  test.controller->perform(MenuCommand::NewSet);
+  test.ui()._customTableView->setFocus();
+  QTest::keyClick(test.ui()._customTableView, Qt::Key_V, Qt::ControlModifier);
+  EXPECT_TRUE(QTest::qWaitFor([&] { return test.ui()._customTableView->model()->rowCount() == 1; }));
+  test.controller->applicationOpenFile(test.folder);
+  EXPECT_EQ(enabled(), "xcva");
+  test.window.menuBar()->setFocus(Qt::MenuBarFocusReason);
+  EXPECT_EQ(enabled(), "xcva") << "going through the menus by keys";
+  test.ui()._openBtn->setFocus();
+  EXPECT_EQ(enabled(), "c");
 }
 
 TEST(WindowTextsTest, PlacesAreFilledInTheirOrderOnly) {
   EXPECT_EQ(filled(QStringLiteral("%@ %.0f"), {QStringLiteral("100%@ %d"), QStringLiteral("36")}),
             QStringLiteral("100%@ %d 36"));
   EXPECT_EQ(filled(QStringLiteral("%d %"), {}), QStringLiteral("%d %"));
+}
+
+TEST(WindowTextsTest, ToolTipsSayNamesAsTheyStand) {
+  for (const char* name : {"plain & simple", "a<b> <img src='/dev/tty'>", "&lt;"}) {
+    const QString shown = plainToolTip(QString::fromLatin1(name));
+    QTextDocument document;
+    Qt::mightBeRichText(shown) ? document.setHtml(shown) : document.setPlainText(shown);
+    EXPECT_EQ(document.toPlainText(), QString::fromLatin1(name));
+  }
 }
 
 TEST(WindowTextsTest, AccessKeysAreTakenOutWhereverTheyStand) {

@@ -11,6 +11,7 @@
 #include <set>
 
 #include "TestWindow.h"
+#include "app/NoticeLabel.h"
 #include "ui/HVColorWell.h"
 
 namespace quorvane::test {
@@ -107,6 +108,7 @@ TEST_F(PreferenceTest, CancelEscapeAndClosingStoreNothing) {
     test.panels.colorPanel().setColor(Qt::black);
     Q_EMIT test.panels.colorPanel().colorChanged(Qt::black);
     settings::setValue(test.defaults, settings::lastUsedColor, Qt::black);
+    static_cast<void>(test.defaults.synchronize());
     test.storage.values = before;
     test.defaults.refresh();
     whileOpen([&] {
@@ -135,6 +137,8 @@ TEST_F(PreferenceTest, SheetsCarryTheSharedPanelsAndLeaveTheLabelAlone) {
     EXPECT_TRUE(window.rect().contains(QRect(ui._colorDoneBtn->mapTo(&window, QPoint()), ui._colorDoneBtn->size())));
     colors.setColor(Qt::blue);
     Q_EMIT colors.colorChanged(Qt::blue);
+    test.controller->showPreference(nullptr);
+    EXPECT_EQ(colors.color(), QColor(Qt::blue)) << "chosen once more, they stay as they are";
     EXPECT_EQ(ui._colorWell->color(), QColor(Qt::black)) << "not before the sheet is closed";
     press(Qt::Key_Escape);
     EXPECT_FALSE(window.isSheetUp());
@@ -162,6 +166,16 @@ TEST_F(PreferenceTest, SheetsCarryTheSharedPanelsAndLeaveTheLabelAlone) {
   EXPECT_EQ(settings::value(test.defaults, settings::lastUsedFont), systemFont(50));
   EXPECT_EQ(fonts.family(), test.ui()._folderView->font().family) << "the label's again";
   EXPECT_EQ(colors.color(), test.ui()._colorWell->color());
+}
+
+TEST_F(PreferenceTest, WhatCannotBeStoredIsSaid) {
+  whileOpen([&] {
+    change();
+    test.storage.failure = Error::refused("the file is read-only");
+    press(Qt::Key_Return);
+  });
+  EXPECT_TRUE(test.ui()._noticeLabel->text().contains(QStringLiteral("read-only")));
+  EXPECT_EQ(settings::value(test.defaults, settings::defaultColor), QColor(Qt::red)) << "but it holds for this run";
 }
 
 TEST_F(PreferenceTest, TheCheckComesOnceTheSettingsAreStoredAndTheWindowIsLeft) {

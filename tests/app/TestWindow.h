@@ -75,19 +75,20 @@ struct TestWindow {
       ++updaters;
       return std::make_unique<RecordingUpdater>(asked);
     };
-    controller = AppController::init({.defaults = defaults,
-                                      .prompts = options.prompts ? *options.prompts : prompts,
-                                      .panels = panels,
-                                      .work = work,
-                                      .looks = &looks,
-                                      .readPicture = options.readPicture,
-                                      .chooseFolder = choose,
-                                      .choosePicture = choose,
-                                      .revealInFileManager = [this](const auto& path) { revealed.push_back(path); },
-                                      .visitPage = [this](const QString& page) { pages.push_back(page.toStdString()); },
-                                      .writeToMaker = [this] { pages.emplace_back("mail"); },
-                                      .feedFolder = QStringLiteral("https://maker.test/product/"),
-                                      .makeUpdater = options.hasUpdater ? makeUpdater : nullptr});
+    controller = AppController::init(
+        {.defaults = defaults,
+         .prompts = options.prompts ? *options.prompts : prompts,
+         .panels = panels,
+         .work = work,
+         .looks = &looks,
+         .readPicture = options.readPicture,
+         .chooseFolder = choose,
+         .choosePicture = choose,
+         .revealInFileManager = [this](const auto& path) { revealed.push_back(path); },
+         .visitPage = [this](const QString& page) { return pages.push_back(page.toStdString()), hasOpener; },
+         .writeToMaker = [this] { return pages.emplace_back("mail"), hasOpener; },
+         .feedFolder = QStringLiteral("https://maker.test/product/"),
+         .makeUpdater = options.hasUpdater ? makeUpdater : nullptr});
     controller->setOutlets(layOutMainWindow(window, panels, library));
     window.setOutlets(controller->outlets()._folderView, controller.get());
   }
@@ -133,6 +134,7 @@ struct TestWindow {
   std::optional<std::filesystem::path> choice;
   std::vector<std::filesystem::path> revealed;
   std::vector<std::string> pages;
+  bool hasOpener = true;           ///< whether anything opens pages
   int updaters = 0;                ///< made
   std::vector<std::string> asked;  ///< of them
   SharedPanels panels;

@@ -81,6 +81,7 @@ TEST_F(TintOverlayTest, AnOverlayIsChosenChangedAndTakenAway) {
   ui._overlayGroup->colorWell()->activate(true);
   Q_EMIT test.panels.colorPanel().colorChanged(QColor(Qt::yellow));
   EXPECT_EQ(composition().overlay()->color, QColor(Qt::yellow));
+  EXPECT_EQ(settings::value(test.defaults, settings::lastUsedColor), QColor(Qt::black)) << "of labels";
 
   OverlayPopup* popup = ui._overlayGroup->choose();
   QTest::keyClicks(popup->emojiField(), QStringLiteral("Q"));

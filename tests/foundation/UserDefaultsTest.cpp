@@ -182,6 +182,39 @@ TEST(UserDefaults, WhatCannotBeWrittenHoldsAndIsWrittenLaterOnTopOfWhatOthersDid
   setLogSink(before);
 }
 
+TEST(UserDefaults, WhatIsHeldIsSeenAndWrittenOnce) {
+  struct Counting : MemorySettings {
+    Result<QVariantMap> update(const SettingsChanges& changes) override {
+      return ++updates, MemorySettings::update(changes);
+    }
+    int updates = 0;
+  } storage;
+  UserDefaults defaults(storage);
+  int told = 0;
+  const auto observation = defaults.observe([&](const QStringList&) { ++told; });
+  for (int round = 1; round <= 2; ++round) {
+    for (qint64 value = 1; value <= 50; ++value) {
+      defaults.hold();
+      defaults.setInteger(value, key);
+      EXPECT_EQ(defaults.integerForKey(key), value);
+    }
+    EXPECT_EQ(defaults.incrementIntegerForKey(key), 51);
+    EXPECT_EQ(storage.updates, round - 1);
+    round == 1 ? defaults.release() : static_cast<void>(defaults.synchronize());
+    EXPECT_EQ(storage.values.value(key), QVariant(51LL));
+    EXPECT_EQ(storage.updates, round);
+  }
+  EXPECT_EQ(told, 51 + 51);
+  // Without room it is dropped as if it had been written at once.
+  storage.failure = Error::tooLarge("full");
+  defaults.setInteger(7, key);
+  defaults.release();
+  EXPECT_EQ(defaults.integerForKey(key), 51);
+  storage.failure.reset();
+  defaults.setInteger(8, key);
+  EXPECT_EQ(storage.values.value(key), QVariant(8LL));
+}
+
 TEST(UserDefaults, ObserversHearOfOwnAndForeignChanges) {
   MemorySettings storage;
   UserDefaults defaults(storage);

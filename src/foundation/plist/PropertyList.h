@@ -6,10 +6,14 @@
 #include <vector>
 
 #include "foundation/base/Bytes.h"
+#include "foundation/base/LibraryNotice.h"
 #include "foundation/base/Result.h"
 
 /// Property lists whose root is an array of strings: the one shape that this system keeps in them.
 namespace quorvane::plist {
+
+/// What reads XML here.
+LibraryNotice xmlLibrary();
 
 enum class Form { Xml, Binary, Text };
 

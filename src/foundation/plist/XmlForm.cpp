@@ -95,6 +95,14 @@ class Reading {
 
 }  // namespace
 
+LibraryNotice xmlLibrary() {
+  const XML_Expat_Version version = XML_ExpatVersionInfo();
+  return {.name = "Expat",
+          .version =
+              std::to_string(version.major) + '.' + std::to_string(version.minor) + '.' + std::to_string(version.micro),
+          .licence = "MIT"};
+}
+
 Result<std::vector<std::string>> readXml(ByteView bytes) {
   if (bytes.size() > limits::propertyListBytes) return Error::tooLarge("a property list that is too long");
   return Reading().read(bytes);

@@ -58,6 +58,10 @@ Result<bool> isPlainFile(zip* handle, std::uint64_t index, const std::string& na
 
 }  // namespace
 
+LibraryNotice zipLibrary() {
+  return {.name = "libzip", .version = zip_libzip_version(), .licence = "BSD-3-Clause"};
+}
+
 ZipReader::ZipReader(zip* handle, std::size_t length) : _handle(handle, zip_discard), _length(length) {}
 
 Result<ZipReader> ZipReader::open(ByteView bytes) {

@@ -7,11 +7,15 @@
 #include <vector>
 
 #include "foundation/base/Bytes.h"
+#include "foundation/base/LibraryNotice.h"
 #include "foundation/base/Result.h"
 
 struct zip;
 
 namespace quorvane::library {
+
+/// What reads and writes zip files here.
+LibraryNotice zipLibrary();
 
 /// A plain file in a zip file.
 struct ZipEntry {

@@ -17,6 +17,7 @@
 #include "library/view/LibraryTexts.h"
 #include "library/view/Thumbnails.h"
 #include "ui/ElidedLabel.h"
+#include "ui/Texts.h"
 
 namespace quorvane {
 

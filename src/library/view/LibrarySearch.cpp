@@ -9,7 +9,7 @@
 #include "library/view/LibraryDelegates.h"
 #include "library/view/LibraryTexts.h"
 #include "library/view/Thumbnails.h"
-#include "ui/ElidedLabel.h"
+#include "ui/Texts.h"
 
 namespace quorvane {
 

@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "library/view/LibraryView.h"
 
-#include <QApplication>
+#include <QAbstractItemView>
+#include <QEvent>
 #include <QHBoxLayout>
 #include <QLineEdit>
 #include <QProgressBar>
@@ -270,9 +271,8 @@ void LibraryView::setSetsWidth(int width) {
   for (LibraryPage* each : {_builtinPage, _customPage}) each->setSetsWidth(width);
 }
 
-bool LibraryView::hasListFocus() const {
-  const QWidget* focus = QApplication::focusWidget();
-  return focus && !qobject_cast<const QLineEdit*>(focus) && isAncestorOf(focus);
+bool LibraryView::isList(const QWidget* widget) const {
+  return qobject_cast<const QAbstractItemView*>(widget) && isAncestorOf(widget);
 }
 
 void LibraryView::_search(const QString& words) {

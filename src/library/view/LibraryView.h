@@ -57,8 +57,8 @@ class LibraryView : public QWidget {
 
   [[nodiscard]] bool isAvailable(LibraryCommand command) const;
   void perform(LibraryCommand command);
-  /// Whether the focus is on one of the lists: undo is then that of the library, and so is paste.
-  [[nodiscard]] bool hasListFocus() const;
+  /// Whether it is one of the lists: what is pasted there is meant for the library.
+  [[nodiscard]] bool isList(const QWidget* widget) const;
 
  Q_SIGNALS:
   void libraryChanged(int library);

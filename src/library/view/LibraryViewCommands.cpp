@@ -67,7 +67,7 @@ QAction* LibraryView::_addAction(QMenu& menu, LibraryCommand command) {
       case LibraryCommand::NewSet:
         return tr("&New Set");
       case LibraryCommand::RenameSet:
-        return tr("Re&name Set");
+        return tr("Rena&me Set");
       case LibraryCommand::RemoveSet:
         return tr("&Remove Set");
       case LibraryCommand::ImportSet:
