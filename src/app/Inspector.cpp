@@ -109,15 +109,7 @@ QWidget* makeInspector(Outlets& outlets, SharedPanels& panels) {
                                                                   .typedMinimum = -360,
                                                                   .typedMaximum = 360,
                                                                   .suffix = QStringLiteral("°")});
-  outlets._opacitySlider = transform.addSlider(tr("O&pacity"), {.minimum = 0,
-                                                                .maximum = 1,
-                                                                .step = 0.01,
-                                                                .defaultValue = 1,
-                                                                .decimals = 0,
-                                                                .typedMinimum = 0,
-                                                                .typedMaximum = 1,
-                                                                .suffix = QStringLiteral(" %"),
-                                                                .numberFactor = 100});
+  outlets._opacitySlider = transform.addSlider(tr("O&pacity"), opacityRange());
   outlets._resetBtn = new QPushButton(tr("Reset Transfor&m"));
   transform.addWidget(outlets._resetBtn);
 

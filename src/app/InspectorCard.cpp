@@ -30,6 +30,18 @@ QWidget* InspectorCard::addRow(const QString& name, QWidget* control) {
   return row;
 }
 
+Slider::Range opacityRange() {
+  return {.minimum = 0,
+          .maximum = 1,
+          .step = 0.01,
+          .defaultValue = 1,
+          .decimals = 0,
+          .typedMinimum = 0,
+          .typedMaximum = 1,
+          .suffix = QStringLiteral(" %"),
+          .numberFactor = 100};
+}
+
 Slider* InspectorCard::addSlider(const QString& name, const Slider::Range& range) {
   auto* slider = new Slider;
   slider->setRange(range);

@@ -11,6 +11,9 @@ class QWidget;
 
 namespace quorvane {
 
+/// From nothing to all of it, told in percent.
+Slider::Range opacityRange();
+
 /// A card of the inspector being filled: a caption and rows of controls. The widgets belong to the frame.
 class InspectorCard {
  public:

@@ -60,15 +60,7 @@ OverlayGroup::OverlayGroup(ColorPanel* panel)
                                                        .typedMinimum = 4,
                                                        .typedMaximum = 256,
                                                        .suffix = {}});
-  _opacitySlider = details.addSlider(tr("Overlay Opacity"), {.minimum = 0,
-                                                             .maximum = 1,
-                                                             .step = 0.01,
-                                                             .defaultValue = 1,
-                                                             .decimals = 0,
-                                                             .typedMinimum = 0,
-                                                             .typedMaximum = 1,
-                                                             .suffix = QStringLiteral(" %"),
-                                                             .numberFactor = 100});
+  _opacitySlider = details.addSlider(tr("Overlay Opacity"), opacityRange());
   auto* colors = new QWidget;
   auto* colorLayout = new QHBoxLayout(colors);
   colorLayout->setContentsMargins({});

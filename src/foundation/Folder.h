@@ -139,6 +139,9 @@ class Folder {
   /// Refuses when the folder was opened for looking only, or when `name` is none.
   [[nodiscard]] Result<void> _mayChange(const std::string& what) const;
   [[nodiscard]] Result<void> _mayChange(const std::string& what, const std::string& name) const;
+  /// What is to be renamed; refuses all but plain files and folders, too.
+  [[nodiscard]] Result<struct stat> _mayRename(const std::string& what, const std::string& from, const Folder& to,
+                                               const std::string& name) const;
   [[nodiscard]] Error _failure(int code, const std::string& what, const std::string& name) const;
 
   /// Opens a plain file for reading; nullopt when there is none. `what` begins the error's words.

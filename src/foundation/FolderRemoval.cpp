@@ -98,19 +98,25 @@ Result<void> Folder::removeChild(const std::string& name) {
   return flush();
 }
 
-Result<void> Folder::rename(const std::string& from, const Folder& to, const std::string& name) {
-  const std::string what = "cannot rename";
+Result<struct stat> Folder::_mayRename(const std::string& what, const std::string& from, const Folder& to,
+                                       const std::string& name) const {
   TRY_VOID(_mayChange(what, from));
   TRY_VOID(to._mayChange(what, name));
   const auto source = TRY(statusOf(from));
   if (!source) return _failure(ENOENT, what, from);
   if (!S_ISREG(source->st_mode) && !S_ISDIR(source->st_mode))
     return Error::refused(what + ": " + calls::kindWords(source->st_mode) + " stands there").at(pathOf(from));
+  return *source;
+}
+
+Result<void> Folder::rename(const std::string& from, const Folder& to, const std::string& name) {
+  const std::string what = "cannot rename";
+  const auto source = TRY(_mayRename(what, from, to, name));
   const auto target = TRY(to.statusOf(name));
-  if (target && (target->st_mode & S_IFMT) != (source->st_mode & S_IFMT))
+  if (target && (target->st_mode & S_IFMT) != (source.st_mode & S_IFMT))
     return Error::refused(what + ": " + calls::kindWords(target->st_mode) + " stands there").at(to.pathOf(name));
   // The system does nothing when both are names of one file, and would leave both.
-  const bool isSame = target && calls::isSameItem(*target, *source);
+  const bool isSame = target && calls::isSameItem(*target, source);
   const bool isOneName = isSame && from == name && calls::isSameItem(TRY(status()), TRY(to.status()));
   const int failed = isSame && !isOneName ? ::unlinkat(_handle.get(), from.c_str(), 0)
                                           : ::renameat(_handle.get(), from.c_str(), to._handle.get(), name.c_str());
@@ -128,15 +134,9 @@ Result<void> Folder::removeEmptyChild(const std::string& name) {
 
 Result<void> Folder::renameNew(const std::string& from, const Folder& to, const std::string& name) {
   const std::string what = "cannot rename";
-  TRY_VOID(_mayChange(what, from));
-  TRY_VOID(to._mayChange(what, name));
-  const auto source = TRY(statusOf(from));
-  if (!source) return _failure(ENOENT, what, from);
-  if (!S_ISREG(source->st_mode) && !S_ISDIR(source->st_mode))
-    return Error::refused(what + ": " + calls::kindWords(source->st_mode) + " stands there").at(pathOf(from));
+  const auto source = TRY(_mayRename(what, from, to, name));
   const auto target = TRY(to.statusOf(name));
-  const bool isOtherSpelling =
-      target && from != name && S_ISDIR(target->st_mode) && calls::isSameItem(*target, *source);
+  const bool isOtherSpelling = target && from != name && S_ISDIR(target->st_mode) && calls::isSameItem(*target, source);
   if (target && !isOtherSpelling) return to._failure(EEXIST, what, name);
   int failed =
       ::renameat2(_handle.get(), from.c_str(), to._handle.get(), name.c_str(), isOtherSpelling ? 0 : RENAME_NOREPLACE);
