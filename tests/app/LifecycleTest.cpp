@@ -84,20 +84,22 @@ TEST(LifecycleTest, ALaterStartComesBackWhereTheWindowWasAndChecksNothingUnasked
 TEST(LifecycleTest, TheLabelStartsAsTheSettingsSay) {
   const LabelFont serif{QStringLiteral("DejaVu Serif"), QStringLiteral("Book"), 20};
   const LabelFont mono{QStringLiteral("DejaVu Sans Mono"), QStringLiteral("Book"), 33};
-  for (const bool usesDefaults : {true, false}) {
-    TestWindow test({.arrangeSettings = [&](UserDefaults& defaults) {
-      settings::setValue(defaults, settings::useDefaultColor, usesDefaults);
-      settings::setValue(defaults, settings::useDefaultFont, !usesDefaults);
-      settings::setValue(defaults, settings::defaultColor, Qt::red);
-      settings::setValue(defaults, settings::lastUsedColor, Qt::blue);
-      settings::setValue(defaults, settings::defaultFont, serif);
-      settings::setValue(defaults, settings::lastUsedFont, mono);
-    }});
+  for (const auto& [isDefaultColor, isDefaultFont] :
+       {std::pair{true, true}, {true, false}, {false, true}, {false, false}}) {
+    TestWindow test(
+        {.arrangeSettings = [&, usesColor = isDefaultColor, usesFont = isDefaultFont](UserDefaults& defaults) {
+          settings::setValue(defaults, settings::useDefaultColor, usesColor);
+          settings::setValue(defaults, settings::useDefaultFont, usesFont);
+          settings::setValue(defaults, settings::defaultColor, Qt::red);
+          settings::setValue(defaults, settings::lastUsedColor, Qt::blue);
+          settings::setValue(defaults, settings::defaultFont, serif);
+          settings::setValue(defaults, settings::lastUsedFont, mono);
+        }});
     test.controller->awakeFromNib();
     test.controller->applicationDidFinishLaunching();
-    EXPECT_EQ(test.ui()._folderView->composition().color(), QColor(usesDefaults ? Qt::red : Qt::blue));
-    EXPECT_EQ(test.panels.colorPanel().color(), QColor(usesDefaults ? Qt::red : Qt::blue));
-    EXPECT_EQ(test.ui()._folderView->font(), usesDefaults ? mono : serif);
+    EXPECT_EQ(test.ui()._folderView->composition().color(), QColor(isDefaultColor ? Qt::red : Qt::blue));
+    EXPECT_EQ(test.panels.colorPanel().color(), QColor(isDefaultColor ? Qt::red : Qt::blue));
+    EXPECT_EQ(test.ui()._folderView->font(), isDefaultFont ? serif : mono);
   }
   TestWindow fresh;
   fresh.controller->awakeFromNib();
