@@ -5,6 +5,7 @@ import json
 import os
 import unittest
 
+from accessible import FOCUSED
 from driver import WindowTest
 from support import BACKUP, elements, pictures, read
 
@@ -12,7 +13,9 @@ from support import BACKUP, elements, pictures, read
 class KeyboardTest(WindowTest):
     def choose(self, program, path):
         """In a file chooser that is about to come up."""
-        program.get("dialog")
+        dialog = program.get("dialog")
+        self.wait(lambda: any(widget.role == "text" and widget.has(FOCUSED) for widget in dialog.walk()),
+                  "the chooser to have the keys")
         self.type(path)
         self.key("Return")
         self.wait(lambda: not program.find("dialog"), "the chooser to go")

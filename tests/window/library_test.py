@@ -71,13 +71,13 @@ class LibraryTest(WindowTest):
         self.wait(lambda: program.is_enabled("push button", "^Apply$"), "Apply")
         self.key("ctrl+Return")
         self.wait(lambda: os.path.exists(os.path.join(folder, "._Icon\r")), "the icon")
+        self.put_tip_away(program)  # it comes when all is written
         family = self.assert_branded(folder)
         with pictures().open(io.BytesIO(dict(elements(family))["ic09"])) as shown:
             self.assertEqual(shown.convert("RGB").getpixel((256, 256)), COLOURS["B"])
         told = subprocess.run(["icns2png", "-l", os.path.join(self.library, "Blue", "C.icns")], capture_output=True,
                               text=True, check=True)
         self.assertIn("512x512", told.stdout)
-        self.put_tip_away(program)
         self.picture("library-4-chosen")
         self.key("ctrl+q")
         self.assertEqual(program.wait_end(), 0)
