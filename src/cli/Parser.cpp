@@ -42,7 +42,8 @@ void Parser::addLook(CLI::App& command) {
   for (const EffectPreset& preset : effectPresets())
     effects += (effects.empty() ? "" : ", ") + std::string(preset.name);
   option("-l,--label", "TEXT", "Label; \\n breaks the line, \\\\ is a backslash");
-  option("-b,--base", "PICTURE", "Picture to draw on (icns, PNG, JPEG, TIFF ...) instead of the folder's icon");
+  option("-b,--base", "PICTURE",
+         "Picture to draw on (icns, PNG, JPEG ...) or SET/ICON of the library, instead of the folder's icon");
   option("--font", "NAME", "Family, or family and style, e.g. \"DejaVu Sans Bold\" [system font, bold]");
   option("--size", "POINTS", "Font size on a 128 point icon; shrinks to fit [what fits the folder's front]");
   option("--color", "COLOR", "#rgb, #rrggbb, #rrggbbaa or a name [black]");
@@ -217,7 +218,7 @@ void Parser::addSets() {
     added->add_option(operand, paths, operandText)->type_name("");
     addCommon(*added);
   };
-  one(Command::SetsAdd, "add", "Make icons of a set of pictures, icns files or what files and folders show",
+  one(Command::SetsAdd, "add", "Add pictures and icns files to a set, or the icons that other files and folders show",
       "SET FILE...", "FILES", "SET and one or more files or folders", {"quorvane sets add \"My Folders\" box.png"});
   one(Command::SetsNew, "new", "Make an empty set", "NAME", "NAME", "Name of the set",
       {"quorvane sets new \"My Folders\""});
