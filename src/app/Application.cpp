@@ -39,6 +39,7 @@
 #include "ui/ApplicationIcon.h"
 #include "ui/CaretRest.h"
 #include "ui/DesktopAppearance.h"
+#include "ui/FirstFrame.h"
 #include "ui/SharedPanels.h"
 #include "ui/Theme.h"
 
@@ -102,7 +103,6 @@ int runApplication(int argc, char** argv) {
   QCoreApplication::setApplicationName(QStringLiteral("Quorvane"));
   QCoreApplication::setApplicationVersion(QStringLiteral(QUORVANE_VERSION));
   QGuiApplication::setDesktopFileName(QStringLiteral(QUORVANE_APP_ID));
-  QGuiApplication::setWindowIcon(applicationIcon(QStringLiteral(QUORVANE_APP_ID)));
   // The panels are windows too: the main one alone decides.
   QGuiApplication::setQuitOnLastWindowClosed(false);
 
@@ -184,6 +184,8 @@ int runApplication(int argc, char** argv) {
 
   controller->awakeFromNib();
   controller->outlets()._folderView->awakeFromNib(settings::startFont(defaults));
+  // To search the theme for it takes a tenth of the start, and the desktop has it from the program's entry anyway.
+  afterFirstFrame(window, [] { QGuiApplication::setWindowIcon(applicationIcon(QStringLiteral(QUORVANE_APP_ID))); });
   window.show();
   const auto open = [&](const OpenRequest& wish, const std::function<void(const std::filesystem::path&)>& refused) {
     for (const auto& folder : wish.paths) controller->openArgument(folder, [refused, folder] { refused(folder); });

@@ -2,13 +2,13 @@
 #include "ui/Theme.h"
 
 #include <QApplication>
-#include <QStyleFactory>
 #include <algorithm>
 #include <cmath>
 
 #include "ui/ColorText.h"
 #include "ui/DesktopAppearance.h"
 #include "ui/Motion.h"
+#include "ui/ThemeStyle.h"
 #include "ui/WindowResources.h"
 
 namespace quorvane {
@@ -198,7 +198,7 @@ void Theme::apply() {
 }
 
 QPalette Theme::_setPalette() {
-  if (!_prepared) QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+  if (!_prepared) QApplication::setStyle(new ThemeStyle);
   _prepared = true;
   const QPalette colors = palette(isDark(), _appearance ? _appearance->accent() : std::nullopt,
                                   _appearance && _appearance->prefersHighContrast());
