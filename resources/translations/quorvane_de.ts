@@ -444,7 +444,7 @@
     </message>
     <message>
         <source>Portable Drive</source>
-        <translation>Mobile Festplatte</translation>
+        <translation>Externe Platte</translation>
     </message>
     <message>
         <source>Memory Card</source>
