@@ -2,7 +2,7 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
 """translations.py update | check
 
-update  brings resources/translations/*.ts up to date with the texts in src/ and the titles of the emblems; what is
+update  brings resources/translations/*.ts up to date with the texts in src/ and the titles of what is drawn; what is
         new there is marked as unfinished, what nobody looks up any more goes
 check   changes nothing, and says what of those texts is missing or unfinished, where a translation differs from its text
         in its places (%1, %n, %@ ...), its access key or its "…", and where the program looks in a context that has no
@@ -27,14 +27,25 @@ def language_of(path):
     return re.fullmatch(r"quorvane_(\w+)\.ts", os.path.basename(path))[1]
 
 
+def drawn_titles():
+    """(context, title) of what is drawn: emblems, and the sets and icons of the built-in library."""
+    with open(os.path.join(ROOT, "resources/emblems/emblems.json"), encoding="utf-8") as source:
+        for emblem in json.load(source):
+            yield "Emblems", emblem["title"]
+    with open(os.path.join(ROOT, "resources/library/library.json"), encoding="utf-8") as source:
+        for icons in json.load(source)["sets"]:
+            yield "BuiltinLibrary", icons["name"]
+            for icon in icons["icons"]:
+                yield "BuiltinLibrary", icon if isinstance(icon, str) else icon["name"]
+
+
 def update(files):
     """Runs lupdate over the files; gives what it warned of."""
     with tempfile.TemporaryDirectory() as scratch:
-        titles = os.path.join(scratch, "emblems.cpp")
-        with open(os.path.join(ROOT, "resources/emblems/emblems.json"), encoding="utf-8") as source, \
-                open(titles, "w", encoding="utf-8") as target:
-            for emblem in json.load(source):
-                target.write(f'const char* t = QT_TRANSLATE_NOOP("Emblems", {json.dumps(emblem["title"])});\n')
+        titles = os.path.join(scratch, "titles.cpp")
+        with open(titles, "w", encoding="utf-8") as target:
+            for context, title in drawn_titles():
+                target.write(f'const char* t = QT_TRANSLATE_NOOP("{context}", {json.dumps(title)});\n')
         said = ""
         for path in files:
             plural = ["-pluralonly"] if language_of(path) == "en" else []

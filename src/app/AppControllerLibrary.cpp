@@ -1,7 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The icon library beside the canvas.
-#include <QFile>
-
 #include "app/AppController.h"
 #include "app/BaseColumn.h"
 #include "app/core/EditHistory.h"
@@ -10,7 +8,6 @@
 #include "library/view/BaseIconController.h"
 #include "library/view/LibraryPage.h"
 #include "library/view/LibraryView.h"
-#include "ui/ElidedLabel.h"
 
 namespace quorvane {
 
@@ -27,7 +24,7 @@ void AppController::_connectLibrary() {
   if (const auto side = settings::value(defaults, settings::libraryIconSide); side > 0)
     view.setIconSide(static_cast<int>(std::min<qint64>(side, 1024)));
   const auto width = settings::value(defaults, settings::librarySetsWidth);
-  view.setSetsWidth(width > 0 ? static_cast<int>(std::min<qint64>(width, 1024)) : 130);
+  view.setSetsWidth(width > 0 ? static_cast<int>(std::min<qint64>(width, 1024)) : 156);
   view.setLibrary(settings::value(defaults, settings::libraryShowsCustom) ? LibraryView::Custom : LibraryView::Builtin);
   // Kept once it has come to rest: a slider says so at every step.
   _libraryLayoutTimer.setSingleShot(true);
@@ -56,7 +53,7 @@ void AppController::_chooseFromLibrary(const std::optional<Image>& image, const 
   setBaseIcon(image);
   if (!image || !_path) return;
   _basePicture = path;
-  _baseColumn->setPictureName(visibleText(QFile::decodeName(path.stem().c_str())));
+  _baseColumn->setPictureName(_baseIconController->shownName(path));
 }
 
 }  // namespace quorvane

@@ -2,6 +2,7 @@
 // Editing the lists of sets and icons.
 #include <QLineEdit>
 #include <QTextDocument>
+#include <QTranslator>
 
 #include "LibraryFixture.h"
 #include "library/view/EmptyState.h"
@@ -185,6 +186,35 @@ TEST_F(LibraryViewTest, FindsIconsOfBothLibraries) {
   view->perform(LibraryCommand::Find);
   QTest::keyClick(view->searchField(), Qt::Key_Escape);
   EXPECT_FALSE(found.isVisible());
+}
+
+TEST_F(LibraryViewTest, BuiltinNamesAreShownInTheUsersLanguageAndFoundInBoth) {
+  class Language : public QTranslator {
+    [[nodiscard]] bool isEmpty() const override { return false; }
+    [[nodiscard]] QString translate(const char* context, const char* text, const char*, int) const override {
+      if (context != std::string_view("BuiltinLibrary")) return {};
+      return text == std::string_view("Cat")      ? QStringLiteral("Katze")
+             : text == std::string_view("Beasts") ? QStringLiteral("Tiere")
+                                                  : QString();
+    }
+  } language;
+  QCoreApplication::installTranslator(&language);
+  makeSet("Beasts", {"Cat"});
+  makeSet("Beasts", {"Cat", "Lion"}, "BaseIcons");
+  open();
+  LibrarySearch& found = *view->searchResults();
+  const auto finds = [&](const char* words) {
+    view->searchField()->setText(QLatin1String(words));
+    QStringList names;
+    for (int row = 0; row < found.model()->rowCount(); ++row)
+      names << found.model()->index(row, 0).data(Qt::AccessibleTextRole).toString();
+    return names.join(QStringLiteral("; ")).toStdString();
+  };
+  EXPECT_EQ(finds("cat"), "Cat, in Beasts; Katze, built-in, in Tiere");
+  EXPECT_EQ(finds("tiere lion"), "Lion, built-in, in Tiere");
+  EXPECT_EQ(controller->shownName(tree / "BaseIcons/Beasts/Cat.icns"), QStringLiteral("Katze"));
+  EXPECT_EQ(controller->shownName(tree / "Icons/Beasts/Cat.icns"), QStringLiteral("Cat"));
+  QCoreApplication::removeTranslator(&language);
 }
 
 TEST_F(LibraryViewTest, NamesAreNoMarkup) {

@@ -8,6 +8,7 @@
 
 #include "library/core/IconImages.h"
 #include "library/view/LibraryTableView.h"
+#include "library/view/LibraryTexts.h"
 #include "library/view/RowsPasteboard.h"
 
 namespace quorvane {
@@ -152,6 +153,11 @@ bool BaseIconController::validateMenuItem(QAction& item) const {
   const int n = _customTableView->numberOfSelectedRows();
   item.setText(n < 2 ? tr("Remove Selected Icon") : tr("Remove Selected Icons"));
   return n > 0;
+}
+
+QString BaseIconController::shownName(const Path& path) const {
+  const QString name = shownIconName({.path = path, .name = path.filename().string(), .image = {}});
+  return path.parent_path().parent_path() == _baseIconsPath ? builtinName(name) : name;
 }
 
 void BaseIconController::importSet() {

@@ -86,6 +86,8 @@ class BaseIconController : public QObject, public TableDropDelegate {
   bool paste(const QMimeData& pasteboard);
   /// The selected icons of the list that has a selection, as files and as a picture; null without any. The caller's.
   [[nodiscard]] QMimeData* copy() const;
+  /// What the lists call the icon of a file of one of the two libraries.
+  [[nodiscard]] QString shownName(const Path& path) const;
   /// Asks for a zip file or a folder and makes a set of it.
   void importSet();
   /// Asks where to, and writes the selected set as a zip file.

@@ -9,6 +9,7 @@
 #include "library/view/IconAdder.h"
 #include "library/view/IconSetArrayController.h"
 #include "library/view/LibraryPrompts.h"
+#include "library/view/LibraryTexts.h"
 #include "ui/Texts.h"
 
 namespace quorvane {
@@ -64,6 +65,11 @@ void IconArrayController::_watch() {
 std::shared_ptr<IconSet> IconArrayController::iconSet() const {
   const auto selected = _iconSetArrayController.selectedObjects();
   return selected.size() == 1 ? selected.front() : nullptr;
+}
+
+QString IconArrayController::shownName(const IconRecord& icon) const {
+  const QString name = shownIconName(icon);
+  return _undo ? name : builtinName(name);
 }
 
 void IconArrayController::add() {

@@ -31,6 +31,9 @@ class IconArrayController : public ArrayController<IconRecord> {
   /// The set whose icons these are; null when there is none.
   [[nodiscard]] std::shared_ptr<IconSet> iconSet() const;
 
+  /// What the list calls an icon: shownIconName(), a built-in one in the user's language.
+  [[nodiscard]] QString shownName(const IconRecord& icon) const;
+
   /// Asks for a file or folder and adds its icon to the first selected set.
   void add();
   /// Asks, then removes the selected icons and their files.

@@ -16,6 +16,7 @@
 #include "library/view/IconArrayController.h"
 #include "library/view/LibraryPrompts.h"
 #include "library/view/LibraryTableView.h"
+#include "library/view/LibraryTexts.h"
 #include "library/view/RowsPasteboard.h"
 #include "ui/ElidedLabel.h"
 #include "ui/Texts.h"
@@ -54,8 +55,9 @@ void IconSetArrayController::awakeFromNib() {
   _tableView->setDropDelegate(this);
 }
 
-QString IconSetArrayController::shownName(const IconSet& set) {
-  return visibleText(QFile::decodeName(set.name().c_str()));
+QString IconSetArrayController::shownName(const IconSet& set) const {
+  const QString name = visibleText(QFile::decodeName(set.name().c_str()));
+  return _library ? name : builtinName(name);
 }
 
 std::filesystem::path IconSetArrayController::customIconsPath() const {

@@ -58,8 +58,8 @@ class IconSetArrayController : public ArrayController<std::shared_ptr<IconSet>>,
   /// The drag that moved icons here, if one did, is over, and so is the step of the history.
   void endMove();
 
-  /// What the list calls a set: as visible text.
-  [[nodiscard]] static QString shownName(const IconSet& set);
+  /// What the list calls a set: as visible text, a built-in one in the user's language.
+  [[nodiscard]] QString shownName(const IconSet& set) const;
 
  Q_SIGNALS:
   /// Something went wrong; a sentence.

@@ -64,7 +64,7 @@ QVariant setValue(const IconSetArrayController& sets, int row, int role) {
   const int icons = static_cast<int>(set.icons().size());
   switch (role) {
     case Qt::DisplayRole:
-      return IconSetArrayController::shownName(set);
+      return sets.shownName(set);
     case Qt::EditRole:
       return QFile::decodeName(set.name().c_str());
     case DetailRole:
@@ -72,7 +72,7 @@ QVariant setValue(const IconSetArrayController& sets, int row, int role) {
     case Qt::ToolTipRole:
       return plainToolTip(setValue(sets, row, Qt::AccessibleTextRole).toString());
     case Qt::AccessibleTextRole:
-      return LibraryPage::tr("%1, %2").arg(IconSetArrayController::shownName(set), iconCount(icons));
+      return LibraryPage::tr("%1, %2").arg(sets.shownName(set), iconCount(icons));
     default:
       return {};
   }
@@ -82,7 +82,7 @@ QVariant iconValue(const IconArrayController& icons, int row, int role) {
   const IconRecord& icon = icons.objectAt(row);
   switch (role) {
     case Qt::DisplayRole:
-      return shownIconName(icon);
+      return icons.shownName(icon);
     case Qt::ToolTipRole:
       return plainToolTip(visibleText(QFile::decodeName(icon.name.c_str())));
     case IconRecordRole:

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "library/view/LibrarySearch.h"
 
+#include <QFile>
 #include <QHeaderView>
 #include <algorithm>
 
@@ -20,14 +21,20 @@ void LibraryFinds::search(BaseIconController& controller, const QString& words) 
   for (const bool isBuiltin : {false, true}) {
     const auto& sets =
         isBuiltin ? controller.builtinIconSetArrayController() : controller.customIconSetArrayController();
+    const auto& icons = isBuiltin ? controller.builtinIconArrayController() : controller.customIconArrayController();
     for (const auto& set : sets.arrangedObjects()) {
-      const QString setName = IconSetArrayController::shownName(*set);
+      const QString setName = sets.shownName(*set);
+      // The command line knows a built-in icon by its English name alone.
+      const QString fileSetName = QFile::decodeName(set->name().c_str());
       for (const IconRecord& icon : set->icons()) {
-        const QString name = shownIconName(icon);
+        const QString name = icons.shownName(icon);
+        const QStringList names{name, setName, shownIconName(icon), fileSetName};
         const auto has = [&](const QString& word) {
-          return name.contains(word, Qt::CaseInsensitive) || setName.contains(word, Qt::CaseInsensitive);
+          return std::ranges::any_of(names,
+                                     [&](const QString& each) { return each.contains(word, Qt::CaseInsensitive); });
         };
-        if (!wanted.isEmpty() && std::ranges::all_of(wanted, has)) _finds.push_back({set, icon, isBuiltin});
+        if (!wanted.isEmpty() && std::ranges::all_of(wanted, has))
+          _finds.push_back({set, icon, name, setName, isBuiltin});
       }
     }
   }
@@ -40,16 +47,15 @@ int LibraryFinds::rowCount(const QModelIndex& parent) const {
 
 QVariant LibraryFinds::data(const QModelIndex& index, int role) const {
   const Find& find = at(index.row());
-  const QString set = IconSetArrayController::shownName(*find.set);
   switch (role) {
     case Qt::DisplayRole:
-      return shownIconName(find.icon);
+      return find.name;
     case DetailRole:
-      return set;
+      return find.setName;
     case Qt::ToolTipRole:
       return plainToolTip(data(index, Qt::AccessibleTextRole).toString());
     case Qt::AccessibleTextRole:
-      return (find.isBuiltin ? tr("%1, built-in, in %2") : tr("%1, in %2")).arg(shownIconName(find.icon), set);
+      return (find.isBuiltin ? tr("%1, built-in, in %2") : tr("%1, in %2")).arg(find.name, find.setName);
     case IconRecordRole:
       return QVariant::fromValue(find.icon);
     default:

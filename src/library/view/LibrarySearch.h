@@ -22,6 +22,8 @@ class LibraryFinds : public QAbstractListModel {
   struct Find {
     std::shared_ptr<IconSet> set;
     IconRecord icon;
+    QString name;  ///< as shown
+    QString setName;
     bool isBuiltin = false;
   };
   using QAbstractListModel::QAbstractListModel;

@@ -16,6 +16,10 @@ QString shownIconName(const IconRecord& icon) {
   return visibleText(name);
 }
 
+QString builtinName(const QString& name) {
+  return QCoreApplication::translate("BuiltinLibrary", name.toUtf8().constData());
+}
+
 QString iconCount(int icons) {
   return icons == 1 ? QCoreApplication::translate("Library", "1 icon")
                     : QCoreApplication::translate("Library", "%n icons", nullptr, icons);
