@@ -2213,6 +2213,10 @@ Vielen Dank!</translation>
         <source>Drop pictures, icon files or folders here.</source>
         <translation>Legen Sie hier Bilder, Symboldateien oder Ordner ab.</translation>
     </message>
+    <message>
+        <source>Add…</source>
+        <translation>Hinzufügen…</translation>
+    </message>
 </context>
 <context>
     <name>quorvane::MainMenu</name>

@@ -2209,6 +2209,10 @@ Thank you!</source>
         <source>Drop pictures, icon files or folders here.</source>
         <translation>ここに画像、アイコンファイル、フォルダーをドロップしてください。</translation>
     </message>
+    <message>
+        <source>Add…</source>
+        <translation>追加…</translation>
+    </message>
 </context>
 <context>
     <name>quorvane::MainMenu</name>

@@ -111,7 +111,7 @@ TEST(Arguments, WrongUseSaysWhatAndEndsWithTwo) {
            Row{{"icns"}, "a command is missing"},
            Row{{"apply", "x", "--label"}, "--label needs a value"},
            Row{{"apply", "--label", "a", "-l", "b", "x"}, "--label is given more than once"},
-           Row{{"status", "--json=3x", "x"}, "--json takes no value"},
+           Row{{"status", "--json=x", "x"}, "--json takes no value"},
            Row{{"render", "--pixels", "10.5", "out.png"}, "whole number"},
            Row{{"render", "out.bmp"}, "'out.bmp' must end in .png"},
            Row{{"render", "--max-size", "9", "out.png"}, "are for a JPEG"},
