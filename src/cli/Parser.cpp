@@ -77,7 +77,7 @@ void Parser::addCommon(CLI::App& command) {
 Parser::Parser() {
   app.name("quorvane");
   app.set_help_flag("-h,--help", "Print this help");
-  app.set_version_flag("--version", "quorvane " QUORVANE_VERSION);
+  app.set_version_flag("--version", "quorvane " QUORVANE_VERSION, "Print the version and exit");
   // Ends the program as the version does, and before a command is asked for.
   app.add_flag_callback(
       "--list-emblems", [] { throw CLI::CallForVersion(emblemList(), 0); }, "Print the names of the emblems and exit");
