@@ -26,7 +26,7 @@ void AppController::_connectLibrary() {
   const auto width = settings::value(defaults, settings::librarySetsWidth);
   // The longest name of the built-in sets with its count, in fonts of any size.
   view.setSetsWidth(width > 0 ? static_cast<int>(std::min<qint64>(width, 1024))
-                              : std::max(156, 8 * view.fontMetrics().height()));
+                              : std::max(162, 8 * view.fontMetrics().height()));
   view.setLibrary(settings::value(defaults, settings::libraryShowsCustom) ? LibraryView::Custom : LibraryView::Builtin);
   // Kept once it has come to rest: a slider says so at every step.
   _libraryLayoutTimer.setSingleShot(true);

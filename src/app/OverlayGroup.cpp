@@ -28,7 +28,6 @@ constexpr int drawingSide = 16;
 
 OverlayGroup::OverlayGroup(ColorPanel* panel)
     : _chooseButton(new QPushButton),
-      _details(new QWidget),
       _removeButton(new QPushButton(actionIcon(QStringLiteral("remove")), QString())),
       _well(new HVColorWell(panel)),
       _autoButton(new QPushButton(tr("Automatic"))) {

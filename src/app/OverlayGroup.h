@@ -54,7 +54,7 @@ class OverlayGroup : public QObject {
 
   QWidget* _card;
   QPushButton* _chooseButton;
-  QWidget* _details;
+  QWidget* _details = nullptr;
   QPushButton* _removeButton;
   Slider* _sizeSlider;
   Slider* _opacitySlider;

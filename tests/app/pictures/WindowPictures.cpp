@@ -162,7 +162,7 @@ void takeLibrary(Pictures& pictures) {
   view.setIconSide(128);
   view.setSetsWidth(90);
   pictures.take(test.window, QStringLiteral("15-library-large"), 2500);
-  view.setSetsWidth(130);
+  view.setSetsWidth(162);
   view.setIconSide(64);
   const auto dragged = std::make_unique<QMimeData>();
   dragged->setUrls({QUrl::fromLocalFile(QStringLiteral("/tmp/a.png"))});
