@@ -6,6 +6,8 @@
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QStyle>
+#include <QStyleOptionButton>
+#include <QStylePainter>
 #include <QVBoxLayout>
 #include <initializer_list>
 
@@ -62,11 +64,23 @@ PopUpButton* makeEffects() {
   return effects;
 }
 
+/// Shortens a long name in the middle, so that family and style are told; the tool tip has all of it.
+class FontButton : public QPushButton {
+ protected:
+  void paintEvent(QPaintEvent* /*event*/) override {
+    QStyleOptionButton option;
+    initStyleOption(&option);
+    const int room = style()->subElementRect(QStyle::SE_PushButtonContents, &option, this).width();
+    option.text = fontMetrics().elidedText(option.text, Qt::ElideMiddle, room, Qt::TextShowMnemonic);
+    QStylePainter(this).drawControl(QStyle::CE_PushButton, option);
+  }
+};
+
 }  // namespace
 
 QWidget* makeInspector(Outlets& outlets, SharedPanels& panels) {
   InspectorCard text(tr("Text"));
-  outlets._fontBtn = new QPushButton;
+  outlets._fontBtn = new FontButton;
   outlets._fontBtn->setCheckable(true);
   text.addRow(tr("Fon&t"), outlets._fontBtn);
   // The button says the font, which may be long; the card's width is fixed.

@@ -27,7 +27,7 @@ std::string statusInWords(const FolderStatus& status) {
                                               : "has no custom icon";
   if (status.hasBackup) words += ", a backup to revert to";
   if (status.hasRecord) words += ", a record to reset from";
-  if (status.bytes > 0) words += " (" + sizeInWords(status.bytes) + ")";
+  if (status.bytes > 0) words += " (" + sizeInWords(status.bytes) + " in all)";
   for (const std::string& fault : faultWords(status)) words += "; " + printable(fault);
   return words;
 }

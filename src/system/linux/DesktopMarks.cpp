@@ -211,7 +211,7 @@ Result<std::vector<std::string>> DesktopMarks::faults(const Folder& folder, cons
     const std::string present = text->value_or(std::string());
     const bool isRight = wanted.picture ? directoryfile::withIcon(present, pathsOf(folder, *wanted.picture)) == present
                                         : !directoryfile::namesIcon(present, isMarkPicture);
-    if (!isRight) faults.push_back("KDE's and LXQt's file managers " + subject + "'.directory'");
+    if (!isRight) faults.push_back("KDE's or LXQt's file managers " + subject + "their lines in '.directory'");
   } else if (!isLasting(text.error())) {
     return text.error();
   }
