@@ -14,7 +14,7 @@ namespace quorvane::cli {
 namespace {
 
 Error nothingToApply() {
-  return Error::invalidInput("nothing to apply: give a --label, a --base, a --tint or an --overlay");
+  return Error::invalidInput("nothing to apply: give a --label, a --base, a --tint, an --overlay or a --look");
 }
 
 using Clock = std::chrono::steady_clock;
