@@ -84,7 +84,7 @@
     </message>
     <message>
         <source>Teal</source>
-        <translation>Petrol</translation>
+        <translation>Blaugrün</translation>
     </message>
     <message>
         <source>Green</source>
@@ -494,7 +494,7 @@
         <translation>Magenta</translation>
     </message>
     <message>
-        <source>gray</source>
+        <source>grey</source>
         <translation>Grau</translation>
     </message>
     <message>
@@ -1829,7 +1829,7 @@ Vielen Dank!</translation>
 <context>
     <name>quorvane::ColorPanel</name>
     <message>
-        <source>Colors</source>
+        <source>Colours</source>
         <translation>Farben</translation>
     </message>
 </context>
@@ -2213,6 +2213,10 @@ Vielen Dank!</translation>
         <source>Drop pictures, icon files or folders here.</source>
         <translation>Legen Sie hier Bilder, Symboldateien oder Ordner ab.</translation>
     </message>
+    <message>
+        <source>Add…</source>
+        <translation>Hinzufügen…</translation>
+    </message>
 </context>
 <context>
     <name>quorvane::MainMenu</name>
@@ -2281,7 +2285,7 @@ Vielen Dank!</translation>
         <translation>&amp;Ordnerpfad einfügen</translation>
     </message>
     <message>
-        <source>C&amp;enter Label</source>
+        <source>C&amp;entre Label</source>
         <translation>Beschriftung &amp;zentrieren</translation>
     </message>
     <message>
@@ -2574,8 +2578,8 @@ Vielen Dank!</translation>
         <translation>Name der Vorlage</translation>
     </message>
     <message>
-        <source>Font, colour, effect, spacing, transform and place of the label are kept, and the chosen picture.</source>
-        <translation>Gespeichert werden Schriftart, Farbe, Effekt, Abstand, Transformation und Lage der Beschriftung sowie das gewählte Bild.</translation>
+        <source>Font, colour, effect, spacing, transform and place of the label are kept, and the chosen picture, tint and overlay.</source>
+        <translation>Gespeichert werden Schriftart, Farbe, Effekt, Abstand, Transformation und Lage der Beschriftung sowie das gewählte Bild, Tönung und Abzeichen.</translation>
     </message>
     <message>
         <source>This cannot be a name: %1</source>
@@ -2613,7 +2617,7 @@ Vielen Dank!</translation>
         <translation>Umschalt+Pfeiltasten</translation>
     </message>
     <message>
-        <source>Center the label</source>
+        <source>Centre the label</source>
         <translation>Beschriftung zentrieren</translation>
     </message>
     <message>

@@ -494,7 +494,7 @@
         <translation>マゼンタ</translation>
     </message>
     <message>
-        <source>gray</source>
+        <source>grey</source>
         <translation>グレー</translation>
     </message>
     <message>
@@ -1828,7 +1828,7 @@ Thank you!</source>
 <context>
     <name>quorvane::ColorPanel</name>
     <message>
-        <source>Colors</source>
+        <source>Colours</source>
         <translation>カラー</translation>
     </message>
 </context>
@@ -2209,6 +2209,10 @@ Thank you!</source>
         <source>Drop pictures, icon files or folders here.</source>
         <translation>ここに画像、アイコンファイル、フォルダーをドロップしてください。</translation>
     </message>
+    <message>
+        <source>Add…</source>
+        <translation>追加…</translation>
+    </message>
 </context>
 <context>
     <name>quorvane::MainMenu</name>
@@ -2277,7 +2281,7 @@ Thank you!</source>
         <translation>フォルダーのパスを貼り付け(&amp;F)</translation>
     </message>
     <message>
-        <source>C&amp;enter Label</source>
+        <source>C&amp;entre Label</source>
         <translation>ラベルを中央に配置(&amp;E)</translation>
     </message>
     <message>
@@ -2570,8 +2574,8 @@ Thank you!</source>
         <translation>プリセットの名前</translation>
     </message>
     <message>
-        <source>Font, colour, effect, spacing, transform and place of the label are kept, and the chosen picture.</source>
-        <translation>ラベルのフォント、色、効果、行間、変形、位置と、選択した画像が保存されます。</translation>
+        <source>Font, colour, effect, spacing, transform and place of the label are kept, and the chosen picture, tint and overlay.</source>
+        <translation>ラベルのフォント、色、効果、行間、変形、位置と、選択した画像、色合い、バッジが保存されます。</translation>
     </message>
     <message>
         <source>This cannot be a name: %1</source>
@@ -2609,7 +2613,7 @@ Thank you!</source>
         <translation>Shift+矢印キー</translation>
     </message>
     <message>
-        <source>Center the label</source>
+        <source>Centre the label</source>
         <translation>ラベルを中央に配置</translation>
     </message>
     <message>

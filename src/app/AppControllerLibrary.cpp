@@ -24,7 +24,9 @@ void AppController::_connectLibrary() {
   if (const auto side = settings::value(defaults, settings::libraryIconSide); side > 0)
     view.setIconSide(static_cast<int>(std::min<qint64>(side, 1024)));
   const auto width = settings::value(defaults, settings::librarySetsWidth);
-  view.setSetsWidth(width > 0 ? static_cast<int>(std::min<qint64>(width, 1024)) : 162);
+  // The longest name of the built-in sets with its count, in fonts of any size.
+  view.setSetsWidth(width > 0 ? static_cast<int>(std::min<qint64>(width, 1024))
+                              : std::max(162, 8 * view.fontMetrics().height()));
   view.setLibrary(settings::value(defaults, settings::libraryShowsCustom) ? LibraryView::Custom : LibraryView::Builtin);
   // Kept once it has come to rest: a slider says so at every step.
   _libraryLayoutTimer.setSingleShot(true);

@@ -72,7 +72,8 @@ void SaveLookSheet::_judge() {
   _save->setEnabled(file.ok());
   if (name().isEmpty())
     _remark->setText(
-        tr("Font, colour, effect, spacing, transform and place of the label are kept, and the chosen picture."));
+        tr("Font, colour, effect, spacing, transform and place of the label are kept, and the chosen picture, tint and "
+           "overlay."));
   else if (!file)
     _remark->setText(tr("This cannot be a name: %1").arg(visibleText(QString::fromStdString(file.error().why()))));
   else if (std::ranges::find(_taken, name()) != _taken.end())

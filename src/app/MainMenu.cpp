@@ -53,7 +53,7 @@ MainMenu::MainMenu(QMainWindow& window) : QObject(&window), _window(window) {
                         {C::SelectAll, tr("Select &All"), {K(Qt::CTRL | Qt::Key_A)}},
                         line,
                         {C::PasteFolderPath, tr("Paste &Folder Path"), {K(Qt::CTRL | Qt::SHIFT | Qt::Key_V)}},
-                        {C::CenterLabel, tr("C&enter Label"), {K(Qt::CTRL | Qt::Key_Period)}, "center"},
+                        {C::CenterLabel, tr("C&entre Label"), {K(Qt::CTRL | Qt::Key_Period)}, "center"},
                         line,
                         {C::Preferences, tr("Prefere&nces…"), {K(Qt::CTRL | Qt::Key_Comma)}, "settings"}});
   addMenu(tr("St&yle"), {{C::ShowFont, tr("&Font"), {K(Qt::CTRL | Qt::Key_T)}, "font"},

@@ -33,7 +33,7 @@ ShortcutsSheet::ShortcutsSheet(const MainMenu& menu) {
       {tr("Canvas"),
        {{tr("Move the label by 1"), tr("Arrow keys")},
         {tr("Move the label by 10"), tr("Shift+Arrow keys")},
-        {tr("Center the label"), QKeySequence(Qt::Key_Home).toString(QKeySequence::NativeText)},
+        {tr("Centre the label"), QKeySequence(Qt::Key_Home).toString(QKeySequence::NativeText)},
         {tr("Put the label back while it is dragged"), QKeySequence(Qt::Key_Escape).toString(QKeySequence::NativeText)},
         {tr("Move the overlay instead, or the label again"),
          QKeySequence(Qt::Key_Space).toString(QKeySequence::NativeText)}}});
@@ -52,7 +52,8 @@ ShortcutsSheet::ShortcutsSheet(const MainMenu& menu) {
   int row = 0;
   std::size_t done = 0;
   for (const auto& group : groups) {
-    if (!grid || (columns->count() == 1 && done >= rowCount / 2)) {
+    // The second column begins where most of the group would lie below the middle.
+    if (!grid || (columns->count() == 1 && 2 * done + group.shortcuts.size() + 2 > rowCount)) {
       if (grid) grid->setRowStretch(row, 1);
       grid = new QGridLayout;
       grid->setHorizontalSpacing(24);

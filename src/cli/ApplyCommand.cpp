@@ -21,7 +21,8 @@ using Clock = std::chrono::steady_clock;
 
 /// What was drawn on what, for those who want to know.
 std::string explanation(const Look& look, const std::optional<BaseReference>& base, Clock::duration taken) {
-  const std::string label = look.label.isNull() ? "no label" : "label '" + look.label.toStdString() + "'";
+  const QString inOneLine = QString(look.label).replace(QLatin1Char('\n'), QStringLiteral("\\n"));
+  const std::string label = look.label.isNull() ? "no label" : "label '" + inOneLine.toStdString() + "'";
   const std::string on = base ? base->shown().string() : "the icon from before the first apply";
   const auto milliseconds = std::chrono::duration_cast<std::chrono::milliseconds>(taken).count();
   return printable(label) + " on " + printable(on) + ", " + std::to_string(milliseconds) + " ms";

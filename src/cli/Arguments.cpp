@@ -75,11 +75,30 @@ PathCount pathCount(Command command) {
   }
 }
 
+/// The words that lead to a command, each with a space behind it: "icns make ".
+std::string wordsOf(const CLI::App& command) {
+  return command.get_parent() == nullptr ? "" : wordsOf(*command.get_parent()) + command.get_name() + " ";
+}
+
 /// Says what is wrong and how the command is used.
 Finished complain(const std::string& what, const CLI::App& command) {
   std::fprintf(stderr, "quorvane: %s\n%s\nTry 'quorvane %s--help'.\n", what.c_str(), useLine(command).c_str(),
-               command.get_parent() == nullptr ? "" : (command.get_name() + " ").c_str());
+               wordsOf(command).c_str());
   return {exitWrongUse};
+}
+
+/// What the library that reads the arguments has found, in words like all the others. It names the option in front
+/// of a colon ("--label: 1 required TEXT missing"), and of a flag with a value behind one ("...: --json = x").
+std::string complaintOf(const CLI::ParseError& error) {
+  const std::string words = printable(std::string_view(error.what()));
+  const std::size_t colon = words.find(':');
+  if (dynamic_cast<const CLI::RequiredError*>(&error) != nullptr) return "a command is missing";
+  if (colon == std::string::npos) return words;
+  if (dynamic_cast<const CLI::ConversionError*>(&error) != nullptr)
+    return words.substr(colon + 2, words.find(" = ", colon) - colon - 2) + " takes no value";
+  if (dynamic_cast<const CLI::ArgumentMismatch*>(&error) != nullptr)
+    return words.substr(0, colon) + (words.ends_with(" missing") ? " needs a value" : " is given more than once");
+  return words;
 }
 
 const CLI::App* chosenCommand(const CLI::App* app) {
@@ -270,7 +289,7 @@ std::variant<Arguments, Finished> parseArguments(int argc, const char* const* ar
     const CLI::App& command = *chosenCommand(&parser.app);
     // A mistyped option may be why something is missing, so it is told first.
     const bool hasExtras = !parser.app.remaining(true).empty();
-    return complain(hasExtras ? unexpected(parser.app, command) : printable(std::string_view(error.what())), command);
+    return complain(hasExtras ? unexpected(parser.app, command) : complaintOf(error), command);
   }
   parser.paths.insert(parser.paths.end(), words.verbatim.begin(), words.verbatim.end());
   for (const auto& [command, app] : parser.commands) {

@@ -38,16 +38,13 @@ void Parser::addLook(CLI::App& command) {
   const auto option = [&](const std::string& names, const char* type, const std::string& what) {
     command.add_option(names, look[names.substr(names.find("--") + 2)], what)->type_name(type);
   };
-  std::string effects;
-  for (const EffectPreset& preset : effectPresets())
-    effects += (effects.empty() ? "" : ", ") + std::string(preset.name);
   option("-l,--label", "TEXT", "Label; \\n breaks the line, \\\\ is a backslash");
   option("-b,--base", "PICTURE",
          "Picture to draw on (icns, PNG, JPEG ...) or SET/ICON of the library, instead of the folder's icon");
   option("--font", "NAME", "Family, or family and style, e.g. \"DejaVu Sans Bold\" [system font, bold]");
   option("--size", "POINTS", "Font size on a 128 point icon; shrinks to fit [what fits the folder's front]");
   option("--color", "COLOR", "#rgb, #rrggbb, #rrggbbaa or a name [black]");
-  option("--effect", "NAME", "Shadow: " + effects + " [none]");
+  option("--effect", "NAME", "Shadow: " + effectNames() + " [none]");
   option("--line-spacing", "FACTOR", "Largest line height by the font's own; 0 sets no limit [1]");
   option("--shear", "FACTOR", "Upward slant to the right [0]");
   option("--rotate", "DEGREES", "Rotation, counter-clockwise [0]");
@@ -80,7 +77,7 @@ void Parser::addCommon(CLI::App& command) {
 Parser::Parser() {
   app.name("quorvane");
   app.set_help_flag("-h,--help", "Print this help");
-  app.set_version_flag("--version", "quorvane " QUORVANE_VERSION);
+  app.set_version_flag("--version", "quorvane " QUORVANE_VERSION, "Print the version and exit");
   // Ends the program as the version does, and before a command is asked for.
   app.add_flag_callback(
       "--list-emblems", [] { throw CLI::CallForVersion(emblemList(), 0); }, "Print the names of the emblems and exit");

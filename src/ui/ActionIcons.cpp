@@ -63,7 +63,9 @@ class ActionIconEngine : public QIconEngine {
   [[nodiscard]] QColor _color(QIcon::Mode mode) const {
     const QPalette palette = QGuiApplication::palette();
     if (mode == QIcon::Disabled) return palette.color(QPalette::Disabled, _role);
-    return palette.color(QPalette::Active, mode == QIcon::Selected ? QPalette::HighlightedText : _role);
+    // The toolkit calls a button with the keys active, and the item of a menu that is lit.
+    const bool isLit = mode == QIcon::Selected || (mode == QIcon::Active && _role == QPalette::Text);
+    return palette.color(QPalette::Active, isLit ? QPalette::HighlightedText : _role);
   }
 
   QString _name;

@@ -5,7 +5,7 @@
 
 namespace quorvane {
 
-ColorPanel::ColorPanel() : FloatingPanel(tr("Colors")) {}
+ColorPanel::ColorPanel() : FloatingPanel(tr("Colours")) {}
 
 QWidget* ColorPanel::_makeContent() {
   _dialog = new PanelContent<QColorDialog>;

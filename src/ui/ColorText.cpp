@@ -15,7 +15,7 @@ constexpr std::pair<QRgb, const char*> names[] = {
     {0xffff0000, QT_TRANSLATE_NOOP("ColorNames", "red")},   {0xff00ff00, QT_TRANSLATE_NOOP("ColorNames", "green")},
     {0xff0000ff, QT_TRANSLATE_NOOP("ColorNames", "blue")},  {0xffffff00, QT_TRANSLATE_NOOP("ColorNames", "yellow")},
     {0xff00ffff, QT_TRANSLATE_NOOP("ColorNames", "cyan")},  {0xffff00ff, QT_TRANSLATE_NOOP("ColorNames", "magenta")},
-    {0xff808080, QT_TRANSLATE_NOOP("ColorNames", "gray")},
+    {0xff808080, QT_TRANSLATE_NOOP("ColorNames", "grey")},
 };
 
 double luminance(const QColor& color) {

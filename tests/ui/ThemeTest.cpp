@@ -58,8 +58,8 @@ TEST(ThemeTest, FollowsTheDesktopAndRecoloursIcons) {
   const auto say = [&](const char* key, const QVariant& value) {
     desktop.take(QStringLiteral("org.freedesktop.appearance"), QLatin1String(key), value);
   };
-  const auto inkOf = [](QIcon::Mode mode) {
-    const QImage image = actionIcon(QStringLiteral("add")).pixmap(24, 24, mode).toImage();
+  const auto inkOf = [](QIcon::Mode mode, QPalette::ColorRole role = QPalette::ButtonText) {
+    const QImage image = actionIcon(QStringLiteral("add"), role).pixmap(24, 24, mode).toImage();
     return image.pixelColor(image.width() / 2, image.height() / 2).rgb();
   };
   const std::pair<uint, bool> schemes[] = {{1, true}, {2, false}, {1, true}, {7, false}};
@@ -69,6 +69,8 @@ TEST(ThemeTest, FollowsTheDesktopAndRecoloursIcons) {
     EXPECT_EQ(QApplication::palette().color(QPalette::Window).lightness() < 128, dark);
     EXPECT_EQ(inkOf(QIcon::Normal), QApplication::palette().color(QPalette::ButtonText).rgb());
     EXPECT_NE(inkOf(QIcon::Disabled), inkOf(QIcon::Normal));
+    EXPECT_EQ(inkOf(QIcon::Active), inkOf(QIcon::Normal)) << "a button with the keys";
+    EXPECT_EQ(inkOf(QIcon::Active, QPalette::Text), QApplication::palette().color(QPalette::HighlightedText).rgb());
   }
   say("accent-color", QColor(120, 60, 200));
   EXPECT_EQ(QApplication::palette().color(QPalette::Highlight), QColor(120, 60, 200));

@@ -42,15 +42,19 @@ bool hasOption(const CommandRow& command, const OptionRow& option) {
   return std::ranges::find(command.options, option) != command.options.end();
 }
 
+// Those that do something by themselves, and not only by the commands below them.
 std::vector<const CommandRow*> workingCommands(const CommandRow& root) {
   auto commands = allCommands(root);
-  std::erase_if(commands, [](const CommandRow* command) { return !command->commands.empty(); });
+  std::erase_if(commands,
+                [](const CommandRow* command) { return !command->commands.empty() && command->operands.empty(); });
   return commands;
 }
 
-// "apply [OPTIONS] FOLDER..." with the words to type in bold and those to replace in italics.
+// "apply [OPTIONS] FOLDER..." with the words to type in bold and those to replace in italics. Commands below it, which
+// stand behind a bar there, have headings of their own.
 std::string heading(const CommandRow& command) {
-  const std::string rest = command.use.size() > command.name.size() ? command.use.substr(command.name.size()) : "";
+  const std::string use = command.use.substr(0, command.use.find(" | "));
+  const std::string rest = use.size() > command.name.size() ? use.substr(command.name.size()) : "";
   return ".SS \"\\fB" + roff(command.name) + "\\fR\\fI" + roff(rest) + "\\fR\"\n";
 }
 
@@ -83,6 +87,7 @@ std::string manualCommands(const CommandRow& root) {
   text += ".SH OPTIONS\nEvery command takes these as well.\n";
   for (const OptionRow& option : commands.front()->options)
     if (isCommon(option)) text += optionEntry(option);
+  text += ".PP\nThese stand alone, without a command.\n";
   for (const OptionRow& option : root.options)
     if (!isCommon(option)) text += optionEntry(option);
   return text;

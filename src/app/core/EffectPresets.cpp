@@ -32,6 +32,12 @@ std::span<const EffectPreset> effectPresets() {
   return presets;
 }
 
+std::string effectNames() {
+  std::string names;
+  for (const EffectPreset& preset : presets) names += (names.empty() ? "" : ", ") + std::string(preset.name);
+  return names;
+}
+
 std::optional<LabelShadow> shadowForEffectTag(int tag) {
   if (tag <= 0) return std::nullopt;
   switch (tag) {

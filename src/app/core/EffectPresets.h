@@ -3,6 +3,7 @@
 
 #include <optional>
 #include <span>
+#include <string>
 #include <string_view>
 
 #include "composition/core/LabelValues.h"
@@ -17,6 +18,9 @@ struct EffectPreset {
 
 /// The presets that can be chosen, in menu order.
 std::span<const EffectPreset> effectPresets();
+
+/// Their names for a text: "none, soft, medium".
+std::string effectNames();
 
 /// The shadow of a tag. None for tags of 0 or less. Tags that no preset has give a shadow as a new one is: no offset,
 /// no blur, the default colour; 4 and 5 are kept for later and are such tags.

@@ -108,7 +108,7 @@ Result<void> setLookValue(Look& look, std::string_view name, std::string_view te
     look.overlay.color = TRY(parseOptionalColor(text, autoName));
   } else {
     const auto tag = effectTagNamed(text);
-    if (!tag) return Error::invalidInput("there is no effect '" + excerpt(text) + "'");
+    if (!tag) return Error::invalidInput("there is no effect '" + excerpt(text) + "'; use " + effectNames());
     look.effectTag = *tag;
   }
   return {};

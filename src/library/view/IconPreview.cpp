@@ -54,7 +54,7 @@ void IconPreview::setPath(const std::filesystem::path& path) {
 void IconPreview::_show(const std::optional<Look>& look) {
   _pictures = look ? look->pictures : std::vector<QImage>();
   QStringList sizes;
-  for (const int size : look ? look->heldSizes : std::vector<int>()) sizes << QLocale().toString(size);
+  for (const int size : look ? look->heldSizes : std::vector<int>()) sizes << QString::number(size);
   if (!look)
     _words->setText(tr("No picture can be had of it."));
   else if (sizes.isEmpty())

@@ -123,7 +123,7 @@ void LibraryView::_updateEmptyStates() {
   else if (sets == 0)
     state.setTexts(tr("No sets"), tr("The folder of your icons cannot be written."));
   else
-    state.setTexts(tr("No icons in this set"), tr("Drop pictures, icon files or folders here."), tr("Add Icon…"));
+    state.setTexts(tr("No icons in this set"), tr("Drop pictures, icon files or folders here."), tr("Add…"));
 }
 
 void LibraryView::_updateButtons() {
