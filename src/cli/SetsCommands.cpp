@@ -5,6 +5,7 @@
 #include "cli/Commands.h"
 #include "cli/Terminal.h"
 #include "foundation/FileManagerExtras.h"
+#include "foundation/Folder.h"
 #include "library/core/AddingIcons.h"
 #include "library/core/IconLibrary.h"
 #include "library/core/ListFile.h"
@@ -72,6 +73,8 @@ class SetsRun {
   }
 
   void listLibrary(const fs::path& library, const char* kind) {
+    const auto folder = Folder::open(library, Folder::Access::Read);
+    if (!folder && folder.error().kind() != ErrorKind::NotFound) _reporter.failed(library, folder.error());
     for (const std::string& name : _library.setNames(library)) {
       const auto icons = IconSet::iconsAt(library / name, _services);
       if (!icons) {
@@ -133,8 +136,8 @@ class SetsRun {
   void makeNew() {
     const std::string name = given(0).string();
     if (const auto good = library::checkSetName(name); !good) return _reporter.failed(given(0), good.error());
-    if (!_library.createCustomIconsFolder())
-      return _reporter.failed(_library.customIconsPath(), Error::refused("the library's folder cannot be made"));
+    if (const auto made = _library.makeCustomIconsFolder(); !made)
+      return _reporter.failed(_library.customIconsPath(), made.error());
     const fs::path path = _library.customIconsPath() / name;
     std::error_code error;
     if (fs::exists(fs::symlink_status(path, error)))
@@ -210,8 +213,8 @@ class SetsRun {
   }
 
   void import() {
-    if (!_library.createCustomIconsFolder())
-      return _reporter.failed(_library.customIconsPath(), Error::refused("the library's folder cannot be made"));
+    if (const auto made = _library.makeCustomIconsFolder(); !made)
+      return _reporter.failed(_library.customIconsPath(), made.error());
     for (const fs::path& source : _arguments.paths) {
       if (pendingSignal() != 0) return;
       const auto path = isDirectory(source) ? setFromFolder(source, _library.customIconsPath(), _services)

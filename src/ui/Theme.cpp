@@ -100,7 +100,7 @@ QMenu::separator { height: 1px; background: %hairline; margin: 5px 8px; }
 QMenu::icon { padding-left: 8px; }
 
 QPushButton { background: %button; color: %text; border: 1px solid %outline; border-radius: 8px;
-              padding: 6px 15px; min-height: 18px; }
+              padding: 6px 15px; min-height: 1em; }
 QPushButton:hover { background: %hover; }
 QPushButton:pressed, QPushButton:checked { background: %groove; }
 QPushButton:focus { border: 2px solid %accent; padding: 5px 14px; outline: none; }
@@ -126,7 +126,7 @@ QLineEdit:disabled, QPlainTextEdit:disabled, QAbstractSpinBox[number="true"]:dis
 QAbstractSpinBox QLineEdit, QComboBox QLineEdit { border: none; padding: 0; background: transparent; }
 
 QComboBox { background: %button; color: %text; border: 1px solid %outline; border-radius: 8px;
-            padding: 5px 8px 5px 11px; min-height: 20px; }
+            padding: 5px 8px 5px 11px; min-height: 1.1em; }
 QComboBox:hover { background: %hover; }
 QComboBox:focus { border: 2px solid %accent; padding: 4px 7px 4px 10px; }
 QComboBox:disabled { color: %disabled; border-color: %hairline; background: %window; }

@@ -71,12 +71,20 @@ Result<void> rewriteSetList(const fs::path& library, const std::vector<std::stri
 }  // namespace
 
 std::optional<fs::path> IconLibrary::createCustomIconsFolder() const {
-  if (customIconsPath().empty()) return std::nullopt;
+  const auto path = makeCustomIconsFolder();
+  if (!path) return note(path.error()), std::nullopt;
+  return *path;
+}
+
+Result<fs::path> IconLibrary::makeCustomIconsFolder() const {
+  if (customIconsPath().empty()) return Error::refused("there is no home folder for a library");
   if (isDirectory(customIconsPath())) return customIconsPath();
   const auto done = !_places.former.empty() && isDirectory(_places.former)
                         ? moveFolder(_places.former, customIconsPath())
                         : makePrivateDirectories(customIconsPath());
-  if (!done) return note(done.error()), std::nullopt;
+  if (!done) return done.error();
+  // Something else may stand there.
+  if (const auto folder = Folder::open(customIconsPath(), Folder::Access::Read); !folder) return folder.error();
   return customIconsPath();
 }
 

@@ -45,6 +45,8 @@ class IconLibrary {
 
   /// Makes the user's library, or moves it from where it once was. Its path; nullopt when that cannot be.
   std::optional<std::filesystem::path> createCustomIconsFolder() const;
+  /// The same, with the reason when it cannot be.
+  Result<std::filesystem::path> makeCustomIconsFolder() const;
 
   /// The built-in sets, exactly as listed.
   [[nodiscard]] Sets builtinIconSets() const;
