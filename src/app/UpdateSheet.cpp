@@ -17,8 +17,9 @@ namespace {
 constexpr int newsWidth = 480;
 constexpr int newsHeight = 260;
 constexpr int leastNewsHeight = 60;
-/// What all else on the sheet takes, and the window's menu.
-constexpr int otherHeight = 330;
+/// What all else on the sheet takes, and the window's menu: gaps, and lines of text.
+constexpr int otherGaps = 160;
+constexpr int otherLines = 10;
 
 QLabel* makeLine(const QString& text) {
   auto* line = new QLabel(text);
@@ -66,6 +67,7 @@ UpdateSheet::UpdateSheet(const UpdateOffer& offer) {
   setTag(*notNow, later);
   setTag(*never, skip);
   auto* buttons = new QHBoxLayout;
+  _buttons = buttons;
   buttons->setContentsMargins(0, 8, 0, 0);
   buttons->setSpacing(10);
   buttons->addWidget(never);
@@ -84,7 +86,9 @@ UpdateSheet::UpdateSheet(const UpdateOffer& offer) {
 
 void UpdateSheet::showEvent(QShowEvent* event) {
   // Not before: only now the text has its font and the window its size.
-  if (_news) _news->fit(newsWidth, std::clamp(window()->height() - otherHeight, leastNewsHeight, newsHeight));
+  const int width = std::max(newsWidth, _buttons->minimumSize().width() - 2 * cardPadding);
+  const int other = otherGaps + otherLines * fontMetrics().height();
+  if (_news) _news->fit(width, std::clamp(window()->height() - other, leastNewsHeight, newsHeight));
   QWidget::showEvent(event);
 }
 

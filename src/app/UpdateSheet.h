@@ -5,6 +5,8 @@
 
 #include "app/UpdateView.h"
 
+class QLayout;
+
 namespace quorvane {
 
 class MessageText;
@@ -25,6 +27,7 @@ class UpdateSheet : public QWidget {
 
  private:
   MessageText* _news = nullptr;
+  QLayout* _buttons = nullptr;
 };
 
 }  // namespace quorvane
