@@ -28,15 +28,18 @@ def language_of(path):
 
 
 def drawn_titles():
-    """(context, title) of what is drawn: emblems, and the sets and icons of the built-in library."""
+    """(context, title) of what is drawn: emblems, and the sets and icons of the built-in library, but for those that are
+    called as an emblem is."""
     with open(os.path.join(ROOT, "resources/emblems/emblems.json"), encoding="utf-8") as source:
-        for emblem in json.load(source):
-            yield "Emblems", emblem["title"]
+        emblems = [emblem["title"] for emblem in json.load(source)]
+    for title in emblems:
+        yield "Emblems", title
     with open(os.path.join(ROOT, "resources/library/library.json"), encoding="utf-8") as source:
         for icons in json.load(source)["sets"]:
-            yield "BuiltinLibrary", icons["name"]
-            for icon in icons["icons"]:
-                yield "BuiltinLibrary", icon if isinstance(icon, str) else icon["name"]
+            names = [icon if isinstance(icon, str) else icon["name"] for icon in icons["icons"]]
+            for name in [icons["name"], *names]:
+                if name not in emblems:
+                    yield "BuiltinLibrary", name
 
 
 def update(files):

@@ -17,7 +17,10 @@ QString shownIconName(const IconRecord& icon) {
 }
 
 QString builtinName(const QString& name) {
-  return QCoreApplication::translate("BuiltinLibrary", name.toUtf8().constData());
+  const QByteArray key = name.toUtf8();
+  const QString shown = QCoreApplication::translate("BuiltinLibrary", key.constData());
+  // A folder with an emblem on it is called after the emblem.
+  return shown == name ? QCoreApplication::translate("Emblems", key.constData()) : shown;
 }
 
 QString iconCount(int icons) {
