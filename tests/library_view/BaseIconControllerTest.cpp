@@ -147,6 +147,13 @@ TEST_F(BaseIconControllerTest, MovesRowsToAnotherSet) {
   EXPECT_EQ(sets().objectAt(1)->icons().size(), 3U);
   controller->undo();
   EXPECT_EQ(shown() + "|" + onDisk("Blue") + "|" + onDisk("Red"), "A B C|A B C|B");
+  // One that cannot be had ends it, and no source goes.
+  select(iconTable(), {0, 1});
+  writeFile(tree / "Icons/Blue/B.icns", std::string("no icon any more"));
+  EXPECT_EQ(dragRows({0, 1}, setTable(), 1, false).action, Qt::IgnoreAction);
+  EXPECT_EQ(shown() + "|" + joined(sets().objectAt(1)->icons(), [](const auto& icon) { return icon.name; }), "A B C|B");
+  for (const char* icon : {"Blue/A.icns", "Blue/B.icns", "Red/A.icns"})
+    EXPECT_TRUE(std::filesystem::exists(tree / "Icons" / icon)) << icon;
   // The built-in list and a list without a selection start no drag.
   iconTable().clearSelection();
   EXPECT_EQ(iconTable().model()->mimeData({iconTable().model()->index(0, 0)}), nullptr);
@@ -262,9 +269,11 @@ TEST_F(BaseIconControllerTest, WhatIsAddedWhileTheSetIsRenamedOrReadAnewIsShownO
       [](const auto&) {});
   controller->adder().cancel();
   drop(iconTable(), *files({tree / "elsewhere/n.icns"}), 0, true);
+  EXPECT_FALSE(controller->canUndo()) << "at work";
   isOver = true;
   ASSERT_TRUE(QTest::qWaitFor([&] { return !controller->adder().isBusy(); }, 9000));
   EXPECT_EQ(shown(), "n-2 a n-1 n");
+  EXPECT_TRUE(controller->canUndo());
 }
 
 }  // namespace

@@ -95,6 +95,10 @@ TEST_F(SetListTest, ANameThatIsTakenOrNotEditedRemovesNothingElse) {
   select(iconTable(), {0});
   controller->removeSelectedIcons();
   EXPECT_EQ(onDisk("Green"), "c") << "what was seen is removed";
+  sets().removeObjectAtArrangedObjectIndex(1);
+  select(iconTable(), {0});
+  controller->removeSelectedIcons();
+  EXPECT_EQ(onDisk("Green"), "") << "also when that set has left the list";
   EXPECT_TRUE(std::filesystem::exists(tree / "Icons/Blue/a.icns"));
 }
 

@@ -59,9 +59,9 @@ class IconSet : public std::enable_shared_from_this<IconSet> {
   /// The last component of the path; raw bytes.
   [[nodiscard]] std::string name() const;
   /// Renames the folder and its entry in the library's list (one that is missing there is added), and reads the icons
-  /// again. When the folder cannot be renamed because the name is taken or not possible for the disk, the set keeps its
-  /// path, but the folder of the new name is read all the same: its icons become this set's and its list's; and the
-  /// reason is returned. A name that is no plain file name is refused, and nothing happens.
+  /// again. When the name is taken, the set keeps its path, but the folder of the new name is read all the same: its
+  /// icons become this set's and its list's; and the reason is returned. A name that is no plain file name, or that the
+  /// disk refuses, is refused, and nothing happens.
   Result<void> setName(const std::string& name);
 
   [[nodiscard]] const std::filesystem::path& path() const { return _path; }

@@ -201,7 +201,7 @@ Image BaseIconController::_lastingImage(const IconRecord& icon) {
 }
 
 void BaseIconController::undo() {
-  if (!_undo.canUndo() || _adder.isBusy()) return;
+  if (!canUndo()) return;
   const LibraryAction action = _undo.nextAction();
   if (const auto undone = _undo.undo(); !undone)
     Q_EMIT failed(tr("Not all of it could be taken back: %1").arg(QString::fromStdString(undone.error().message())));

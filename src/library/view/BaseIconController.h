@@ -98,6 +98,8 @@ class BaseIconController : public QObject, public TableDropDelegate {
   void choose(const IconRecord& icon);
   /// Takes the last change of the library back.
   void undo();
+  /// Not while icons are being added: what is taken back would land among them.
+  [[nodiscard]] bool canUndo() const { return _undo.canUndo() && !_adder.isBusy(); }
   [[nodiscard]] const LibraryUndo& history() const { return _undo; }
   /// For the menu: "Undo Remove Icons"; "Undo" when there is nothing to take back.
   [[nodiscard]] QString undoText() const;

@@ -15,7 +15,7 @@ struct DroppedIcons {
   Q_DECLARE_TR_FUNCTIONS(DroppedIcons)
 
  public:
-  std::vector<std::filesystem::path> files;  ///< in the pasteboard's order, links resolved; not looked at
+  std::vector<std::filesystem::path> files;  ///< in the pasteboard's order, as they were given; not looked at
   bool hasPicture = false;                   ///< a picture itself and no file
   QString refusal;                           ///< why there is neither, in a sentence; empty otherwise
 

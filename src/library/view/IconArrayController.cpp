@@ -153,6 +153,8 @@ void IconArrayController::_removeFilesAtPaths(const std::vector<std::filesystem:
     auto owner = set->path() == folder ? set : nullptr;
     for (const auto& each : _iconSetArrayController.arrangedObjects())
       if (!owner && each->path() == folder) owner = each;
+    // Or that of a folder whose set has left the list.
+    if (!owner) owner = IconSet::initWithExistingPath(folder, set->services());
     // Nothing is said about failures, as a file that is gone already is one.
     if (owner) static_cast<void>(_undo->removeIcons(owner, icons, owner != set).ok());
   }

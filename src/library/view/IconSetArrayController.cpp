@@ -162,10 +162,13 @@ bool IconSetArrayController::tableViewAcceptDrop(LibraryTableView& /*table*/, co
                                                  const TableDrop& drop) {
   const auto rows = rowsOf(dragged);
   if (!rows) {
+    bool isTaken = false;
     for (const auto& path : DroppedIcons::of(dragged).files) {
-      if (canBecomeSet(path)) importSet(path);
+      if (!canBecomeSet(path)) continue;
+      importSet(path);
+      isTaken = true;
     }
-    return true;
+    return isTaken;
   }
   if (drop.row < 0 || drop.row >= count()) return false;
   const auto target = objectAt(drop.row);

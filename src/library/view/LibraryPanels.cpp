@@ -133,7 +133,7 @@ LibraryPrompts sheetLibraryPrompts(HVWindow& window, const LibraryServices& serv
     return window.runPromptSheetWithTitle(title, message, defaultButton, alternateButton);
   };
   prompts.chooseIcon = [&window, services] {
-    OpenPanel panel(tr("Add Icon"), tr("Add Icon"), {pictureNameFilter(), tr("All files (*)")});
+    OpenPanel panel(tr("Add Icon"), tr("Add Icon"), {pictureNameFilter()});
     auto* preview = new IconPreview(iconPreviewReader(services));
     panel.setAccessoryView(preview);
     QObject::connect(&panel, &QFileDialog::currentChanged, preview,
