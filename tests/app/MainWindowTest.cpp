@@ -280,6 +280,9 @@ TEST(WindowArgumentsTest, OptionsAndFoldersAreToldApart) {
   EXPECT_EQ(parseWindowArguments({"a", "--", "--help"}).folders, (std::vector<std::string>{"a", "--help"}));
   EXPECT_EQ(parseWindowArguments({"--help"}).exitCode, 0);
   EXPECT_EQ(parseWindowArguments({"--nonsense"}).exitCode, 2);
+  const auto restored = parseWindowArguments({"-session", "10e_17", "-reverse", "--style=fusion", "a"});
+  EXPECT_FALSE(restored.words) << *restored.words;
+  EXPECT_EQ(restored.folders, std::vector<std::string>{"a"});
 }
 
 }  // namespace
