@@ -65,6 +65,12 @@ class DesktopTest(EndToEndTest):
             self.assertLessEqual(len(root.findtext("summary")), 35)
             self.assertGreaterEqual(len(" ".join(root.find("description")[0].text.split())), 80)
             self.assertEqual({element.get("type") for element in root.findall("url")}, {"homepage", "bugtracker"})
+            pictures = [(picture.findtext("caption"), picture.findtext("image"))
+                        for picture in root.findall("screenshots/screenshot")]
+            self.assertEqual(len(pictures), 2 if launchable else 0)
+            for caption, address in pictures:
+                self.assertTrue(caption)
+                self.assertTrue(os.path.exists(f"{ROOT}/docs/pictures/" + address.rsplit("/", 1)[1]), address)
             release = root.find("releases/release")
             changes = read(ROOT + "/packaging/changelog").decode()
             day = subprocess.run(["date", "-d", re.search(r"^ -- .*  (.*)$", changes, re.MULTILINE)[1], "+%F"],
