@@ -15,7 +15,7 @@
 namespace quorvane {
 
 /// Sides of the icons in a preview, in logical pixels.
-inline constexpr std::array previewSizes{128, 64, 48, 32, 16};
+inline constexpr std::array previewSizes{128, 64, 48, 32, 24, 16};
 
 /// Makes of the composed icon the forms that would be written. Called in another thread than it is given in, by one at
 /// a time.

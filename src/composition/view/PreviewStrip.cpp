@@ -21,13 +21,14 @@ constexpr int gap = 16;
 constexpr int spacing = 12;
 constexpr double cornerRadius = 10;
 
-/// Places of the icons within the smallest ground, in the order of previewSizes: the largest, then two columns of two
-/// that stand on common lines.
+/// Places of the icons within the smallest ground, in the order of previewSizes: the largest, then two columns that
+/// stand on common lines.
 constexpr std::array iconOrigins{
     QPoint(padding, padding),
     QPoint(padding + 128 + gap, padding),
     QPoint(padding + 128 + gap, padding + 128 - 48),
     QPoint(padding + 128 + gap + 64 + gap, padding + 64 - 32),
+    QPoint(padding + 128 + gap + 64 + gap, padding + 64 + 12),
     QPoint(padding + 128 + gap + 64 + gap, padding + 128 - 16),
 };
 constexpr QSize groundSize(padding + 128 + gap + 64 + gap + 32 + padding, padding + 128 + padding);
