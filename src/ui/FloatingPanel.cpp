@@ -9,6 +9,8 @@
 #include <algorithm>
 #include <utility>
 
+#include "ui/WindowDelegate.h"
+
 namespace quorvane {
 
 /// Where the content is while it is lent. A box deletes what is in it; this comes before and saves the content.
@@ -55,6 +57,11 @@ void FloatingPanel::_placeBeside(const QWidget& window) {
        std::clamp(frame.top(), screen.top(), std::max(screen.top(), screen.bottom() - size.height())));
 }
 
+void FloatingPanel::setFrameStore(FrameStore* store, const QString& name) {
+  _frameStore = store;
+  _frameName = name;
+}
+
 void FloatingPanel::showPanel() {
   if (_place) return;
   _needContent();
@@ -63,6 +70,8 @@ void FloatingPanel::showPanel() {
   winId();
   if (over && over != this && over->windowHandle()) windowHandle()->setTransientParent(over->windowHandle());
   // Only the first time: later it comes back where the user has put it.
+  if (const auto frame = !_isPlaced && _frameStore ? _frameStore->frameForName(_frameName) : std::nullopt)
+    _isPlaced = restoreGeometry(*frame);
   if (over && over != this && !std::exchange(_isPlaced, true)) _placeBeside(*over->window());
   show();
   raise();
@@ -98,7 +107,9 @@ void FloatingPanel::_takeContent() {
 
 void FloatingPanel::hideEvent(QHideEvent* event) {
   QWidget::hideEvent(event);
-  if (!event->spontaneous()) Q_EMIT panelClosed();
+  if (event->spontaneous()) return;
+  if (_frameStore) _frameStore->setFrame(saveGeometry(), _frameName);
+  Q_EMIT panelClosed();
 }
 
 void FloatingPanel::keyPressEvent(QKeyEvent* event) {

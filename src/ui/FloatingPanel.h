@@ -6,6 +6,8 @@
 
 namespace quorvane {
 
+class FrameStore;
+
 /// A small floating window round one content, which may be lent to a box of another window: then it is shown there and
 /// the panel itself stays hidden. Closing the panel, by Escape too, only hides it. The content, a large dialog that
 /// many runs never show, is made when it is first wanted.
@@ -24,6 +26,9 @@ class FloatingPanel : public QWidget {
   void moveContentInto(QWidget& box);
   /// Takes the content back. The panel stays hidden.
   void moveContentBack();
+  /// Where the panel's place is kept from run to run, under the name, each time that it is hidden. Must outlive the
+  /// panel.
+  void setFrameStore(FrameStore* store, const QString& name);
   [[nodiscard]] bool isContentLent() const { return !_place.isNull(); }
 
  Q_SIGNALS:
@@ -46,6 +51,8 @@ class FloatingPanel : public QWidget {
 
   QWidget* _content = nullptr;
   QPointer<QWidget> _place;
+  FrameStore* _frameStore = nullptr;
+  QString _frameName;
   bool _isPlaced = false;
 };
 

@@ -13,6 +13,12 @@ class SharedPanels {
   [[nodiscard]] ColorPanel& colorPanel() { return _colorPanel; }
   [[nodiscard]] FontPanel& fontPanel() { return _fontPanel; }
 
+  /// Where their places are kept from run to run. Must outlive them.
+  void setFrameStore(FrameStore* store) {
+    _colorPanel.setFrameStore(store, QStringLiteral("ColorPanel"));
+    _fontPanel.setFrameStore(store, QStringLiteral("FontPanel"));
+  }
+
  private:
   ColorPanel _colorPanel;
   FontPanel _fontPanel;
