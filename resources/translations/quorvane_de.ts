@@ -1425,6 +1425,26 @@ Vielen Dank!</translation>
         <source>The settings cannot be kept: %1</source>
         <translation>Die Einstellungen können nicht gespeichert werden: %1</translation>
     </message>
+    <message>
+        <source>“%1” Is Missing</source>
+        <translation>„%1“ fehlt</translation>
+    </message>
+    <message>
+        <source>The folder is not there any more, or the disk that it lies on is away:
+
+%1</source>
+        <translation>Den Ordner gibt es nicht mehr, oder der Datenträger, auf dem er liegt, ist nicht da:
+
+%1</translation>
+    </message>
+    <message>
+        <source>Keep in List</source>
+        <translation>In der Liste behalten</translation>
+    </message>
+    <message>
+        <source>Remove from List</source>
+        <translation>Aus der Liste entfernen</translation>
+    </message>
 </context>
 <context>
     <name>quorvane::AppcastUpdater</name>
@@ -1596,6 +1616,10 @@ Vielen Dank!</translation>
     <message>
         <source>Busy</source>
         <translation>Beschäftigt</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
     </message>
 </context>
 <context>

@@ -1424,6 +1424,26 @@ Thank you!</source>
         <source>The settings cannot be kept: %1</source>
         <translation>設定を保存できません: %1</translation>
     </message>
+    <message>
+        <source>“%1” Is Missing</source>
+        <translation>“%1”が見つかりません</translation>
+    </message>
+    <message>
+        <source>The folder is not there any more, or the disk that it lies on is away:
+
+%1</source>
+        <translation>フォルダーがなくなったか、フォルダーのあるディスクが接続されていません:
+
+%1</translation>
+    </message>
+    <message>
+        <source>Keep in List</source>
+        <translation>リストに残す</translation>
+    </message>
+    <message>
+        <source>Remove from List</source>
+        <translation>リストから削除</translation>
+    </message>
 </context>
 <context>
     <name>quorvane::AppcastUpdater</name>
@@ -1595,6 +1615,10 @@ Thank you!</source>
     <message>
         <source>Busy</source>
         <translation>処理中</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>キャンセル</translation>
     </message>
 </context>
 <context>

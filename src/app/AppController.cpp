@@ -26,6 +26,7 @@
 #include "system/HVUtility.h"
 #include "ui/HVTableView.h"
 #include "ui/PopUpButton.h"
+#include "ui/SharedPanels.h"
 #include "ui/Slider.h"
 
 namespace quorvane {
@@ -56,8 +57,7 @@ std::shared_ptr<AppController> AppController::sharedController() {
   return shared().lock();
 }
 
-AppController::AppController(const AppServices& services)
-    : _services(services), _scratch(QFile::encodeName(tmpdirString()).toStdString()) {
+AppController::AppController(const AppServices& services) : _services(services), _scratch(_scratchPath()) {
   _busyTimer.setSingleShot(true);
   _busyTimer.setInterval(briefly);
   connect(&_busyTimer, &QTimer::timeout, this, &AppController::_showBusy);
@@ -119,6 +119,9 @@ void AppController::applicationDidFinishLaunching() {
 void AppController::applicationWillTerminate() {
   _baseIconController->saveIconSetSelection();
   if (_libraryLayoutTimer.isActive()) _saveLibraryLayout();
+  // Their places are kept as they go.
+  _services.panels.colorPanel().hidePanel();
+  _services.panels.fontPanel().hidePanel();
   _services.work.finish(patienceAtEnd);
   static_cast<void>(_services.defaults.synchronize());
 }
@@ -142,13 +145,15 @@ void AppController::_beginWork(const QString& words) {
 }
 
 void AppController::_showBusy() {
-  _busyIndicator->begin(_busyWords);
+  _busyIndicator->begin(_busyWords, !_isWriting());
   if (_isReading && _busyCount == 1) {
     _applyBtn->setEnabled(false);
     _revertBtn->setEnabled(false);
-  } else if (_mainWindow->centralWidget()->isEnabled()) {
+  } else if (_content.front()->isEnabled()) {
     _focusBeforeWork = _mainWindow->focusWidget();
-    _mainWindow->centralWidget()->setEnabled(false);
+    // Else it would wander from part to part.
+    if (_focusBeforeWork) _focusBeforeWork->clearFocus();
+    for (QWidget* part : _content) part->setEnabled(false);
   }
   Q_EMIT stateChanged();
 }
@@ -156,8 +161,8 @@ void AppController::_showBusy() {
 void AppController::_endWork() {
   --_busyCount;
   if (_busyCount > int{_isReading}) return;
-  if (!_mainWindow->centralWidget()->isEnabled()) {
-    _mainWindow->centralWidget()->setEnabled(true);
+  if (!_content.front()->isEnabled()) {
+    for (QWidget* part : _content) part->setEnabled(true);
     if (_focusBeforeWork) _focusBeforeWork->setFocus();
   }
   if (_busyCount > 0) return _busyTimer.start();

@@ -252,12 +252,17 @@ class AppController : public QObject, public HVWindowDelegate, public LabelTextF
   void _endSliderStep();
 
   /// Busy from here until _endWork(); after a moment the window shows it.
+  static Path _scratchPath();
   void _beginWork(const QString& words);
   /// Busy with more than looking: nothing may come between.
   [[nodiscard]] bool _isWriting() const { return _busyCount > int{_isLooking} + int{_isLoading} + int{_isReading}; }
   /// The window shows what is being waited for. Only while a picture is read may the label be changed on.
   void _showBusy();
   void _endWork();
+  /// Gives up what only looks at a folder or reads a picture.
+  void _cancelWork();
+  /// A folder of the recent ones cannot be opened: asks whether it stays in the list.
+  void _missesRecent(const Path& folder);
   /// Takes in everything but what the user does until `done` says so, for a moment at most.
   void _waitBriefly(const std::function<bool()>& done);
 

@@ -69,6 +69,12 @@ void AppController::_cancelLook() {
   _endWork();
 }
 
+void AppController::_cancelWork() {
+  if (_isWriting()) return;
+  if (_isLooking) return _cancelLook();
+  _isLoading ? closeFolder() : _cancelPicture();
+}
+
 void AppController::openArgument(const Path& path, const std::function<void()>& refused) {
   applicationOpenFile(path, [this, path, refused] {
     if (refused) refused();

@@ -19,6 +19,8 @@ void AppController::_connectLibrary() {
     Q_EMIT stateChanged();
   });
 
+  connect(&_baseIconController->adder(), &IconAdder::finished, this, &AppController::stateChanged);
+
   LibraryView& view = *_baseColumn->library();
   UserDefaults& defaults = _services.defaults;
   if (const auto side = settings::value(defaults, settings::libraryIconSide); side > 0)

@@ -117,9 +117,13 @@ void AppController::_visitPage(const QString& page) {
   if (_services.visitPage && !_services.visitPage(page)) _notice(tr("No program was found that opens web pages."));
 }
 
+std::filesystem::path AppController::_scratchPath() {
+  return ScratchFolder::temporaryDirectory().string() + QUORVANE_DEVELOPER_ID "." +
+         QFile::encodeName(appName()).toStdString() + "-" + std::to_string(::getpid());
+}
+
 QString AppController::tmpdirString() const {
-  return QFile::decodeName(ScratchFolder::temporaryDirectory().c_str()) + QStringLiteral(QUORVANE_DEVELOPER_ID ".") +
-         appName() + QLatin1Char('-') + QString::number(::getpid());
+  return QFile::decodeName(_scratch.path().c_str());
 }
 
 std::optional<QString> AppController::tmpdir() {

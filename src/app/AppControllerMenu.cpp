@@ -1,8 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // What the menus do.
 #include <QApplication>
+#include <QFile>
 #include <QMenu>
 #include <QPushButton>
+#include <QTimer>
+#include <algorithm>
 
 #include "app/AppController.h"
 #include "app/BaseColumn.h"
@@ -11,6 +14,8 @@
 #include "app/QVWindow.h"
 #include "app/ShortcutsSheet.h"
 #include "app/core/EditHistory.h"
+#include "app/core/SettingsTable.h"
+#include "app/core/UserPrompts.h"
 #include "composition/view/FolderView.h"
 #include "library/view/BaseIconController.h"
 #include "library/view/LibraryView.h"
@@ -79,7 +84,10 @@ void AppController::_connectMenu() {
   });
   connect(_origIconDrawer, &Drawer::openChanged, this, &AppController::stateChanged);
   connect(_fontBtn, &QPushButton::toggled, _mainMenu, &MainMenu::setFontShown);
+  if (const auto kept = settings::value(_services.defaults, settings::canvasMagnification); kept > 0)
+    _folderView->setMagnification(static_cast<int>(std::min<qint64>(kept, 99)));
   connect(_folderView, &ImageView::magnificationChanged, this, [this](int magnification) {
+    settings::setValue(_services.defaults, settings::canvasMagnification, qint64{magnification});
     _mainMenu->setMagnification(magnification);
     _mainWindow->growBy(_folderView->minimumSizeHint() - _folderView->size());
   });
@@ -100,7 +108,7 @@ bool AppController::validateMenuItem(MenuCommand command) const {
     case MenuCommand::ToggleOriginalIcon:
       return _origIconView->image().has_value();
     case MenuCommand::Undo:
-      return isIdle && (_undoesLibrary() || _history->canUndo());
+      return isIdle && (_undoesLibrary() ? _baseIconController->canUndo() : _history->canUndo());
     case MenuCommand::Redo:
       return isIdle && _history->canRedo();
     case MenuCommand::RemoveSelectedIcons:
@@ -221,6 +229,17 @@ void AppController::perform(MenuCommand command) {
   }
 }
 
+void AppController::_missesRecent(const Path& folder) {
+  if (!_services.removeRecentFolder) return _notice(tr("The folder is not there any more."));
+  const QString name = visibleText(QFile::decodeName(folder.filename().c_str()));
+  const int answer = _services.prompts.runPromptSheetWithTitle(
+      tr("“%1” Is Missing").arg(name),
+      tr("The folder is not there any more, or the disk that it lies on is away:\n\n%1")
+          .arg(visibleText(abbreviatedPath(folder))),
+      tr("Keep in List"), tr("Remove from List"));
+  if (answer == UserPrompts::alternateReturn) _services.removeRecentFolder(folder);
+}
+
 void AppController::_fillRecentMenu() {
   QMenu& menu = *_mainMenu->recentMenu();
   menu.clear();
@@ -229,9 +248,11 @@ void AppController::_fillRecentMenu() {
     QString shown = visibleText(abbreviatedPath(folder.path)).replace(QLatin1Char('&'), QLatin1String("&&"));
     shown = menu.fontMetrics().elidedText(shown, Qt::ElideMiddle, 480);
     QAction* action = menu.addAction(folder.isMissing ? tr("%1 (missing)").arg(shown) : shown);
-    action->setEnabled(!folder.isMissing);
+    action->setEnabled(!folder.isMissing || _services.removeRecentFolder);
+    // It may be back, on a disk that was away.
     connect(action, &QAction::triggered, this, [this, path = folder.path] {
-      applicationOpenFile(path, [this] { _notice(tr("The folder is not there any more.")); });
+      // A question that waits for its answer is asked when the menu is through with its choice.
+      applicationOpenFile(path, [this, path] { QTimer::singleShot(0, this, [this, path] { _missesRecent(path); }); });
     });
   }
   if (folders.empty()) menu.addAction(tr("No Recent Folders"))->setEnabled(false);

@@ -5,6 +5,7 @@
 
 #include "app/AppController.h"
 #include "app/BaseColumn.h"
+#include "app/BusyIndicator.h"
 #include "app/PreferenceController.h"
 #include "app/QVWindow.h"
 #include "app/core/EditHistory.h"
@@ -72,6 +73,7 @@ void AppController::_connectControls() {
   connect(_openBtn, &QPushButton::clicked, this, &AppController::open);
   connect(_applyBtn, &QPushButton::clicked, this, &AppController::apply);
   connect(_revertBtn, &QPushButton::clicked, this, &AppController::revert);
+  connect(_busyIndicator, &BusyIndicator::cancelled, this, &AppController::_cancelWork);
   connect(_resetBtn, &QPushButton::clicked, this, &AppController::resetTransform);
   connect(_fontBtn, &QPushButton::clicked, this, [this] { showFont(*_fontBtn); });
   connect(_effectPopUp, &PopUpButton::action, this, [this] { setEffect(*_effectPopUp); });

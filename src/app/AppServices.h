@@ -42,6 +42,7 @@ struct AppServices {
   std::function<void(const Path& folder)> noteRecentFolder = {};
   std::function<std::vector<RecentFolder>()> recentFolders = {};  ///< the last one first
   std::function<void()> clearRecentFolders = {};
+  std::function<void(const Path& folder)> removeRecentFolder = {};
   std::function<void(const Path& folder)> revealInFileManager = {};
   /// Opens a page of the maker's web site; false when there is nothing to open it with.
   std::function<bool(const QString& page)> visitPage = {};

@@ -121,8 +121,9 @@ int runApplication(int argc, char** argv) {
   UserDefaults defaults(*storage);
   FolderServices folders;
   FolderWork work(folders.services);
-  SharedPanels panels;
   DefaultsFrameStore frames(defaults);
+  SharedPanels panels;
+  panels.setFrameStore(&frames);
   const auto trash = makeDesktopTrash();
   const LibraryServices libraryServices{.icons = folders.services, .trash = trash.get()};
   // Made below, as it asks by sheets on the window; but it outlives the lists in the window.
@@ -167,6 +168,7 @@ int runApplication(int argc, char** argv) {
                            .noteRecentFolder = [&](const auto& folder) { recent.add(folder); },
                            .recentFolders = [&] { return recent.folders(); },
                            .clearRecentFolders = [&] { recent.clear(); },
+                           .removeRecentFolder = [&](const std::filesystem::path& folder) { recent.remove(folder); },
                            .revealInFileManager = [&](const auto& folder) { reveal.show(folder); },
                            .visitPage = [&](const QString& page) { return website.visitPage(page); },
                            .writeToMaker = [&] { return opener.open(QUrl(QStringLiteral("mailto:" QUORVANE_MAIL))); },

@@ -4,12 +4,14 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QProgressBar>
+#include <QToolButton>
 
 #include "ui/Motion.h"
 
 namespace quorvane {
 
-BusyIndicator::BusyIndicator(QWidget* parent) : QWidget(parent), _words(new QLabel(this)) {
+BusyIndicator::BusyIndicator(QWidget* parent)
+    : QWidget(parent), _words(new QLabel(this)), _cancel(new QToolButton(this)) {
   auto* bar = new QProgressBar(this);
   bar->setRange(0, 0);
   bar->setTextVisible(false);
@@ -21,20 +23,34 @@ BusyIndicator::BusyIndicator(QWidget* parent) : QWidget(parent), _words(new QLab
   layout->setSpacing(10);
   layout->addWidget(_bar);
   layout->addWidget(_words);
+  _cancel->setText(tr("Cancel"));
+  _cancel->setFocusPolicy(Qt::StrongFocus);
+  connect(_cancel, &QToolButton::clicked, this, &BusyIndicator::cancelled);
+  layout->addWidget(_cancel);
+  _cancelDelay.setSingleShot(true);
+  _cancelDelay.setInterval(900);  // with the moment before it began, a second
+  connect(&_cancelDelay, &QTimer::timeout, this, [this] {
+    _cancel->show();
+    // Where all else is disabled it is what the keyboard is for.
+    if (!window()->focusWidget() || !window()->focusWidget()->isEnabled()) _cancel->setFocus();
+  });
   end();
 }
 
-void BusyIndicator::begin(const QString& words) {
+void BusyIndicator::begin(const QString& words, bool canCancel) {
   _words->setText(words);
   _bar->setAccessibleDescription(words);
   _words->setVisible(true);
   // The words say it too.
   _bar->setVisible(wantsMotion(*this));
+  canCancel ? _cancelDelay.start() : _cancelDelay.stop();
 }
 
 void BusyIndicator::end() {
   _words->setVisible(false);
   _bar->setVisible(false);
+  _cancelDelay.stop();
+  _cancel->hide();
 }
 
 bool BusyIndicator::isShown() const {

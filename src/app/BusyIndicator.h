@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <QTimer>
 #include <QWidget>
 
 class QLabel;
+class QToolButton;
 
 namespace quorvane {
 
@@ -12,13 +14,20 @@ class BusyIndicator : public QWidget {
   Q_OBJECT
  public:
   explicit BusyIndicator(QWidget* parent = nullptr);
-  void begin(const QString& words);
+  /// With a way out, a button for it comes after a second.
+  void begin(const QString& words, bool canCancel);
   void end();
   [[nodiscard]] bool isShown() const;
+  [[nodiscard]] QToolButton* cancelButton() const { return _cancel; }
+
+ Q_SIGNALS:
+  void cancelled();
 
  private:
   QLabel* _words;
   QWidget* _bar;
+  QToolButton* _cancel;
+  QTimer _cancelDelay;
 };
 
 }  // namespace quorvane

@@ -49,9 +49,15 @@ void setTabOrder(const Outlets& outlets) {
 
 QWidget* makeHeader(Outlets& outlets) {
   auto* header = new QWidget;
-  auto* layout = new QHBoxLayout(header);
-  layout->setContentsMargins({});
-  layout->setSpacing(10);
+  const auto addRow = [](QWidget* row) {
+    auto* layout = new QHBoxLayout(row);
+    layout->setContentsMargins({});
+    layout->setSpacing(10);
+    return layout;
+  };
+  QHBoxLayout* layout = addRow(header);
+  auto* folder = new QWidget;
+  auto* buttons = new QWidget;
   outlets._pathTF = new ElidedLabel;
   outlets._pathTF->setAccessibleName(tr("Path of the folder"));
   outlets._noticeLabel = new NoticeLabel;
@@ -64,13 +70,18 @@ QWidget* makeHeader(Outlets& outlets) {
   outlets._applyBtn->setDefault(true);
   outlets._openBtn = new QPushButton(actionIcon(QStringLiteral("open")), tr("Ope&n…"));
   outlets._openBtn->setToolTip(tr("Choose the folder to give an icon to"));
-  layout->addWidget(outlets._openBtn);
-  layout->addWidget(outlets._pathTF, 3);
-  layout->addWidget(outlets._noticeLabel, 2);
+  QHBoxLayout* left = addRow(folder);
+  left->addWidget(outlets._openBtn);
+  left->addWidget(outlets._pathTF, 3);
+  left->addWidget(outlets._noticeLabel, 2);
+  QHBoxLayout* right = addRow(buttons);
+  right->addWidget(outlets._revertBtn);
+  right->addWidget(outlets._applyBtn);
+  layout->addWidget(folder, 1);
   layout->addWidget(outlets._busyIndicator);
   layout->addSpacing(6);
-  layout->addWidget(outlets._revertBtn);
-  layout->addWidget(outlets._applyBtn);
+  layout->addWidget(buttons);
+  outlets._content = {folder, buttons};
   return header;
 }
 
@@ -96,9 +107,12 @@ Outlets layOutMainWindow(QVWindow& window, SharedPanels& panels, BaseIconControl
   outlets._customTableView = outlets._baseColumn->library()->customTableView();
   outlets._tintBar = new TintBar(&panels.colorPanel());
   outlets._baseColumn->tintSlot()->layout()->addWidget(outlets._tintBar);
+  QWidget* canvasColumn = makeCanvasColumn(outlets);
+  QWidget* inspector = makeInspector(outlets, panels);
   columns->addWidget(outlets._baseColumn);
-  columns->addWidget(makeCanvasColumn(outlets), 1);
-  columns->addWidget(makeInspector(outlets, panels));
+  columns->addWidget(canvasColumn, 1);
+  columns->addWidget(inspector);
+  outlets._content += QList<QWidget*>{outlets._baseColumn, canvasColumn, inspector};
   rows->addLayout(columns, 1);
   window.setCentralWidget(content);
   setTabOrder(outlets);

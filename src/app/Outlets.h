@@ -1,7 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <QList>
+
 class QPushButton;
+class QWidget;
 
 namespace quorvane {
 
@@ -60,6 +63,7 @@ struct Outlets {
 
   NoticeLabel* _noticeLabel = nullptr;  ///< short words that fade
   BusyIndicator* _busyIndicator = nullptr;
+  QList<QWidget*> _content;  ///< all but the busy sign: disabled together while a folder is worked on
 };
 
 }  // namespace quorvane

@@ -30,6 +30,11 @@ void RecentList::add(const std::filesystem::path& folder) {
   if (_shared) _pool.start(QRunnable::create([this, folder] { logFailure(_shared->add(folder)); }));
 }
 
+void RecentList::remove(const std::filesystem::path& folder) {
+  _own.remove(folder);
+  _missing.erase(folder);
+}
+
 void RecentList::clear() {
   _own.clear();
   if (_shared) _pool.start(QRunnable::create([this] { logFailure(_shared->clear()); }));

@@ -22,6 +22,8 @@ class RecentList : public QObject {
   ~RecentList() override;
 
   void add(const std::filesystem::path& folder);
+  /// Out of our own list; the desktop's tells its missing ones itself.
+  void remove(const std::filesystem::path& folder);
   void clear();
   /// The newest first. Looks anew at what is missing, for the next call.
   [[nodiscard]] std::vector<RecentFolder> folders();

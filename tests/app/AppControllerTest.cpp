@@ -3,7 +3,9 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QMenu>
 #include <QTest>
+#include <QToolButton>
 #include <latch>
 
 #include "TestWindow.h"
@@ -290,15 +292,47 @@ TEST(AppControllerBusyTest, ASlowDiskLeavesTheWindowAliveAndItsControlsDisabled)
   EXPECT_TRUE(QTest::qWaitFor([&] { return state(test) == "-rl-Rdfp-"; })) << state(test);
 }
 
+TEST_F(AppControllerTest, AMissingRecentFolderLeavesTheListWhenTheUserWants) {
+  QMenu& menu = *ui._mainMenu->recentMenu();
+  for (const int answer : {UserPrompts::defaultReturn, UserPrompts::alternateReturn}) {
+    test.recent = {{test.tree / "gone", true}, {test.folder, false}};
+    test.prompts.answers = {answer};
+    Q_EMIT menu.aboutToShow();
+    menu.actions().front()->trigger();
+    QCoreApplication::processEvents();
+    EXPECT_EQ(test.prompts.shown.back().title, QStringLiteral("“gone” Is Missing"));
+    EXPECT_EQ(test.recent.size(), answer == UserPrompts::alternateReturn ? 1U : 2U);
+  }
+}
+
+/// Answers for "stuck" when it is let go, for all else at once.
+struct SlowKinds : OwnKindIcons {
+  std::latch go{1};
+  [[nodiscard]] std::optional<Image> iconForKindOfFile(const std::filesystem::path& path) const override {
+    if (path.filename() == "stuck") go.wait();
+    return OwnKindIcons::iconForKindOfFile(path);
+  }
+};
+
+TEST(AppControllerBusyTest, AFolderThatHangsCanBeGivenUp) {
+  SlowKinds slow;
+  TestWindow test({.mode = WorkQueue::Mode::InBackground, .kinds = &slow});
+  test.launch();
+  EXPECT_TRUE(QTest::qWaitForWindowActive(&test.window));
+  std::filesystem::create_directory(test.tree / "stuck");
+  test.controller->applicationOpenFile(test.tree / "stuck");
+  QToolButton* cancel = test.ui()._busyIndicator->cancelButton();
+  ASSERT_TRUE(QTest::qWaitFor([&] { return cancel->isVisible() && cancel->hasFocus(); }));
+  QTest::keyClick(cancel, Qt::Key_Space);
+  EXPECT_TRUE(!cancel->isVisible() && !test.controller->isBusy() && test.ui()._openBtn->isEnabled());
+  EXPECT_EQ(state(test), "---------");
+  slow.go.count_down();
+  test.controller->applicationOpenFile(test.folder);
+  EXPECT_TRUE(QTest::qWaitFor([&] { return state(test) == "-rl---fp-"; })) << state(test);
+}
+
 TEST(AppControllerBusyTest, OfWhatADiskStillOwesTheLastChoiceIsShown) {
-  /// Answers for "stuck" when it is let go, for all else at once.
-  struct SlowKinds : OwnKindIcons {
-    std::latch go{1};
-    [[nodiscard]] std::optional<Image> iconForKindOfFile(const std::filesystem::path& path) const override {
-      if (path.filename() == "stuck") go.wait();
-      return OwnKindIcons::iconForKindOfFile(path);
-    }
-  } slow;
+  SlowKinds slow;
   std::latch picturesGo{1};
   TestWindow test({.mode = WorkQueue::Mode::InBackground,
                    .kinds = &slow,

@@ -81,6 +81,34 @@ TEST(LifecycleTest, ALaterStartComesBackWhereTheWindowWasAndChecksNothingUnasked
   EXPECT_EQ(test.updaters, 0);
 }
 
+TEST(LifecycleTest, WhatARunLeavesTheNextOneTakesUp) {
+  TestWindow test({.arrangeSettings = [](UserDefaults& defaults) {
+    settings::setValue(defaults, settings::canvasMagnification, 3);
+  }});
+  test.panels.setFrameStore(&test.frames);
+  for (const char* set : {"A", "B", "C"}) std::filesystem::create_directories(test.tree / "Icons" / set);
+  test.savedSelections[1] = {1};
+  test.launch();
+  auto& sets = test.library.customIconSetArrayController();
+  EXPECT_EQ(sets.selectionIndex(), 1);
+  EXPECT_EQ(test.ui()._folderView->magnification(), 3);
+  sets.setSelectionIndexes(IndexSet::indexSetWithArray({2}));
+  test.ui()._mainMenu->action(MenuCommand::Magnify1)->trigger();
+  test.panels.fontPanel().showPanel();
+  test.panels.fontPanel().move(40, 50);
+  test.panels.fontPanel().setPanelFont(QStringLiteral("DejaVu Serif"), QStringLiteral("Book"), 20);
+  test.window.myChangeFont(test.panels.fontPanel());
+  EXPECT_FALSE(test.storage.values.contains(settings::lastUsedFont.name)) << "while a slider may still move";
+  test.controller->applicationWillTerminate();
+  EXPECT_EQ(test.savedSelections[1], QList<int>{2});
+  EXPECT_TRUE(test.storage.values.contains(settings::lastUsedFont.name));
+  EXPECT_EQ(settings::value(test.defaults, settings::canvasMagnification), 1);
+  SharedPanels next;
+  next.setFrameStore(&test.frames);
+  next.fontPanel().showPanel();
+  EXPECT_TRUE(areNear(next.fontPanel().pos(), {40, 50}));
+}
+
 TEST(LifecycleTest, TheLabelStartsAsTheSettingsSay) {
   const LabelFont serif{QStringLiteral("DejaVu Serif"), QStringLiteral("Book"), 20};
   const LabelFont mono{QStringLiteral("DejaVu Sans Mono"), QStringLiteral("Book"), 33};

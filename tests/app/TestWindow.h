@@ -84,6 +84,10 @@ struct TestWindow {
          .readPicture = options.readPicture,
          .chooseFolder = choose,
          .choosePicture = choose,
+         .recentFolders = [this] { return recent; },
+         .clearRecentFolders = [this] { recent.clear(); },
+         .removeRecentFolder =
+             [this](const auto& path) { std::erase_if(recent, [&](const auto& each) { return each.path == path; }); },
          .revealInFileManager = [this](const auto& path) { revealed.push_back(path); },
          .visitPage = [this](const QString& page) { return pages.push_back(page.toStdString()), hasOpener; },
          .writeToMaker = [this] { return pages.emplace_back("mail"), hasOpener; },
@@ -132,6 +136,7 @@ struct TestWindow {
   DefaultsFrameStore frames{defaults};
   ScriptedPrompts prompts;
   std::optional<std::filesystem::path> choice;
+  std::vector<RecentFolder> recent;
   std::vector<std::filesystem::path> revealed;
   std::vector<std::string> pages;
   bool hasOpener = true;           ///< whether anything opens pages

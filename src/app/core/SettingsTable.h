@@ -54,6 +54,7 @@ inline constexpr Key<bool> checkAtStartup{QLatin1String("HVCheckAtStartup")};   
 inline constexpr Key<bool> frameworkChecksAtStartup{QLatin1String("SUCheckAtStartup")};  ///< forced to false
 inline constexpr Key<QString> feedAddress{QLatin1String("SUFeedURL")};
 inline constexpr Key<QString> skippedVersion{QLatin1String("HVSkippedVersion")};  ///< not to be told of again
+inline constexpr Key<qint64> canvasMagnification{QLatin1String("CanvasMagnification")};
 // The icon library: which of the two is shown, the side of its pictures, the width of its sets.
 inline constexpr Key<bool> libraryShowsCustom{QLatin1String("LibraryShowsCustom")};
 inline constexpr Key<qint64> libraryIconSide{QLatin1String("LibraryIconSide")};
