@@ -2345,6 +2345,46 @@
         <source>PSD picture is too large</source>
         <translation>das PSD-Bild ist zu groß</translation>
     </message>
+    <message>
+        <source>Multi-disk zip archives not supported</source>
+        <translation>geteilte Zip-Archive werden nicht unterstützt</translation>
+    </message>
+    <message>
+        <source>invalid chunk type</source>
+        <translation>ungültige Art eines Abschnitts</translation>
+    </message>
+    <message>
+        <source>bad adaptive filter value</source>
+        <translation>ungültiger Wert eines Filters</translation>
+    </message>
+    <message>
+        <source>incorrect data check</source>
+        <translation>falsche Prüfsumme der Daten</translation>
+    </message>
+    <message>
+        <source>invalid distance too far back</source>
+        <translation>ungültiger Abstand, zu weit zurück</translation>
+    </message>
+    <message>
+        <source>Invalid JPEG file structure</source>
+        <translation>ungültiger Aufbau der JPEG-Datei</translation>
+    </message>
+    <message>
+        <source>missing SOS marker</source>
+        <translation>die SOS-Marke fehlt</translation>
+    </message>
+    <message>
+        <source>Bogus marker length</source>
+        <translation>ungültige Länge einer Marke</translation>
+    </message>
+    <message>
+        <source>Bogus Huffman table definition</source>
+        <translation>ungültige Huffman-Tabelle</translation>
+    </message>
+    <message>
+        <source>Unsupported marker type %1</source>
+        <translation>nicht unterstützte Marke %1</translation>
+    </message>
 </context>
 <context>
     <name>TintBar</name>

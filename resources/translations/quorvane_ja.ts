@@ -2344,6 +2344,46 @@
         <source>PSD picture is too large</source>
         <translation>PSD 画像が大きすぎます</translation>
     </message>
+    <message>
+        <source>Multi-disk zip archives not supported</source>
+        <translation>分割された zip アーカイブはサポートされていません</translation>
+    </message>
+    <message>
+        <source>invalid chunk type</source>
+        <translation>チャンクの種類が無効です</translation>
+    </message>
+    <message>
+        <source>bad adaptive filter value</source>
+        <translation>フィルターの値が無効です</translation>
+    </message>
+    <message>
+        <source>incorrect data check</source>
+        <translation>データのチェックサムが合いません</translation>
+    </message>
+    <message>
+        <source>invalid distance too far back</source>
+        <translation>距離が無効です (さかのぼりすぎ)</translation>
+    </message>
+    <message>
+        <source>Invalid JPEG file structure</source>
+        <translation>JPEG ファイルの構造が無効です</translation>
+    </message>
+    <message>
+        <source>missing SOS marker</source>
+        <translation>SOS マーカーがありません</translation>
+    </message>
+    <message>
+        <source>Bogus marker length</source>
+        <translation>マーカーの長さが無効です</translation>
+    </message>
+    <message>
+        <source>Bogus Huffman table definition</source>
+        <translation>ハフマン表の定義が無効です</translation>
+    </message>
+    <message>
+        <source>Unsupported marker type %1</source>
+        <translation>サポートされていないマーカー %1 です</translation>
+    </message>
 </context>
 <context>
     <name>TintBar</name>

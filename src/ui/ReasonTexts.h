@@ -13,7 +13,8 @@ std::span<const char* const> ofFolders();
 std::span<const char* const> ofPictures();
 /// The icon library, looks, the list of versions.
 std::span<const char* const> ofLibrary();
-/// Words of the C library for an errno, when it has none in the user's language, and those of libzip.
+/// Words of the C library for an errno, when it has none in the user's language, and those of the libraries that read
+/// zip files and pictures.
 std::span<const char* const> ofOthers();
 
 }  // namespace quorvane::reasons

@@ -214,12 +214,22 @@ constexpr const char* foreignTexts[] = {
     QT_TRANSLATE_NOOP("Reasons", "Resource temporarily unavailable"),
     QT_TRANSLATE_NOOP("Reasons", "No data available"),
     QT_TRANSLATE_NOOP("Reasons", "Structure needs cleaning"),
-    // libzip.
+    // Libraries: libzip, libpng and zlib, libjpeg.
     QT_TRANSLATE_NOOP("Reasons", "Not a zip archive"),
     QT_TRANSLATE_NOOP("Reasons", "Zip archive inconsistent"),
     QT_TRANSLATE_NOOP("Reasons", "Compression method not supported"),
     QT_TRANSLATE_NOOP("Reasons", "CRC error"),
     QT_TRANSLATE_NOOP("Reasons", "Premature end of file"),
+    QT_TRANSLATE_NOOP("Reasons", "Multi-disk zip archives not supported"),
+    QT_TRANSLATE_NOOP("Reasons", "invalid chunk type"),
+    QT_TRANSLATE_NOOP("Reasons", "bad adaptive filter value"),
+    QT_TRANSLATE_NOOP("Reasons", "incorrect data check"),
+    QT_TRANSLATE_NOOP("Reasons", "invalid distance too far back"),
+    QT_TRANSLATE_NOOP("Reasons", "Invalid JPEG file structure"),
+    QT_TRANSLATE_NOOP("Reasons", "missing SOS marker"),
+    QT_TRANSLATE_NOOP("Reasons", "Bogus marker length"),
+    QT_TRANSLATE_NOOP("Reasons", "Bogus Huffman table definition"),
+    QT_TRANSLATE_NOOP("Reasons", "Unsupported marker type %1"),
 };
 
 }  // namespace
