@@ -6,7 +6,7 @@ update  brings resources/translations/*.ts up to date with the texts in src/ and
         new there is marked as unfinished, what nobody looks up any more goes
 check   changes nothing, and says what of those texts is missing or unfinished, where a translation differs from its text
         in its places (%1, %n, %@ ...), its access key or its "…", and where the program looks in a context that has no
-        texts. Exit 1 when there is any; 77 when lupdate is not installed"""
+        texts; and which reason no error has. Exit 1 when there is any; 77 when lupdate is not installed"""
 import json
 import os
 import re
@@ -20,6 +20,8 @@ ROOT = os.path.dirname(os.path.dirname(os.path.abspath(__file__)))
 FOLDER = os.path.join(ROOT, "resources/translations")
 LUPDATE = shutil.which("lupdate", path="/usr/lib/qt6/bin" + os.pathsep + os.environ.get("PATH", ""))
 PLACE = re.compile(r"%(?:\d+|@|\.\d+f|[a-z]+)")
+REASON_TEXTS = re.compile(r"^ReasonTexts\w*\.(?:cpp|h)$")
+TOKEN = re.compile(r"//[^\n]*|/\*.*?\*/|'(?:\\.|[^'\\\n])'|\"((?:\\.|[^\"\\\n])*)\"", re.S)
 ORDERED = ("%@", "%d", "%.0f")  # filled in the order in which they stand
 
 
@@ -96,6 +98,50 @@ def wrong_contexts(known):
                     yield f'{os.path.relpath(os.path.join(folder, name), ROOT)}: no texts stand in "{context}"'
 
 
+def literals(code):
+    """The texts that stand in the code, those that are written in several pieces as one."""
+    texts, end = [], None
+    for token in TOKEN.finditer(code):
+        if token[1] is None:
+            continue
+        text = re.sub(r"\\(.)", r"\1", token[1])
+        if texts and code[end:token.start()].isspace():
+            texts[-1] += text
+        else:
+            texts.append(text)
+        end = token.end()
+    return texts
+
+
+def reason_faults(texts):
+    """What is wrong with texts of the context "Reasons": each has to be made of what stands elsewhere in the code, whole or
+    of two parts, or it is never looked up; words of the system and of libraries cannot be found so."""
+    pieces, foreign = set(), set()
+    for folder, _, names in os.walk(os.path.join(ROOT, "src")):
+        for name in names:
+            with open(os.path.join(folder, name), encoding="utf-8") as source:
+                code = source.read()
+            if REASON_TEXTS.match(name):
+                for array in re.findall(r"foreignTexts\[\] = \{(.*?)^\};", code, re.S | re.M):
+                    foreign.update(literals(array))
+            elif not folder.endswith("/src/cli"):
+                for text in literals(code):
+                    for separator in (": ", ": |; ", "%[1-9]"):
+                        pieces.update(re.split(separator, text))
+    # Of very short ones anything could be made.
+    halves = {piece for piece in pieces if len(re.findall("[A-Za-z]", piece)) not in (1, 2, 3)}
+    for text in texts:
+        parts = re.split("%[1-9]", text)
+        if re.findall("%[1-9]", text) != [f"%{place + 1}" for place in range(len(parts) - 1)]:
+            yield f"{text!r}: its places do not follow each other"
+        if ": " in text:
+            yield f"{text!r}: is looked up in pieces"
+        for part in parts:
+            if text not in foreign and part not in pieces and not any(
+                    part[:at] in halves and part[at:] in halves for at in range(1, len(part))):
+                yield f"{text!r}: no error has {part!r}"
+
+
 def check(files):
     faults = []
     with tempfile.TemporaryDirectory() as scratch:
@@ -103,10 +149,12 @@ def check(files):
         for warning in re.findall(r"src/(\S+): Class '(\S+)' lacks Q_OBJECT", update(copies)):
             if warning[1] != "quorvane":
                 faults.append(f"src/{warning[0]}: {warning[1]} lacks Q_OBJECT, so its texts are looked up elsewhere")
-        known = set()
+        known, reasons = set(), {}
         for path in copies:
             for context, text, translations, finished in messages(path):
                 known.add(context)
+                if context == "Reasons":
+                    reasons[text] = None
                 where = f"{os.path.basename(path)}: {context}: {text!r}"
                 if not finished:
                     faults.append(f"{where}: missing or unfinished")
@@ -114,6 +162,7 @@ def check(files):
                 # A form for one alone may say so in words.
                 faults += [f"{where}: {fault}" for form in translations for fault in differences(text, form)]
         faults += wrong_contexts(known)
+        faults += [f"Reasons: {fault}" for fault in reason_faults(reasons)]
     print("\n".join(faults) or f"{len(files)} languages are complete")
     return 1 if faults else 0
 

@@ -860,6 +860,1533 @@
     </message>
 </context>
 <context>
+    <name>Reasons</name>
+    <message>
+        <source>cannot open folder</source>
+        <translation>Öffnen des Ordners nicht möglich</translation>
+    </message>
+    <message>
+        <source>cannot open the folder above</source>
+        <translation>Öffnen des übergeordneten Ordners nicht möglich</translation>
+    </message>
+    <message>
+        <source>cannot list folder</source>
+        <translation>Auflisten des Ordners nicht möglich</translation>
+    </message>
+    <message>
+        <source>cannot look at folder</source>
+        <translation>Untersuchen des Ordners nicht möglich</translation>
+    </message>
+    <message>
+        <source>cannot look at</source>
+        <translation>Untersuchen nicht möglich</translation>
+    </message>
+    <message>
+        <source>cannot read</source>
+        <translation>Lesen nicht möglich</translation>
+    </message>
+    <message>
+        <source>cannot write</source>
+        <translation>Schreiben nicht möglich</translation>
+    </message>
+    <message>
+        <source>cannot rename</source>
+        <translation>Umbenennen nicht möglich</translation>
+    </message>
+    <message>
+        <source>cannot remove</source>
+        <translation>Entfernen nicht möglich</translation>
+    </message>
+    <message>
+        <source>cannot move</source>
+        <translation>Verschieben nicht möglich</translation>
+    </message>
+    <message>
+        <source>cannot make folder</source>
+        <translation>Anlegen des Ordners nicht möglich</translation>
+    </message>
+    <message>
+        <source>cannot keep a copy</source>
+        <translation>Aufbewahren einer Kopie nicht möglich</translation>
+    </message>
+    <message>
+        <source>cannot set times</source>
+        <translation>Setzen der Zeiten nicht möglich</translation>
+    </message>
+    <message>
+        <source>cannot flush folder</source>
+        <translation>Der Ordner kann nicht auf den Datenträger geschrieben werden</translation>
+    </message>
+    <message>
+        <source>cannot lock folder</source>
+        <translation>Sperren des Ordners nicht möglich</translation>
+    </message>
+    <message>
+        <source>cannot read attribute %1</source>
+        <translation>Lesen des Attributs %1 nicht möglich</translation>
+    </message>
+    <message>
+        <source>cannot write attribute %1</source>
+        <translation>Schreiben des Attributs %1 nicht möglich</translation>
+    </message>
+    <message>
+        <source>cannot remove attribute %1</source>
+        <translation>Entfernen des Attributs %1 nicht möglich</translation>
+    </message>
+    <message>
+        <source>cannot keep the file&apos;s properties</source>
+        <translation>Die Eigenschaften der Datei können nicht erhalten werden</translation>
+    </message>
+    <message>
+        <source>cannot keep the file&apos;s properties, attribute %1</source>
+        <translation>Die Eigenschaften der Datei können nicht erhalten werden, Attribut %1</translation>
+    </message>
+    <message>
+        <source>cannot keep the file&apos;s properties, access list</source>
+        <translation>Die Eigenschaften der Datei können nicht erhalten werden, Zugriffsliste</translation>
+    </message>
+    <message>
+        <source>cannot give the file to its owner</source>
+        <translation>Die Datei kann ihrem Eigentümer nicht übergeben werden</translation>
+    </message>
+    <message>
+        <source>a file stands there</source>
+        <translation>dort liegt eine Datei</translation>
+    </message>
+    <message>
+        <source>a folder stands there</source>
+        <translation>dort liegt ein Ordner</translation>
+    </message>
+    <message>
+        <source>a link stands there</source>
+        <translation>dort liegt eine Verknüpfung</translation>
+    </message>
+    <message>
+        <source>a fifo stands there</source>
+        <translation>dort liegt eine FIFO-Datei</translation>
+    </message>
+    <message>
+        <source>a socket stands there</source>
+        <translation>dort liegt ein Socket</translation>
+    </message>
+    <message>
+        <source>a device stands there</source>
+        <translation>dort liegt eine Gerätedatei</translation>
+    </message>
+    <message>
+        <source>it is a folder</source>
+        <translation>es ist ein Ordner</translation>
+    </message>
+    <message>
+        <source>it is a link</source>
+        <translation>es ist eine Verknüpfung</translation>
+    </message>
+    <message>
+        <source>it is a fifo</source>
+        <translation>es ist eine FIFO-Datei</translation>
+    </message>
+    <message>
+        <source>it is a socket</source>
+        <translation>es ist ein Socket</translation>
+    </message>
+    <message>
+        <source>it is a device</source>
+        <translation>es ist eine Gerätedatei</translation>
+    </message>
+    <message>
+        <source>is no plain file</source>
+        <translation>ist keine gewöhnliche Datei</translation>
+    </message>
+    <message>
+        <source>more than %1 bytes</source>
+        <translation>mehr als %1 Byte</translation>
+    </message>
+    <message>
+        <source>what was read back differs</source>
+        <translation>beim erneuten Lesen kam etwas anderes zurück</translation>
+    </message>
+    <message>
+        <source>it was changed by somebody else meanwhile</source>
+        <translation>jemand anderes hat es inzwischen geändert</translation>
+    </message>
+    <message>
+        <source>nested too deep</source>
+        <translation>zu tief verschachtelt</translation>
+    </message>
+    <message>
+        <source>another file system is mounted there</source>
+        <translation>dort ist ein anderes Dateisystem eingehängt</translation>
+    </message>
+    <message>
+        <source>the folder was opened for looking only</source>
+        <translation>der Ordner wurde nur zum Ansehen geöffnet</translation>
+    </message>
+    <message>
+        <source>does not hold the folder any more</source>
+        <translation>enthält den Ordner nicht mehr</translation>
+    </message>
+    <message>
+        <source>has no folder above it</source>
+        <translation>hat keinen übergeordneten Ordner</translation>
+    </message>
+    <message>
+        <source>the folder was moved meanwhile</source>
+        <translation>der Ordner wurde inzwischen verschoben</translation>
+    </message>
+    <message>
+        <source>another program is changing this folder</source>
+        <translation>ein anderes Programm ändert diesen Ordner gerade</translation>
+    </message>
+    <message>
+        <source>interrupted while another program is changing this folder</source>
+        <translation>abgebrochen, während ein anderes Programm diesen Ordner ändert</translation>
+    </message>
+    <message>
+        <source>interrupted</source>
+        <translation>abgebrochen</translation>
+    </message>
+    <message>
+        <source>the user has no home folder</source>
+        <translation>der Benutzer hat keinen persönlichen Ordner</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos;</source>
+        <translation>„%1“</translation>
+    </message>
+    <message>
+        <source>empty name</source>
+        <translation>leerer Name</translation>
+    </message>
+    <message>
+        <source>&quot;.&quot; and &quot;..&quot; are no names of items</source>
+        <translation>„.“ und „..“ sind keine Namen von Objekten</translation>
+    </message>
+    <message>
+        <source>name with a slash</source>
+        <translation>Name mit einem Schrägstrich</translation>
+    </message>
+    <message>
+        <source>name with a zero byte</source>
+        <translation>Name mit einem Nullbyte</translation>
+    </message>
+    <message>
+        <source>name of %1 bytes, at most %2 are possible</source>
+        <translation>Name mit %1 Byte, höchstens %2 sind möglich</translation>
+    </message>
+    <message>
+        <source>name of %1 bytes is too long for a companion file</source>
+        <translation>Name mit %1 Byte ist zu lang für eine Begleitdatei</translation>
+    </message>
+    <message>
+        <source>path with a zero byte</source>
+        <translation>Pfad mit einem Nullbyte</translation>
+    </message>
+    <message>
+        <source>the path names no file</source>
+        <translation>der Pfad nennt keine Datei</translation>
+    </message>
+    <message>
+        <source>an absolute path leads out of the folder</source>
+        <translation>ein absoluter Pfad führt aus dem Ordner hinaus</translation>
+    </message>
+    <message>
+        <source>the path names no file in the folder</source>
+        <translation>der Pfad nennt keine Datei im Ordner</translation>
+    </message>
+    <message>
+        <source>the path leads out of the folder</source>
+        <translation>der Pfad führt aus dem Ordner hinaus</translation>
+    </message>
+    <message>
+        <source>the root of the file system is not branded</source>
+        <translation>die Wurzel des Dateisystems bekommt kein Symbol</translation>
+    </message>
+    <message>
+        <source>the system&apos;s own folders are not branded</source>
+        <translation>die eigenen Ordner des Systems bekommen kein Symbol</translation>
+    </message>
+    <message>
+        <source>what is kept of an icon&apos;s folder is not branded</source>
+        <translation>was zu einem Ordnersymbol aufbewahrt wird, bekommt selbst kein Symbol</translation>
+    </message>
+    <message>
+        <source>the folder of all homes is not branded</source>
+        <translation>der Ordner aller persönlichen Ordner bekommt kein Symbol</translation>
+    </message>
+    <message>
+        <source>a link stands where the icon&apos;s own file belongs</source>
+        <translation>wo die Datei des Symbols hingehört, liegt eine Verknüpfung</translation>
+    </message>
+    <message>
+        <source>a folder stands where the icon&apos;s own file belongs</source>
+        <translation>wo die Datei des Symbols hingehört, liegt ein Ordner</translation>
+    </message>
+    <message>
+        <source>no plain file stands where the icon&apos;s own file belongs</source>
+        <translation>wo die Datei des Symbols hingehört, liegt keine gewöhnliche Datei</translation>
+    </message>
+    <message>
+        <source>there is no picture of its kind</source>
+        <translation>es gibt kein Bild dieser Art</translation>
+    </message>
+    <message>
+        <source>there is no picture to make an icon of</source>
+        <translation>es gibt kein Bild für ein Symbol</translation>
+    </message>
+    <message>
+        <source>there is no icon of its kind</source>
+        <translation>es gibt kein Symbol dieser Art</translation>
+    </message>
+    <message>
+        <source>its icon holds no picture</source>
+        <translation>sein Symbol enthält kein Bild</translation>
+    </message>
+    <message>
+        <source>the icon&apos;s picture is missing</source>
+        <translation>das Bild des Symbols fehlt</translation>
+    </message>
+    <message>
+        <source>nothing was composed</source>
+        <translation>es wurde nichts zusammengesetzt</translation>
+    </message>
+    <message>
+        <source>holds no record of what was there before</source>
+        <translation>enthält keine Aufzeichnung des früheren Zustands</translation>
+    </message>
+    <message>
+        <source>is damaged, or was written by a newer version</source>
+        <translation>ist beschädigt oder wurde von einer neueren Version geschrieben</translation>
+    </message>
+    <message>
+        <source>stands in the way; it is not a record of ours</source>
+        <translation>ist im Weg; es ist keine Aufzeichnung von Quorvane</translation>
+    </message>
+    <message>
+        <source>the kept backup is missing</source>
+        <translation>die aufbewahrte Sicherung fehlt</translation>
+    </message>
+    <message>
+        <source>what is kept is no plain file</source>
+        <translation>das Aufbewahrte ist keine gewöhnliche Datei</translation>
+    </message>
+    <message>
+        <source>there is no record of the original icon</source>
+        <translation>es gibt keine Aufzeichnung des ursprünglichen Symbols</translation>
+    </message>
+    <message>
+        <source>the kept original is missing</source>
+        <translation>das aufbewahrte Original fehlt</translation>
+    </message>
+    <message>
+        <source>the record of the original icon is damaged</source>
+        <translation>die Aufzeichnung des ursprünglichen Symbols ist beschädigt</translation>
+    </message>
+    <message>
+        <source>unknown form</source>
+        <translation>unbekannte Form</translation>
+    </message>
+    <message>
+        <source>a line without a value</source>
+        <translation>eine Zeile ohne Wert</translation>
+    </message>
+    <message>
+        <source>its end is missing</source>
+        <translation>das Ende fehlt</translation>
+    </message>
+    <message>
+        <source>nothing about %1</source>
+        <translation>nichts über %1</translation>
+    </message>
+    <message>
+        <source>what is said of %1</source>
+        <translation>die Angabe zu %1</translation>
+    </message>
+    <message>
+        <source>the icon is too large for a resource</source>
+        <translation>das Symbol ist zu groß für eine Ressource</translation>
+    </message>
+    <message>
+        <source>has no resource fork</source>
+        <translation>hat keinen Ressourcenzweig</translation>
+    </message>
+    <message>
+        <source>there is no icon file to remove</source>
+        <translation>es gibt keine Symboldatei zu entfernen</translation>
+    </message>
+    <message>
+        <source>cannot keep the folder&apos;s Finder info</source>
+        <translation>die Finder-Informationen des Ordners können nicht gespeichert werden</translation>
+    </message>
+    <message>
+        <source>as attribute</source>
+        <translation>als Attribut</translation>
+    </message>
+    <message>
+        <source>as companion file %1</source>
+        <translation>als Begleitdatei %1</translation>
+    </message>
+    <message>
+        <source>no place</source>
+        <translation>kein Ort</translation>
+    </message>
+    <message>
+        <source>attribute %1</source>
+        <translation>Attribut %1</translation>
+    </message>
+    <message>
+        <source>it has no Finder info</source>
+        <translation>es hat keine Finder-Informationen</translation>
+    </message>
+    <message>
+        <source>companion file</source>
+        <translation>Begleitdatei</translation>
+    </message>
+    <message>
+        <source>companion file too long</source>
+        <translation>Begleitdatei zu lang</translation>
+    </message>
+    <message>
+        <source>header cut short</source>
+        <translation>Kopf abgeschnitten</translation>
+    </message>
+    <message>
+        <source>wrong magic number</source>
+        <translation>falsche Kennzahl</translation>
+    </message>
+    <message>
+        <source>unknown version</source>
+        <translation>unbekannte Version</translation>
+    </message>
+    <message>
+        <source>too many entries</source>
+        <translation>zu viele Einträge</translation>
+    </message>
+    <message>
+        <source>entry table cut short</source>
+        <translation>Tabelle der Einträge abgeschnitten</translation>
+    </message>
+    <message>
+        <source>entry outside the file</source>
+        <translation>Eintrag außerhalb der Datei</translation>
+    </message>
+    <message>
+        <source>entries overlap</source>
+        <translation>Einträge überlappen sich</translation>
+    </message>
+    <message>
+        <source>resource fork</source>
+        <translation>Ressourcenzweig</translation>
+    </message>
+    <message>
+        <source>resource fork too long</source>
+        <translation>Ressourcenzweig zu lang</translation>
+    </message>
+    <message>
+        <source>data or map outside the fork</source>
+        <translation>Daten oder Verzeichnis außerhalb des Zweigs</translation>
+    </message>
+    <message>
+        <source>header, data and map overlap</source>
+        <translation>Kopf, Daten und Verzeichnis überlappen sich</translation>
+    </message>
+    <message>
+        <source>map cut short</source>
+        <translation>Verzeichnis abgeschnitten</translation>
+    </message>
+    <message>
+        <source>type list on the map&apos;s header</source>
+        <translation>Typenliste auf dem Kopf des Verzeichnisses</translation>
+    </message>
+    <message>
+        <source>type list outside the map</source>
+        <translation>Typenliste außerhalb des Verzeichnisses</translation>
+    </message>
+    <message>
+        <source>references inside the type list</source>
+        <translation>Verweise innerhalb der Typenliste</translation>
+    </message>
+    <message>
+        <source>references outside the map</source>
+        <translation>Verweise außerhalb des Verzeichnisses</translation>
+    </message>
+    <message>
+        <source>resources overlap</source>
+        <translation>Ressourcen überlappen sich</translation>
+    </message>
+    <message>
+        <source>too many resources</source>
+        <translation>zu viele Ressourcen</translation>
+    </message>
+    <message>
+        <source>name outside the map</source>
+        <translation>Name außerhalb des Verzeichnisses</translation>
+    </message>
+    <message>
+        <source>resource outside the data</source>
+        <translation>Ressource außerhalb der Daten</translation>
+    </message>
+    <message>
+        <source>data out of reach</source>
+        <translation>Daten außer Reichweite</translation>
+    </message>
+    <message>
+        <source>resource too long</source>
+        <translation>Ressource zu lang</translation>
+    </message>
+    <message>
+        <source>name too long</source>
+        <translation>Name zu lang</translation>
+    </message>
+    <message>
+        <source>too many names</source>
+        <translation>zu viele Namen</translation>
+    </message>
+    <message>
+        <source>not a property list</source>
+        <translation>keine Eigenschaftsliste</translation>
+    </message>
+    <message>
+        <source>the property list is no array</source>
+        <translation>die Eigenschaftsliste ist kein Feld</translation>
+    </message>
+    <message>
+        <source>a property list that is too long</source>
+        <translation>eine zu lange Eigenschaftsliste</translation>
+    </message>
+    <message>
+        <source>a property list with too many strings</source>
+        <translation>eine Eigenschaftsliste mit zu vielen Texten</translation>
+    </message>
+    <message>
+        <source>a property list that is nested too deep</source>
+        <translation>eine zu tief verschachtelte Eigenschaftsliste</translation>
+    </message>
+    <message>
+        <source>no memory to read a property list</source>
+        <translation>kein Arbeitsspeicher zum Lesen einer Eigenschaftsliste</translation>
+    </message>
+    <message>
+        <source>its binary form is damaged</source>
+        <translation>die binäre Form ist beschädigt</translation>
+    </message>
+    <message>
+        <source>it is empty</source>
+        <translation>sie ist leer</translation>
+    </message>
+    <message>
+        <source>it ends too early</source>
+        <translation>endet zu früh</translation>
+    </message>
+    <message>
+        <source>something follows its end</source>
+        <translation>nach dem Ende folgt noch etwas</translation>
+    </message>
+    <message>
+        <source>byte %1 is out of place</source>
+        <translation>Byte %1 ist fehl am Platz</translation>
+    </message>
+    <message>
+        <source>a comment has no end</source>
+        <translation>ein Kommentar hat kein Ende</translation>
+    </message>
+    <message>
+        <source>data have no end</source>
+        <translation>Daten haben kein Ende</translation>
+    </message>
+    <message>
+        <source>a string has no end</source>
+        <translation>ein Text hat kein Ende</translation>
+    </message>
+    <message>
+        <source>it declares entities</source>
+        <translation>sie deklariert Entitäten</translation>
+    </message>
+    <message>
+        <source>it refers to an entity that is not declared</source>
+        <translation>sie verweist auf eine nicht deklarierte Entität</translation>
+    </message>
+    <message>
+        <source>its outermost element is no plist</source>
+        <translation>das äußerste Element ist kein plist</translation>
+    </message>
+    <message>
+        <source>it has two values</source>
+        <translation>sie hat zwei Werte</translation>
+    </message>
+    <message>
+        <source>an element stands in a string</source>
+        <translation>in einem Text steht ein Element</translation>
+    </message>
+    <message>
+        <source>the desktop session does not answer</source>
+        <translation>die Sitzung des Desktops antwortet nicht</translation>
+    </message>
+    <message>
+        <source>the desktop session cannot be asked</source>
+        <translation>die Sitzung des Desktops kann nicht gefragt werden</translation>
+    </message>
+    <message>
+        <source>the desktop keeps no settings</source>
+        <translation>der Desktop speichert keine Einstellungen</translation>
+    </message>
+    <message>
+        <source>the desktop did not keep the icon&apos;s name</source>
+        <translation>der Desktop hat den Namen des Symbols nicht gespeichert</translation>
+    </message>
+    <message>
+        <source>no reason given</source>
+        <translation>ohne Angabe eines Grundes</translation>
+    </message>
+    <message>
+        <source>the icon&apos;s name is no text</source>
+        <translation>der Name des Symbols ist kein Text</translation>
+    </message>
+    <message>
+        <source>holds something else than text</source>
+        <translation>enthält etwas anderes als Text</translation>
+    </message>
+    <message>
+        <source>cannot read settings</source>
+        <translation>Lesen der Einstellungen nicht möglich</translation>
+    </message>
+    <message>
+        <source>cannot keep settings</source>
+        <translation>Speichern der Einstellungen nicht möglich</translation>
+    </message>
+    <message>
+        <source>cannot move aside what stands in the place of settings</source>
+        <translation>was am Ort der Einstellungen liegt, kann nicht beiseitegelegt werden</translation>
+    </message>
+    <message>
+        <source>too many are kept already</source>
+        <translation>es werden schon zu viele aufbewahrt</translation>
+    </message>
+    <message>
+        <source>it is somebody else&apos;s link</source>
+        <translation>es ist die Verknüpfung eines anderen Benutzers</translation>
+    </message>
+    <message>
+        <source>the link leads nowhere</source>
+        <translation>die Verknüpfung führt nirgendwohin</translation>
+    </message>
+    <message>
+        <source>the link leads to somebody else&apos;s file</source>
+        <translation>die Verknüpfung führt zur Datei eines anderen Benutzers</translation>
+    </message>
+    <message>
+        <source>the file is read-only</source>
+        <translation>die Datei ist schreibgeschützt</translation>
+    </message>
+    <message>
+        <source>is longer than %1 bytes, no settings file</source>
+        <translation>ist länger als %1 Byte, keine Einstellungsdatei</translation>
+    </message>
+    <message>
+        <source>is no settings file</source>
+        <translation>ist keine Einstellungsdatei</translation>
+    </message>
+    <message>
+        <source>the settings are longer than %1 bytes</source>
+        <translation>die Einstellungen sind länger als %1 Byte</translation>
+    </message>
+    <message>
+        <source>No such file or directory</source>
+        <translation>Datei oder Ordner nicht gefunden</translation>
+    </message>
+    <message>
+        <source>Permission denied</source>
+        <translation>Keine Berechtigung</translation>
+    </message>
+    <message>
+        <source>Operation not permitted</source>
+        <translation>Die Operation ist nicht erlaubt</translation>
+    </message>
+    <message>
+        <source>Read-only file system</source>
+        <translation>Das Dateisystem ist nur lesbar</translation>
+    </message>
+    <message>
+        <source>No space left on device</source>
+        <translation>Auf dem Datenträger ist kein Platz mehr frei</translation>
+    </message>
+    <message>
+        <source>Disk quota exceeded</source>
+        <translation>Der zugeteilte Speicherplatz ist ausgeschöpft</translation>
+    </message>
+    <message>
+        <source>Input/output error</source>
+        <translation>Eingabe-/Ausgabefehler</translation>
+    </message>
+    <message>
+        <source>No such device</source>
+        <translation>Das Gerät gibt es nicht</translation>
+    </message>
+    <message>
+        <source>No such device or address</source>
+        <translation>Das Gerät oder die Adresse gibt es nicht</translation>
+    </message>
+    <message>
+        <source>No medium found</source>
+        <translation>Kein Medium gefunden</translation>
+    </message>
+    <message>
+        <source>Transport endpoint is not connected</source>
+        <translation>Die Verbindung ist nicht hergestellt</translation>
+    </message>
+    <message>
+        <source>Connection timed out</source>
+        <translation>Zeitüberschreitung der Verbindung</translation>
+    </message>
+    <message>
+        <source>Connection refused</source>
+        <translation>Die Verbindung wurde abgelehnt</translation>
+    </message>
+    <message>
+        <source>Host is down</source>
+        <translation>Der Server läuft nicht</translation>
+    </message>
+    <message>
+        <source>No route to host</source>
+        <translation>Kein Weg zum Server</translation>
+    </message>
+    <message>
+        <source>Stale file handle</source>
+        <translation>Die Datei ist auf dem Server nicht mehr dieselbe</translation>
+    </message>
+    <message>
+        <source>Remote I/O error</source>
+        <translation>Eingabe-/Ausgabefehler am anderen Ende</translation>
+    </message>
+    <message>
+        <source>File name too long</source>
+        <translation>Der Dateiname ist zu lang</translation>
+    </message>
+    <message>
+        <source>File too large</source>
+        <translation>Die Datei ist zu groß</translation>
+    </message>
+    <message>
+        <source>File exists</source>
+        <translation>Die Datei existiert bereits</translation>
+    </message>
+    <message>
+        <source>Not a directory</source>
+        <translation>Das ist kein Ordner</translation>
+    </message>
+    <message>
+        <source>Is a directory</source>
+        <translation>Das ist ein Ordner</translation>
+    </message>
+    <message>
+        <source>Directory not empty</source>
+        <translation>Der Ordner ist nicht leer</translation>
+    </message>
+    <message>
+        <source>Device or resource busy</source>
+        <translation>Das Gerät oder die Ressource wird gerade benutzt</translation>
+    </message>
+    <message>
+        <source>Text file busy</source>
+        <translation>Die Programmdatei wird gerade benutzt</translation>
+    </message>
+    <message>
+        <source>Invalid argument</source>
+        <translation>Ungültige Angabe</translation>
+    </message>
+    <message>
+        <source>Invalid cross-device link</source>
+        <translation>Ungültige Verknüpfung zwischen verschiedenen Datenträgern</translation>
+    </message>
+    <message>
+        <source>Too many levels of symbolic links</source>
+        <translation>Zu viele aufeinanderfolgende Verknüpfungen</translation>
+    </message>
+    <message>
+        <source>Too many links</source>
+        <translation>Zu viele Verknüpfungen</translation>
+    </message>
+    <message>
+        <source>Too many open files</source>
+        <translation>Zu viele offene Dateien</translation>
+    </message>
+    <message>
+        <source>Too many open files in system</source>
+        <translation>Zu viele offene Dateien im System</translation>
+    </message>
+    <message>
+        <source>Cannot allocate memory</source>
+        <translation>Zu wenig Arbeitsspeicher</translation>
+    </message>
+    <message>
+        <source>Operation not supported</source>
+        <translation>Die Operation wird nicht unterstützt</translation>
+    </message>
+    <message>
+        <source>Function not implemented</source>
+        <translation>Die Funktion ist nicht vorhanden</translation>
+    </message>
+    <message>
+        <source>Interrupted system call</source>
+        <translation>Unterbrochener Systemaufruf</translation>
+    </message>
+    <message>
+        <source>Resource temporarily unavailable</source>
+        <translation>Die Ressource ist zurzeit nicht verfügbar</translation>
+    </message>
+    <message>
+        <source>No data available</source>
+        <translation>Keine Daten verfügbar</translation>
+    </message>
+    <message>
+        <source>Structure needs cleaning</source>
+        <translation>Das Dateisystem ist beschädigt</translation>
+    </message>
+    <message>
+        <source>Not a zip archive</source>
+        <translation>kein Zip-Archiv</translation>
+    </message>
+    <message>
+        <source>Zip archive inconsistent</source>
+        <translation>das Zip-Archiv ist in sich widersprüchlich</translation>
+    </message>
+    <message>
+        <source>Compression method not supported</source>
+        <translation>das Kompressionsverfahren wird nicht unterstützt</translation>
+    </message>
+    <message>
+        <source>CRC error</source>
+        <translation>Prüfsummenfehler</translation>
+    </message>
+    <message>
+        <source>Premature end of file</source>
+        <translation>vorzeitiges Ende der Datei</translation>
+    </message>
+    <message>
+        <source>there is no picture in the folder</source>
+        <translation>im Ordner ist kein Bild</translation>
+    </message>
+    <message>
+        <source>no picture in the folder can be read</source>
+        <translation>kein Bild im Ordner ist lesbar</translation>
+    </message>
+    <message>
+        <source>too many pictures for one set</source>
+        <translation>zu viele Bilder für eine Sammlung</translation>
+    </message>
+    <message>
+        <source>cannot be read back</source>
+        <translation>kann nicht zurückgelesen werden</translation>
+    </message>
+    <message>
+        <source>cannot read the set</source>
+        <translation>Lesen der Sammlung nicht möglich</translation>
+    </message>
+    <message>
+        <source>there is no home folder for a library</source>
+        <translation>es gibt keinen persönlichen Ordner für eine Bibliothek</translation>
+    </message>
+    <message>
+        <source>the set holds icons</source>
+        <translation>die Sammlung enthält Symbole</translation>
+    </message>
+    <message>
+        <source>the set&apos;s folder holds other files, and there is no trash for them</source>
+        <translation>der Ordner der Sammlung enthält andere Dateien, und für sie gibt es keinen Papierkorb</translation>
+    </message>
+    <message>
+        <source>%1 of the icons cannot be brought back from the trash</source>
+        <translation>%1 der Symbole können nicht aus dem Papierkorb zurückgeholt werden</translation>
+    </message>
+    <message>
+        <source>the set cannot be brought back from the trash</source>
+        <translation>die Sammlung kann nicht aus dem Papierkorb zurückgeholt werden</translation>
+    </message>
+    <message>
+        <source>no name of a set</source>
+        <translation>kein Name einer Sammlung</translation>
+    </message>
+    <message>
+        <source>it is one of our own</source>
+        <translation>Quorvane verwendet ihn selbst</translation>
+    </message>
+    <message>
+        <source>not a zip file that can be read</source>
+        <translation>keine lesbare Zip-Datei</translation>
+    </message>
+    <message>
+        <source>an entry has no name</source>
+        <translation>ein Eintrag hat keinen Namen</translation>
+    </message>
+    <message>
+        <source>an entry has no length</source>
+        <translation>ein Eintrag hat keine Länge</translation>
+    </message>
+    <message>
+        <source>it is longer than it says</source>
+        <translation>länger als angegeben</translation>
+    </message>
+    <message>
+        <source>the zip file holds no icons</source>
+        <translation>die Zip-Datei enthält keine Symbole</translation>
+    </message>
+    <message>
+        <source>the zip file holds icons in several folders</source>
+        <translation>die Zip-Datei enthält Symbole in mehreren Ordnern</translation>
+    </message>
+    <message>
+        <source>no picture in the zip file can be read</source>
+        <translation>kein Bild in der Zip-Datei ist lesbar</translation>
+    </message>
+    <message>
+        <source>the zip file names &apos;%1&apos;, which leads elsewhere</source>
+        <translation>die Zip-Datei nennt „%1“, was woandershin führt</translation>
+    </message>
+    <message>
+        <source>the zip file holds &apos;%1&apos;, which is no plain file</source>
+        <translation>die Zip-Datei enthält „%1“, was keine gewöhnliche Datei ist</translation>
+    </message>
+    <message>
+        <source>the zip file names &apos;%1&apos; twice, or in other letters</source>
+        <translation>die Zip-Datei nennt „%1“ zweimal, oder in anderer Groß- und Kleinschreibung</translation>
+    </message>
+    <message>
+        <source>the zip file has too many entries</source>
+        <translation>die Zip-Datei hat zu viele Einträge</translation>
+    </message>
+    <message>
+        <source>the zip file is encrypted</source>
+        <translation>die Zip-Datei ist verschlüsselt</translation>
+    </message>
+    <message>
+        <source>the zip file unpacks to far more than its length</source>
+        <translation>die Zip-Datei ist entpackt weit größer als ihre Länge</translation>
+    </message>
+    <message>
+        <source>too much for one zip file</source>
+        <translation>zu viel für eine Zip-Datei</translation>
+    </message>
+    <message>
+        <source>cannot make a zip file</source>
+        <translation>Erstellen einer Zip-Datei nicht möglich</translation>
+    </message>
+    <message>
+        <source>what was made cannot be read</source>
+        <translation>das Erstellte ist nicht lesbar</translation>
+    </message>
+    <message>
+        <source>there is no such look</source>
+        <translation>diese Vorlage gibt es nicht</translation>
+    </message>
+    <message>
+        <source>there is a look named &apos;%1&apos; already</source>
+        <translation>eine Vorlage „%1“ gibt es schon</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; cannot be the name of a look</source>
+        <translation>„%1“ kann nicht der Name einer Vorlage sein</translation>
+    </message>
+    <message>
+        <source>the look&apos;s &quot;%1&quot; is no text</source>
+        <translation>„%1“ der Vorlage ist kein Text</translation>
+    </message>
+    <message>
+        <source>the look&apos;s &quot;%1&quot; is no number</source>
+        <translation>„%1“ der Vorlage ist keine Zahl</translation>
+    </message>
+    <message>
+        <source>the look&apos;s &quot;%1&quot; is no pair of numbers</source>
+        <translation>„%1“ der Vorlage ist kein Zahlenpaar</translation>
+    </message>
+    <message>
+        <source>the look&apos;s &quot;%1&quot; is no base64 text</source>
+        <translation>„%1“ der Vorlage ist kein Base64-Text</translation>
+    </message>
+    <message>
+        <source>the look&apos;s &quot;%1&quot; is no name of an effect</source>
+        <translation>„%1“ der Vorlage ist kein Name eines Effekts</translation>
+    </message>
+    <message>
+        <source>the look&apos;s &quot;overlay&quot; and &quot;overlay-picture&quot; exclude each other</source>
+        <translation>„overlay“ und „overlay-picture“ der Vorlage schließen sich aus</translation>
+    </message>
+    <message>
+        <source>the look&apos;s &quot;overlay-picture&quot; cannot be used</source>
+        <translation>„overlay-picture“ der Vorlage kann nicht verwendet werden</translation>
+    </message>
+    <message>
+        <source>is longer than %1 bytes, no look file</source>
+        <translation>ist länger als %1 Byte, keine Vorlagendatei</translation>
+    </message>
+    <message>
+        <source>is no JSON</source>
+        <translation>ist kein JSON</translation>
+    </message>
+    <message>
+        <source>is no look file</source>
+        <translation>ist keine Vorlagendatei</translation>
+    </message>
+    <message>
+        <source>was written by a newer version of this program</source>
+        <translation>wurde von einer neueren Version dieses Programms geschrieben</translation>
+    </message>
+    <message>
+        <source>the look&apos;s base picture &apos;%1&apos;</source>
+        <translation>das Basisbild „%1“ der Vorlage</translation>
+    </message>
+    <message>
+        <source>the name of the base picture is no text that a look can hold</source>
+        <translation>der Name des Basisbilds ist kein Text, den eine Vorlage enthalten kann</translation>
+    </message>
+    <message>
+        <source>the look is longer than %1 bytes</source>
+        <translation>die Vorlage ist länger als %1 Byte</translation>
+    </message>
+    <message>
+        <source>a look refers only to pictures in its own folder or below; copy the picture there first</source>
+        <translation>eine Vorlage verweist nur auf Bilder in ihrem eigenen Ordner oder darunter; kopieren Sie das Bild zuerst dorthin</translation>
+    </message>
+    <message>
+        <source>the label&apos;s shadow is none of the effects that a look can hold</source>
+        <translation>der Schatten der Beschriftung ist keiner der Effekte, die eine Vorlage enthalten kann</translation>
+    </message>
+    <message>
+        <source>there is no emblem &apos;%1&apos;</source>
+        <translation>es gibt kein Emblem „%1“</translation>
+    </message>
+    <message>
+        <source>there is no emblem &apos;%1&apos;, did you mean &apos;%2&apos;?</source>
+        <translation>es gibt kein Emblem „%1“, meinten Sie „%2“?</translation>
+    </message>
+    <message>
+        <source>there is no effect &apos;%1&apos;; use %2</source>
+        <translation>es gibt keinen Effekt „%1“; möglich sind %2</translation>
+    </message>
+    <message>
+        <source>%1 takes a number from %2 to %3, not &apos;%4&apos;</source>
+        <translation>%1 verlangt eine Zahl von %2 bis %3, nicht „%4“</translation>
+    </message>
+    <message>
+        <source>%1 takes X,Y, numbers within a million, not &apos;%2&apos;</source>
+        <translation>%1 verlangt X,Y, Zahlen bis zu einer Million, nicht „%2“</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is no colour; use #rgb, #rrggbb, #rrggbbaa or a name</source>
+        <translation>„%1“ ist keine Farbe; möglich sind #rgb, #rrggbb, #rrggbbaa oder ein Name</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is no overlay; use emblem:NAME, emoji:X or none</source>
+        <translation>„%1“ ist kein Abzeichen; möglich sind emblem:NAME, emoji:X oder none</translation>
+    </message>
+    <message>
+        <source>takes one emoji or other character</source>
+        <translation>verlangt ein Emoji oder ein anderes Zeichen</translation>
+    </message>
+    <message>
+        <source>takes one emoji or other character, not &apos;%1&apos;</source>
+        <translation>verlangt ein Emoji oder ein anderes Zeichen, nicht „%1“</translation>
+    </message>
+    <message>
+        <source>the font&apos;s name is longer than %1 bytes</source>
+        <translation>der Name der Schriftart ist länger als %1 Byte</translation>
+    </message>
+    <message>
+        <source>no font &apos;%1&apos; is installed</source>
+        <translation>die Schriftart „%1“ ist nicht installiert</translation>
+    </message>
+    <message>
+        <source>the font &apos;%1&apos; has no style &apos;%2&apos;; it has</source>
+        <translation>die Schriftart „%1“ hat keinen Schnitt „%2“; vorhanden sind</translation>
+    </message>
+    <message>
+        <source>the label is longer than %1 bytes</source>
+        <translation>die Beschriftung ist länger als %1 Byte</translation>
+    </message>
+    <message>
+        <source>the label holds a zero byte</source>
+        <translation>die Beschriftung enthält ein Nullbyte</translation>
+    </message>
+    <message>
+        <source>there is no placeholder {%1} for labels, only {name}; a brace itself is written {{</source>
+        <translation>es gibt keinen Platzhalter {%1} für Beschriftungen, nur {name}; eine Klammer selbst schreibt man {{</translation>
+    </message>
+    <message>
+        <source>the label is not UTF-8 text</source>
+        <translation>die Beschriftung ist kein UTF-8-Text</translation>
+    </message>
+    <message>
+        <source>the picture cannot be kept in so few bytes</source>
+        <translation>das Bild lässt sich nicht in so wenigen Byte speichern</translation>
+    </message>
+    <message>
+        <source>the picture is longer than %1 bytes</source>
+        <translation>das Bild ist länger als %1 Byte</translation>
+    </message>
+    <message>
+        <source>the picture is no PNG file</source>
+        <translation>das Bild ist keine PNG-Datei</translation>
+    </message>
+    <message>
+        <source>this is no list of versions</source>
+        <translation>das ist keine Liste von Versionen</translation>
+    </message>
+    <message>
+        <source>it has a document type</source>
+        <translation>sie hat einen Dokumenttyp</translation>
+    </message>
+    <message>
+        <source>an element has too many attributes</source>
+        <translation>ein Element hat zu viele Attribute</translation>
+    </message>
+    <message>
+        <source>its elements are nested too deeply</source>
+        <translation>ihre Elemente sind zu tief verschachtelt</translation>
+    </message>
+    <message>
+        <source>its first element is not &quot;rss&quot;</source>
+        <translation>ihr erstes Element ist nicht „rss“</translation>
+    </message>
+    <message>
+        <source>it has too many versions</source>
+        <translation>sie hat zu viele Versionen</translation>
+    </message>
+    <message>
+        <source>the list is too long</source>
+        <translation>die Liste ist zu lang</translation>
+    </message>
+    <message>
+        <source>not an https address</source>
+        <translation>keine https-Adresse</translation>
+    </message>
+    <message>
+        <source>no whole answer in %1 s</source>
+        <translation>keine vollständige Antwort in %1 s</translation>
+    </message>
+    <message>
+        <source>%1 bytes</source>
+        <translation>%1 Byte</translation>
+    </message>
+    <message>
+        <source>%1 of %2 bytes</source>
+        <translation>%1 von %2 Byte</translation>
+    </message>
+    <message>
+        <source>redirected to %1</source>
+        <translation>weitergeleitet nach %1</translation>
+    </message>
+    <message>
+        <source>redirected more than %1 times</source>
+        <translation>öfter als %1-mal weitergeleitet</translation>
+    </message>
+    <message>
+        <source>the proxy in the environment is not understood</source>
+        <translation>der Proxy in der Umgebung wird nicht verstanden</translation>
+    </message>
+    <message>
+        <source>%1 did not end</source>
+        <translation>%1 wurde nicht beendet</translation>
+    </message>
+    <message>
+        <source>%1 ended with %2</source>
+        <translation>%1 endete mit %2</translation>
+    </message>
+    <message>
+        <source>it is not in UTF-8</source>
+        <translation>sie ist nicht in UTF-8</translation>
+    </message>
+    <message>
+        <source>not an icon family</source>
+        <translation>keine Symbolfamilie</translation>
+    </message>
+    <message>
+        <source>an icon family without a whole element</source>
+        <translation>eine Symbolfamilie ohne vollständiges Element</translation>
+    </message>
+    <message>
+        <source>the icon family holds no whole picture</source>
+        <translation>die Symbolfamilie enthält kein vollständiges Bild</translation>
+    </message>
+    <message>
+        <source>icon family with too many elements</source>
+        <translation>Symbolfamilie mit zu vielen Elementen</translation>
+    </message>
+    <message>
+        <source>icon family element too long</source>
+        <translation>Element der Symbolfamilie zu lang</translation>
+    </message>
+    <message>
+        <source>icon family too long</source>
+        <translation>Symbolfamilie zu lang</translation>
+    </message>
+    <message>
+        <source>the image has no picture to make an icon of</source>
+        <translation>das Bild hat keine Darstellung, aus der ein Symbol gemacht werden kann</translation>
+    </message>
+    <message>
+        <source>element &apos;%1&apos; holds neither PNG nor JPEG 2000</source>
+        <translation>Element „%1“ enthält weder PNG noch JPEG 2000</translation>
+    </message>
+    <message>
+        <source>element &apos;%1&apos; holds neither ARGB, PNG nor JPEG 2000</source>
+        <translation>Element „%1“ enthält weder ARGB noch PNG noch JPEG 2000</translation>
+    </message>
+    <message>
+        <source>element &apos;%1&apos; holds a picture of %2 x %3 pixels</source>
+        <translation>Element „%1“ enthält ein Bild mit %2 × %3 Pixel</translation>
+    </message>
+    <message>
+        <source>element &apos;%1&apos; is too short</source>
+        <translation>Element „%1“ ist zu kurz</translation>
+    </message>
+    <message>
+        <source>element &apos;%1&apos; was given %2 bytes</source>
+        <translation>Element „%1“ bekam %2 Byte</translation>
+    </message>
+    <message>
+        <source>there is no element &apos;%1&apos;</source>
+        <translation>es gibt kein Element „%1“</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is not the type of a picture</source>
+        <translation>„%1“ ist kein Typ eines Bildes</translation>
+    </message>
+    <message>
+        <source>element pixels do not fill a bitmap</source>
+        <translation>die Pixel des Elements füllen kein Bild</translation>
+    </message>
+    <message>
+        <source>an element form is not handled</source>
+        <translation>eine Form von Elementen wird nicht behandelt</translation>
+    </message>
+    <message>
+        <source>packed colour with too many pixels</source>
+        <translation>gepackte Farbe mit zu vielen Pixeln</translation>
+    </message>
+    <message>
+        <source>packed colour does not unpack to its pixels</source>
+        <translation>gepackte Farbe ergibt entpackt nicht ihre Pixel</translation>
+    </message>
+    <message>
+        <source>packed picture with too many pixels</source>
+        <translation>gepacktes Bild mit zu vielen Pixeln</translation>
+    </message>
+    <message>
+        <source>packed picture does not unpack to its pixels</source>
+        <translation>gepacktes Bild ergibt entpackt nicht seine Pixel</translation>
+    </message>
+    <message>
+        <source>file is empty</source>
+        <translation>die Datei ist leer</translation>
+    </message>
+    <message>
+        <source>file is cut off</source>
+        <translation>die Datei ist abgeschnitten</translation>
+    </message>
+    <message>
+        <source>out of memory</source>
+        <translation>zu wenig Arbeitsspeicher</translation>
+    </message>
+    <message>
+        <source>the file holds no picture</source>
+        <translation>die Datei enthält kein Bild</translation>
+    </message>
+    <message>
+        <source>not a picture that can be read</source>
+        <translation>kein lesbares Bild</translation>
+    </message>
+    <message>
+        <source>an icon family, not a picture</source>
+        <translation>eine Symbolfamilie, kein Bild</translation>
+    </message>
+    <message>
+        <source>animations in the format MNG are not read</source>
+        <translation>Animationen im Format MNG werden nicht gelesen</translation>
+    </message>
+    <message>
+        <source>compressed vector pictures are not read</source>
+        <translation>komprimierte Vektorbilder werden nicht gelesen</translation>
+    </message>
+    <message>
+        <source>vector picture defines entities</source>
+        <translation>das Vektorbild definiert Entitäten</translation>
+    </message>
+    <message>
+        <source>vector picture refers to other files</source>
+        <translation>das Vektorbild verweist auf andere Dateien</translation>
+    </message>
+    <message>
+        <source>vector picture has too many parts</source>
+        <translation>das Vektorbild hat zu viele Teile</translation>
+    </message>
+    <message>
+        <source>picture of %1 x %2 pixels</source>
+        <translation>Bild mit %1 × %2 Pixel</translation>
+    </message>
+    <message>
+        <source>the picture cannot be decoded</source>
+        <translation>das Bild kann nicht dekodiert werden</translation>
+    </message>
+    <message>
+        <source>a picture without size</source>
+        <translation>ein Bild ohne Größe</translation>
+    </message>
+    <message>
+        <source>cannot be decoded</source>
+        <translation>nicht dekodierbar</translation>
+    </message>
+    <message>
+        <source>not a PNG file</source>
+        <translation>keine PNG-Datei</translation>
+    </message>
+    <message>
+        <source>PNG file is cut off</source>
+        <translation>die PNG-Datei ist abgeschnitten</translation>
+    </message>
+    <message>
+        <source>PNG header is cut off</source>
+        <translation>der Kopf der PNG-Datei ist abgeschnitten</translation>
+    </message>
+    <message>
+        <source>PNG file does not begin with a header</source>
+        <translation>die PNG-Datei beginnt nicht mit einem Kopf</translation>
+    </message>
+    <message>
+        <source>PNG header states an impossible size</source>
+        <translation>der Kopf der PNG-Datei nennt eine unmögliche Größe</translation>
+    </message>
+    <message>
+        <source>PNG header states an unknown kind of pixels</source>
+        <translation>der Kopf der PNG-Datei nennt eine unbekannte Art von Pixeln</translation>
+    </message>
+    <message>
+        <source>PNG file holds far more data than its pixels need</source>
+        <translation>die PNG-Datei enthält weit mehr Daten, als ihre Pixel brauchen</translation>
+    </message>
+    <message>
+        <source>PNG picture of %1 x %2 pixels</source>
+        <translation>PNG-Bild mit %1 × %2 Pixel</translation>
+    </message>
+    <message>
+        <source>PNG picture is too large</source>
+        <translation>das PNG-Bild ist zu groß</translation>
+    </message>
+    <message>
+        <source>unexpected layout</source>
+        <translation>unerwarteter Aufbau</translation>
+    </message>
+    <message>
+        <source>no pixels to write as PNG</source>
+        <translation>keine Pixel, die als PNG geschrieben werden können</translation>
+    </message>
+    <message>
+        <source>compressing a PNG</source>
+        <translation>beim Komprimieren eines PNG</translation>
+    </message>
+    <message>
+        <source>PNG pixels do not fit their bound</source>
+        <translation>PNG-Pixel überschreiten ihre Grenze</translation>
+    </message>
+    <message>
+        <source>JPEG file is cut off</source>
+        <translation>die JPEG-Datei ist abgeschnitten</translation>
+    </message>
+    <message>
+        <source>JPEG file of more than %1 scans</source>
+        <translation>JPEG-Datei mit mehr als %1 Durchläufen</translation>
+    </message>
+    <message>
+        <source>JPEG picture is too large</source>
+        <translation>das JPEG-Bild ist zu groß</translation>
+    </message>
+    <message>
+        <source>not a TIFF picture of inks or with transparent greys</source>
+        <translation>kein TIFF-Bild aus Druckfarben oder mit durchsichtigen Graustufen</translation>
+    </message>
+    <message>
+        <source>TIFF picture is damaged or cut off</source>
+        <translation>das TIFF-Bild ist beschädigt oder abgeschnitten</translation>
+    </message>
+    <message>
+        <source>TIFF picture has no pixels</source>
+        <translation>das TIFF-Bild hat keine Pixel</translation>
+    </message>
+    <message>
+        <source>not a JPEG 2000 file</source>
+        <translation>keine JPEG-2000-Datei</translation>
+    </message>
+    <message>
+        <source>JPEG 2000 file is cut off</source>
+        <translation>die JPEG-2000-Datei ist abgeschnitten</translation>
+    </message>
+    <message>
+        <source>JPEG 2000 file has a box without room for its header</source>
+        <translation>die JPEG-2000-Datei hat einen Block ohne Platz für seinen Kopf</translation>
+    </message>
+    <message>
+        <source>JPEG 2000 file has no picture</source>
+        <translation>die JPEG-2000-Datei hat kein Bild</translation>
+    </message>
+    <message>
+        <source>JPEG 2000 codestream does not begin with its size</source>
+        <translation>der JPEG-2000-Datenstrom beginnt nicht mit seiner Größe</translation>
+    </message>
+    <message>
+        <source>JPEG 2000 codestream has an unknown marker</source>
+        <translation>der JPEG-2000-Datenstrom hat eine unbekannte Marke</translation>
+    </message>
+    <message>
+        <source>JPEG 2000 header does not say how it is coded</source>
+        <translation>der JPEG-2000-Kopf sagt nicht, wie kodiert ist</translation>
+    </message>
+    <message>
+        <source>JPEG 2000 header states an impossible size</source>
+        <translation>der JPEG-2000-Kopf nennt eine unmögliche Größe</translation>
+    </message>
+    <message>
+        <source>JPEG 2000 header states an impossible coding</source>
+        <translation>der JPEG-2000-Kopf nennt eine unmögliche Kodierung</translation>
+    </message>
+    <message>
+        <source>JPEG 2000 tile states an impossible length</source>
+        <translation>eine JPEG-2000-Kachel nennt eine unmögliche Länge</translation>
+    </message>
+    <message>
+        <source>JPEG 2000 picture has %1 components</source>
+        <translation>das JPEG-2000-Bild hat %1 Komponenten</translation>
+    </message>
+    <message>
+        <source>JPEG 2000 picture has too many components</source>
+        <translation>das JPEG-2000-Bild hat zu viele Komponenten</translation>
+    </message>
+    <message>
+        <source>JPEG 2000 picture has unusable components</source>
+        <translation>das JPEG-2000-Bild hat unbrauchbare Komponenten</translation>
+    </message>
+    <message>
+        <source>JPEG 2000 picture has components of unequal size</source>
+        <translation>das JPEG-2000-Bild hat ungleich große Komponenten</translation>
+    </message>
+    <message>
+        <source>JPEG 2000 picture has more than 16 bits a sample</source>
+        <translation>das JPEG-2000-Bild hat mehr als 16 Bit je Wert</translation>
+    </message>
+    <message>
+        <source>JPEG 2000 picture is in a colour space that is not read</source>
+        <translation>das JPEG-2000-Bild hat einen Farbraum, der nicht gelesen wird</translation>
+    </message>
+    <message>
+        <source>JPEG 2000 picture has no colour</source>
+        <translation>das JPEG-2000-Bild hat keine Farbe</translation>
+    </message>
+    <message>
+        <source>JPEG 2000 picture is too large</source>
+        <translation>das JPEG-2000-Bild ist zu groß</translation>
+    </message>
+    <message>
+        <source>JPEG 2000 picture of %1 x %2 pixels</source>
+        <translation>JPEG-2000-Bild mit %1 × %2 Pixel</translation>
+    </message>
+    <message>
+        <source>JPEG 2000 picture of %1 x %2 pixels is of too many pixels</source>
+        <translation>JPEG-2000-Bild mit %1 × %2 Pixel hat zu viele Pixel</translation>
+    </message>
+    <message>
+        <source>JPEG 2000 picture of %1 x %2 pixels is of too many tiles</source>
+        <translation>JPEG-2000-Bild mit %1 × %2 Pixel hat zu viele Kacheln</translation>
+    </message>
+    <message>
+        <source>JPEG 2000 picture of %1 x %2 pixels is of too many code blocks</source>
+        <translation>JPEG-2000-Bild mit %1 × %2 Pixel hat zu viele Kodierblöcke</translation>
+    </message>
+    <message>
+        <source>JPEG 2000 picture of %1 x %2 pixels is of too many packets</source>
+        <translation>JPEG-2000-Bild mit %1 × %2 Pixel hat zu viele Pakete</translation>
+    </message>
+    <message>
+        <source>not a layered picture (PSD)</source>
+        <translation>kein Bild mit Ebenen (PSD)</translation>
+    </message>
+    <message>
+        <source>PSD file is cut off</source>
+        <translation>die PSD-Datei ist abgeschnitten</translation>
+    </message>
+    <message>
+        <source>PSD file has no palette</source>
+        <translation>die PSD-Datei hat keine Palette</translation>
+    </message>
+    <message>
+        <source>PSD picture has no pixels</source>
+        <translation>das PSD-Bild hat keine Pixel</translation>
+    </message>
+    <message>
+        <source>PSD pictures of separate inks are not read</source>
+        <translation>PSD-Bilder aus einzelnen Druckfarben werden nicht gelesen</translation>
+    </message>
+    <message>
+        <source>PSD picture is in a colour mode that is not read</source>
+        <translation>das PSD-Bild hat einen Farbmodus, der nicht gelesen wird</translation>
+    </message>
+    <message>
+        <source>PSD picture has %1 bits a sample in a mode without them</source>
+        <translation>das PSD-Bild hat %1 Bit je Wert in einem Modus, in dem es sie nicht gibt</translation>
+    </message>
+    <message>
+        <source>PSD picture has %1 channels</source>
+        <translation>das PSD-Bild hat %1 Kanäle</translation>
+    </message>
+    <message>
+        <source>PSD picture is compressed in a way that is not read</source>
+        <translation>das PSD-Bild ist auf eine Weise komprimiert, die nicht gelesen wird</translation>
+    </message>
+    <message>
+        <source>PSD picture has a row that is too short</source>
+        <translation>das PSD-Bild hat eine zu kurze Zeile</translation>
+    </message>
+    <message>
+        <source>PSD picture is too large</source>
+        <translation>das PSD-Bild ist zu groß</translation>
+    </message>
+    <message>
+        <source>Multi-disk zip archives not supported</source>
+        <translation>geteilte Zip-Archive werden nicht unterstützt</translation>
+    </message>
+    <message>
+        <source>invalid chunk type</source>
+        <translation>ungültige Art eines Abschnitts</translation>
+    </message>
+    <message>
+        <source>bad adaptive filter value</source>
+        <translation>ungültiger Wert eines Filters</translation>
+    </message>
+    <message>
+        <source>incorrect data check</source>
+        <translation>falsche Prüfsumme der Daten</translation>
+    </message>
+    <message>
+        <source>invalid distance too far back</source>
+        <translation>ungültiger Abstand, zu weit zurück</translation>
+    </message>
+    <message>
+        <source>Invalid JPEG file structure</source>
+        <translation>ungültiger Aufbau der JPEG-Datei</translation>
+    </message>
+    <message>
+        <source>missing SOS marker</source>
+        <translation>die SOS-Marke fehlt</translation>
+    </message>
+    <message>
+        <source>Bogus marker length</source>
+        <translation>ungültige Länge einer Marke</translation>
+    </message>
+    <message>
+        <source>Bogus Huffman table definition</source>
+        <translation>ungültige Huffman-Tabelle</translation>
+    </message>
+    <message>
+        <source>Unsupported marker type %1</source>
+        <translation>nicht unterstützte Marke %1</translation>
+    </message>
+</context>
+<context>
     <name>TintBar</name>
     <message>
         <source>Red</source>

@@ -859,6 +859,1533 @@
     </message>
 </context>
 <context>
+    <name>Reasons</name>
+    <message>
+        <source>cannot open folder</source>
+        <translation>フォルダーを開けません</translation>
+    </message>
+    <message>
+        <source>cannot open the folder above</source>
+        <translation>上のフォルダーを開けません</translation>
+    </message>
+    <message>
+        <source>cannot list folder</source>
+        <translation>フォルダーの内容を一覧できません</translation>
+    </message>
+    <message>
+        <source>cannot look at folder</source>
+        <translation>フォルダーを調べられません</translation>
+    </message>
+    <message>
+        <source>cannot look at</source>
+        <translation>調べられません</translation>
+    </message>
+    <message>
+        <source>cannot read</source>
+        <translation>読み取れません</translation>
+    </message>
+    <message>
+        <source>cannot write</source>
+        <translation>書き込めません</translation>
+    </message>
+    <message>
+        <source>cannot rename</source>
+        <translation>名前を変更できません</translation>
+    </message>
+    <message>
+        <source>cannot remove</source>
+        <translation>取り除けません</translation>
+    </message>
+    <message>
+        <source>cannot move</source>
+        <translation>移動できません</translation>
+    </message>
+    <message>
+        <source>cannot make folder</source>
+        <translation>フォルダーを作れません</translation>
+    </message>
+    <message>
+        <source>cannot keep a copy</source>
+        <translation>コピーを残せません</translation>
+    </message>
+    <message>
+        <source>cannot set times</source>
+        <translation>日時を設定できません</translation>
+    </message>
+    <message>
+        <source>cannot flush folder</source>
+        <translation>フォルダーをディスクに書き出せません</translation>
+    </message>
+    <message>
+        <source>cannot lock folder</source>
+        <translation>フォルダーをロックできません</translation>
+    </message>
+    <message>
+        <source>cannot read attribute %1</source>
+        <translation>属性 %1 を読み取れません</translation>
+    </message>
+    <message>
+        <source>cannot write attribute %1</source>
+        <translation>属性 %1 を書き込めません</translation>
+    </message>
+    <message>
+        <source>cannot remove attribute %1</source>
+        <translation>属性 %1 を取り除けません</translation>
+    </message>
+    <message>
+        <source>cannot keep the file&apos;s properties</source>
+        <translation>ファイルのプロパティを保てません</translation>
+    </message>
+    <message>
+        <source>cannot keep the file&apos;s properties, attribute %1</source>
+        <translation>ファイルのプロパティ (属性 %1) を保てません</translation>
+    </message>
+    <message>
+        <source>cannot keep the file&apos;s properties, access list</source>
+        <translation>ファイルのプロパティ (アクセス制御リスト) を保てません</translation>
+    </message>
+    <message>
+        <source>cannot give the file to its owner</source>
+        <translation>ファイルを所有者に渡せません</translation>
+    </message>
+    <message>
+        <source>a file stands there</source>
+        <translation>そこにファイルがあります</translation>
+    </message>
+    <message>
+        <source>a folder stands there</source>
+        <translation>そこにフォルダーがあります</translation>
+    </message>
+    <message>
+        <source>a link stands there</source>
+        <translation>そこにリンクがあります</translation>
+    </message>
+    <message>
+        <source>a fifo stands there</source>
+        <translation>そこに FIFO があります</translation>
+    </message>
+    <message>
+        <source>a socket stands there</source>
+        <translation>そこにソケットがあります</translation>
+    </message>
+    <message>
+        <source>a device stands there</source>
+        <translation>そこにデバイスがあります</translation>
+    </message>
+    <message>
+        <source>it is a folder</source>
+        <translation>フォルダーです</translation>
+    </message>
+    <message>
+        <source>it is a link</source>
+        <translation>リンクです</translation>
+    </message>
+    <message>
+        <source>it is a fifo</source>
+        <translation>FIFO です</translation>
+    </message>
+    <message>
+        <source>it is a socket</source>
+        <translation>ソケットです</translation>
+    </message>
+    <message>
+        <source>it is a device</source>
+        <translation>デバイスです</translation>
+    </message>
+    <message>
+        <source>is no plain file</source>
+        <translation>通常のファイルではありません</translation>
+    </message>
+    <message>
+        <source>more than %1 bytes</source>
+        <translation>%1 バイトを超えています</translation>
+    </message>
+    <message>
+        <source>what was read back differs</source>
+        <translation>読み戻した内容が一致しません</translation>
+    </message>
+    <message>
+        <source>it was changed by somebody else meanwhile</source>
+        <translation>その間にほかから変更されました</translation>
+    </message>
+    <message>
+        <source>nested too deep</source>
+        <translation>入れ子が深すぎます</translation>
+    </message>
+    <message>
+        <source>another file system is mounted there</source>
+        <translation>そこに別のファイルシステムがマウントされています</translation>
+    </message>
+    <message>
+        <source>the folder was opened for looking only</source>
+        <translation>フォルダーは閲覧専用で開かれています</translation>
+    </message>
+    <message>
+        <source>does not hold the folder any more</source>
+        <translation>このフォルダーはもう入っていません</translation>
+    </message>
+    <message>
+        <source>has no folder above it</source>
+        <translation>上のフォルダーがありません</translation>
+    </message>
+    <message>
+        <source>the folder was moved meanwhile</source>
+        <translation>その間にフォルダーが移動されました</translation>
+    </message>
+    <message>
+        <source>another program is changing this folder</source>
+        <translation>ほかのプログラムがこのフォルダーを変更しています</translation>
+    </message>
+    <message>
+        <source>interrupted while another program is changing this folder</source>
+        <translation>ほかのプログラムがこのフォルダーを変更している間に中断されました</translation>
+    </message>
+    <message>
+        <source>interrupted</source>
+        <translation>中断されました</translation>
+    </message>
+    <message>
+        <source>the user has no home folder</source>
+        <translation>ユーザーにホームフォルダーがありません</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos;</source>
+        <translation>「%1」</translation>
+    </message>
+    <message>
+        <source>empty name</source>
+        <translation>名前が空です</translation>
+    </message>
+    <message>
+        <source>&quot;.&quot; and &quot;..&quot; are no names of items</source>
+        <translation>「.」と「..」は項目の名前にできません</translation>
+    </message>
+    <message>
+        <source>name with a slash</source>
+        <translation>名前にスラッシュが含まれています</translation>
+    </message>
+    <message>
+        <source>name with a zero byte</source>
+        <translation>名前にゼロバイトが含まれています</translation>
+    </message>
+    <message>
+        <source>name of %1 bytes, at most %2 are possible</source>
+        <translation>名前が %1 バイトあります。使えるのは %2 バイトまでです</translation>
+    </message>
+    <message>
+        <source>name of %1 bytes is too long for a companion file</source>
+        <translation>%1 バイトの名前は付属ファイルには長すぎます</translation>
+    </message>
+    <message>
+        <source>path with a zero byte</source>
+        <translation>パスにゼロバイトが含まれています</translation>
+    </message>
+    <message>
+        <source>the path names no file</source>
+        <translation>パスがファイルを指していません</translation>
+    </message>
+    <message>
+        <source>an absolute path leads out of the folder</source>
+        <translation>絶対パスはフォルダーの外を指します</translation>
+    </message>
+    <message>
+        <source>the path names no file in the folder</source>
+        <translation>パスがフォルダー内のファイルを指していません</translation>
+    </message>
+    <message>
+        <source>the path leads out of the folder</source>
+        <translation>パスがフォルダーの外を指しています</translation>
+    </message>
+    <message>
+        <source>the root of the file system is not branded</source>
+        <translation>ファイルシステムのルートにはアイコンを付けません</translation>
+    </message>
+    <message>
+        <source>the system&apos;s own folders are not branded</source>
+        <translation>システムのフォルダーにはアイコンを付けません</translation>
+    </message>
+    <message>
+        <source>what is kept of an icon&apos;s folder is not branded</source>
+        <translation>フォルダーアイコンのために保管されたものにはアイコンを付けません</translation>
+    </message>
+    <message>
+        <source>the folder of all homes is not branded</source>
+        <translation>全ユーザーのホームが入ったフォルダーにはアイコンを付けません</translation>
+    </message>
+    <message>
+        <source>a link stands where the icon&apos;s own file belongs</source>
+        <translation>アイコンのファイルを置く場所にリンクがあります</translation>
+    </message>
+    <message>
+        <source>a folder stands where the icon&apos;s own file belongs</source>
+        <translation>アイコンのファイルを置く場所にフォルダーがあります</translation>
+    </message>
+    <message>
+        <source>no plain file stands where the icon&apos;s own file belongs</source>
+        <translation>アイコンのファイルを置く場所に通常のファイルでないものがあります</translation>
+    </message>
+    <message>
+        <source>there is no picture of its kind</source>
+        <translation>この種類の画像がありません</translation>
+    </message>
+    <message>
+        <source>there is no picture to make an icon of</source>
+        <translation>アイコンにする画像がありません</translation>
+    </message>
+    <message>
+        <source>there is no icon of its kind</source>
+        <translation>この種類のアイコンがありません</translation>
+    </message>
+    <message>
+        <source>its icon holds no picture</source>
+        <translation>アイコンに画像がありません</translation>
+    </message>
+    <message>
+        <source>the icon&apos;s picture is missing</source>
+        <translation>アイコンの画像がありません</translation>
+    </message>
+    <message>
+        <source>nothing was composed</source>
+        <translation>何も合成されませんでした</translation>
+    </message>
+    <message>
+        <source>holds no record of what was there before</source>
+        <translation>以前の状態の記録がありません</translation>
+    </message>
+    <message>
+        <source>is damaged, or was written by a newer version</source>
+        <translation>破損しているか、新しいバージョンで書かれています</translation>
+    </message>
+    <message>
+        <source>stands in the way; it is not a record of ours</source>
+        <translation>妨げになっています。Quorvane の記録ではありません</translation>
+    </message>
+    <message>
+        <source>the kept backup is missing</source>
+        <translation>保管されたバックアップがありません</translation>
+    </message>
+    <message>
+        <source>what is kept is no plain file</source>
+        <translation>保管されたものが通常のファイルではありません</translation>
+    </message>
+    <message>
+        <source>there is no record of the original icon</source>
+        <translation>元のアイコンの記録がありません</translation>
+    </message>
+    <message>
+        <source>the kept original is missing</source>
+        <translation>保管された元のファイルがありません</translation>
+    </message>
+    <message>
+        <source>the record of the original icon is damaged</source>
+        <translation>元のアイコンの記録が破損しています</translation>
+    </message>
+    <message>
+        <source>unknown form</source>
+        <translation>不明な形式です</translation>
+    </message>
+    <message>
+        <source>a line without a value</source>
+        <translation>値のない行があります</translation>
+    </message>
+    <message>
+        <source>its end is missing</source>
+        <translation>末尾がありません</translation>
+    </message>
+    <message>
+        <source>nothing about %1</source>
+        <translation>%1 についての記載がありません</translation>
+    </message>
+    <message>
+        <source>what is said of %1</source>
+        <translation>%1 についての記載に誤りがあります</translation>
+    </message>
+    <message>
+        <source>the icon is too large for a resource</source>
+        <translation>アイコンがリソースには大きすぎます</translation>
+    </message>
+    <message>
+        <source>has no resource fork</source>
+        <translation>リソースフォークがありません</translation>
+    </message>
+    <message>
+        <source>there is no icon file to remove</source>
+        <translation>取り除くアイコンファイルがありません</translation>
+    </message>
+    <message>
+        <source>cannot keep the folder&apos;s Finder info</source>
+        <translation>フォルダーの Finder 情報を保存できません</translation>
+    </message>
+    <message>
+        <source>as attribute</source>
+        <translation>属性として</translation>
+    </message>
+    <message>
+        <source>as companion file %1</source>
+        <translation>付属ファイル %1 として</translation>
+    </message>
+    <message>
+        <source>no place</source>
+        <translation>場所がありません</translation>
+    </message>
+    <message>
+        <source>attribute %1</source>
+        <translation>属性 %1</translation>
+    </message>
+    <message>
+        <source>it has no Finder info</source>
+        <translation>Finder 情報がありません</translation>
+    </message>
+    <message>
+        <source>companion file</source>
+        <translation>付属ファイル</translation>
+    </message>
+    <message>
+        <source>companion file too long</source>
+        <translation>付属ファイルが長すぎます</translation>
+    </message>
+    <message>
+        <source>header cut short</source>
+        <translation>ヘッダーが途中で切れています</translation>
+    </message>
+    <message>
+        <source>wrong magic number</source>
+        <translation>マジックナンバーが違います</translation>
+    </message>
+    <message>
+        <source>unknown version</source>
+        <translation>不明なバージョンです</translation>
+    </message>
+    <message>
+        <source>too many entries</source>
+        <translation>エントリーが多すぎます</translation>
+    </message>
+    <message>
+        <source>entry table cut short</source>
+        <translation>エントリーの表が途中で切れています</translation>
+    </message>
+    <message>
+        <source>entry outside the file</source>
+        <translation>エントリーがファイルの外にあります</translation>
+    </message>
+    <message>
+        <source>entries overlap</source>
+        <translation>エントリーが重なっています</translation>
+    </message>
+    <message>
+        <source>resource fork</source>
+        <translation>リソースフォーク</translation>
+    </message>
+    <message>
+        <source>resource fork too long</source>
+        <translation>リソースフォークが長すぎます</translation>
+    </message>
+    <message>
+        <source>data or map outside the fork</source>
+        <translation>データまたはマップがフォークの外にあります</translation>
+    </message>
+    <message>
+        <source>header, data and map overlap</source>
+        <translation>ヘッダー、データ、マップが重なっています</translation>
+    </message>
+    <message>
+        <source>map cut short</source>
+        <translation>マップが途中で切れています</translation>
+    </message>
+    <message>
+        <source>type list on the map&apos;s header</source>
+        <translation>タイプの一覧がマップのヘッダーと重なっています</translation>
+    </message>
+    <message>
+        <source>type list outside the map</source>
+        <translation>タイプの一覧がマップの外にあります</translation>
+    </message>
+    <message>
+        <source>references inside the type list</source>
+        <translation>参照がタイプの一覧の中にあります</translation>
+    </message>
+    <message>
+        <source>references outside the map</source>
+        <translation>参照がマップの外にあります</translation>
+    </message>
+    <message>
+        <source>resources overlap</source>
+        <translation>リソースが重なっています</translation>
+    </message>
+    <message>
+        <source>too many resources</source>
+        <translation>リソースが多すぎます</translation>
+    </message>
+    <message>
+        <source>name outside the map</source>
+        <translation>名前がマップの外にあります</translation>
+    </message>
+    <message>
+        <source>resource outside the data</source>
+        <translation>リソースがデータの外にあります</translation>
+    </message>
+    <message>
+        <source>data out of reach</source>
+        <translation>データが届く範囲にありません</translation>
+    </message>
+    <message>
+        <source>resource too long</source>
+        <translation>リソースが長すぎます</translation>
+    </message>
+    <message>
+        <source>name too long</source>
+        <translation>名前が長すぎます</translation>
+    </message>
+    <message>
+        <source>too many names</source>
+        <translation>名前が多すぎます</translation>
+    </message>
+    <message>
+        <source>not a property list</source>
+        <translation>プロパティリストではありません</translation>
+    </message>
+    <message>
+        <source>the property list is no array</source>
+        <translation>プロパティリストが配列ではありません</translation>
+    </message>
+    <message>
+        <source>a property list that is too long</source>
+        <translation>プロパティリストが長すぎます</translation>
+    </message>
+    <message>
+        <source>a property list with too many strings</source>
+        <translation>プロパティリストの文字列が多すぎます</translation>
+    </message>
+    <message>
+        <source>a property list that is nested too deep</source>
+        <translation>プロパティリストの入れ子が深すぎます</translation>
+    </message>
+    <message>
+        <source>no memory to read a property list</source>
+        <translation>プロパティリストを読み取るメモリーがありません</translation>
+    </message>
+    <message>
+        <source>its binary form is damaged</source>
+        <translation>バイナリー形式が破損しています</translation>
+    </message>
+    <message>
+        <source>it is empty</source>
+        <translation>空です</translation>
+    </message>
+    <message>
+        <source>it ends too early</source>
+        <translation>途中で終わっています</translation>
+    </message>
+    <message>
+        <source>something follows its end</source>
+        <translation>末尾の後に何かが続いています</translation>
+    </message>
+    <message>
+        <source>byte %1 is out of place</source>
+        <translation>%1 バイト目が正しくありません</translation>
+    </message>
+    <message>
+        <source>a comment has no end</source>
+        <translation>コメントに終わりがありません</translation>
+    </message>
+    <message>
+        <source>data have no end</source>
+        <translation>データに終わりがありません</translation>
+    </message>
+    <message>
+        <source>a string has no end</source>
+        <translation>文字列に終わりがありません</translation>
+    </message>
+    <message>
+        <source>it declares entities</source>
+        <translation>実体が宣言されています</translation>
+    </message>
+    <message>
+        <source>it refers to an entity that is not declared</source>
+        <translation>宣言されていない実体を参照しています</translation>
+    </message>
+    <message>
+        <source>its outermost element is no plist</source>
+        <translation>最も外側の要素が plist ではありません</translation>
+    </message>
+    <message>
+        <source>it has two values</source>
+        <translation>値が 2 つあります</translation>
+    </message>
+    <message>
+        <source>an element stands in a string</source>
+        <translation>文字列の中に要素があります</translation>
+    </message>
+    <message>
+        <source>the desktop session does not answer</source>
+        <translation>デスクトップセッションが応答しません</translation>
+    </message>
+    <message>
+        <source>the desktop session cannot be asked</source>
+        <translation>デスクトップセッションに問い合わせできません</translation>
+    </message>
+    <message>
+        <source>the desktop keeps no settings</source>
+        <translation>デスクトップに設定が保存されません</translation>
+    </message>
+    <message>
+        <source>the desktop did not keep the icon&apos;s name</source>
+        <translation>デスクトップにアイコンの名前が保存されませんでした</translation>
+    </message>
+    <message>
+        <source>no reason given</source>
+        <translation>理由は示されていません</translation>
+    </message>
+    <message>
+        <source>the icon&apos;s name is no text</source>
+        <translation>アイコンの名前がテキストではありません</translation>
+    </message>
+    <message>
+        <source>holds something else than text</source>
+        <translation>テキスト以外のものが入っています</translation>
+    </message>
+    <message>
+        <source>cannot read settings</source>
+        <translation>設定を読み取れません</translation>
+    </message>
+    <message>
+        <source>cannot keep settings</source>
+        <translation>設定を保存できません</translation>
+    </message>
+    <message>
+        <source>cannot move aside what stands in the place of settings</source>
+        <translation>設定の場所にあるものをよけられません</translation>
+    </message>
+    <message>
+        <source>too many are kept already</source>
+        <translation>すでに多くが保管されています</translation>
+    </message>
+    <message>
+        <source>it is somebody else&apos;s link</source>
+        <translation>ほかのユーザーのリンクです</translation>
+    </message>
+    <message>
+        <source>the link leads nowhere</source>
+        <translation>リンク先がありません</translation>
+    </message>
+    <message>
+        <source>the link leads to somebody else&apos;s file</source>
+        <translation>リンク先がほかのユーザーのファイルです</translation>
+    </message>
+    <message>
+        <source>the file is read-only</source>
+        <translation>ファイルは読み取り専用です</translation>
+    </message>
+    <message>
+        <source>is longer than %1 bytes, no settings file</source>
+        <translation>%1 バイトを超えています。設定ファイルではありません</translation>
+    </message>
+    <message>
+        <source>is no settings file</source>
+        <translation>設定ファイルではありません</translation>
+    </message>
+    <message>
+        <source>the settings are longer than %1 bytes</source>
+        <translation>設定が %1 バイトを超えています</translation>
+    </message>
+    <message>
+        <source>No such file or directory</source>
+        <translation>そのようなファイルやフォルダーはありません</translation>
+    </message>
+    <message>
+        <source>Permission denied</source>
+        <translation>アクセス権がありません</translation>
+    </message>
+    <message>
+        <source>Operation not permitted</source>
+        <translation>許可されていない操作です</translation>
+    </message>
+    <message>
+        <source>Read-only file system</source>
+        <translation>読み取り専用のファイルシステムです</translation>
+    </message>
+    <message>
+        <source>No space left on device</source>
+        <translation>ディスクに空き容量がありません</translation>
+    </message>
+    <message>
+        <source>Disk quota exceeded</source>
+        <translation>割り当てられたディスク容量を超えています</translation>
+    </message>
+    <message>
+        <source>Input/output error</source>
+        <translation>入出力エラーです</translation>
+    </message>
+    <message>
+        <source>No such device</source>
+        <translation>そのようなデバイスはありません</translation>
+    </message>
+    <message>
+        <source>No such device or address</source>
+        <translation>そのようなデバイスやアドレスはありません</translation>
+    </message>
+    <message>
+        <source>No medium found</source>
+        <translation>メディアがありません</translation>
+    </message>
+    <message>
+        <source>Transport endpoint is not connected</source>
+        <translation>接続されていません</translation>
+    </message>
+    <message>
+        <source>Connection timed out</source>
+        <translation>接続がタイムアウトしました</translation>
+    </message>
+    <message>
+        <source>Connection refused</source>
+        <translation>接続が拒否されました</translation>
+    </message>
+    <message>
+        <source>Host is down</source>
+        <translation>ホストが停止しています</translation>
+    </message>
+    <message>
+        <source>No route to host</source>
+        <translation>ホストへの経路がありません</translation>
+    </message>
+    <message>
+        <source>Stale file handle</source>
+        <translation>サーバー上のファイルが無効になっています</translation>
+    </message>
+    <message>
+        <source>Remote I/O error</source>
+        <translation>リモート側の入出力エラーです</translation>
+    </message>
+    <message>
+        <source>File name too long</source>
+        <translation>ファイル名が長すぎます</translation>
+    </message>
+    <message>
+        <source>File too large</source>
+        <translation>ファイルが大きすぎます</translation>
+    </message>
+    <message>
+        <source>File exists</source>
+        <translation>すでに存在します</translation>
+    </message>
+    <message>
+        <source>Not a directory</source>
+        <translation>フォルダーではありません</translation>
+    </message>
+    <message>
+        <source>Is a directory</source>
+        <translation>フォルダーです</translation>
+    </message>
+    <message>
+        <source>Directory not empty</source>
+        <translation>フォルダーが空ではありません</translation>
+    </message>
+    <message>
+        <source>Device or resource busy</source>
+        <translation>デバイスまたはリソースが使用中です</translation>
+    </message>
+    <message>
+        <source>Text file busy</source>
+        <translation>プログラムファイルが使用中です</translation>
+    </message>
+    <message>
+        <source>Invalid argument</source>
+        <translation>無効な引数です</translation>
+    </message>
+    <message>
+        <source>Invalid cross-device link</source>
+        <translation>ディスクをまたぐ無効なリンクです</translation>
+    </message>
+    <message>
+        <source>Too many levels of symbolic links</source>
+        <translation>シンボリックリンクの段数が多すぎます</translation>
+    </message>
+    <message>
+        <source>Too many links</source>
+        <translation>リンクが多すぎます</translation>
+    </message>
+    <message>
+        <source>Too many open files</source>
+        <translation>開いているファイルが多すぎます</translation>
+    </message>
+    <message>
+        <source>Too many open files in system</source>
+        <translation>システム全体で開いているファイルが多すぎます</translation>
+    </message>
+    <message>
+        <source>Cannot allocate memory</source>
+        <translation>メモリーを割り当てられません</translation>
+    </message>
+    <message>
+        <source>Operation not supported</source>
+        <translation>サポートされていない操作です</translation>
+    </message>
+    <message>
+        <source>Function not implemented</source>
+        <translation>機能が実装されていません</translation>
+    </message>
+    <message>
+        <source>Interrupted system call</source>
+        <translation>システムコールが中断されました</translation>
+    </message>
+    <message>
+        <source>Resource temporarily unavailable</source>
+        <translation>リソースが一時的に使えません</translation>
+    </message>
+    <message>
+        <source>No data available</source>
+        <translation>データがありません</translation>
+    </message>
+    <message>
+        <source>Structure needs cleaning</source>
+        <translation>ファイルシステムの修復が必要です</translation>
+    </message>
+    <message>
+        <source>Not a zip archive</source>
+        <translation>zip アーカイブではありません</translation>
+    </message>
+    <message>
+        <source>Zip archive inconsistent</source>
+        <translation>zip アーカイブに矛盾があります</translation>
+    </message>
+    <message>
+        <source>Compression method not supported</source>
+        <translation>サポートされていない圧縮方式です</translation>
+    </message>
+    <message>
+        <source>CRC error</source>
+        <translation>CRC エラーです</translation>
+    </message>
+    <message>
+        <source>Premature end of file</source>
+        <translation>ファイルが途中で終わっています</translation>
+    </message>
+    <message>
+        <source>there is no picture in the folder</source>
+        <translation>フォルダーに画像がありません</translation>
+    </message>
+    <message>
+        <source>no picture in the folder can be read</source>
+        <translation>フォルダー内に読み取れる画像がありません</translation>
+    </message>
+    <message>
+        <source>too many pictures for one set</source>
+        <translation>1 つのセットには画像が多すぎます</translation>
+    </message>
+    <message>
+        <source>cannot be read back</source>
+        <translation>読み戻せません</translation>
+    </message>
+    <message>
+        <source>cannot read the set</source>
+        <translation>セットを読み取れません</translation>
+    </message>
+    <message>
+        <source>there is no home folder for a library</source>
+        <translation>ライブラリーを置くホームフォルダーがありません</translation>
+    </message>
+    <message>
+        <source>the set holds icons</source>
+        <translation>セットにアイコンが入っています</translation>
+    </message>
+    <message>
+        <source>the set&apos;s folder holds other files, and there is no trash for them</source>
+        <translation>セットのフォルダーにほかのファイルがあり、それを移すゴミ箱がありません</translation>
+    </message>
+    <message>
+        <source>%1 of the icons cannot be brought back from the trash</source>
+        <translation>アイコンのうち %1 個をゴミ箱から戻せません</translation>
+    </message>
+    <message>
+        <source>the set cannot be brought back from the trash</source>
+        <translation>セットをゴミ箱から戻せません</translation>
+    </message>
+    <message>
+        <source>no name of a set</source>
+        <translation>セットの名前にできません</translation>
+    </message>
+    <message>
+        <source>it is one of our own</source>
+        <translation>Quorvane 自身が使う名前です</translation>
+    </message>
+    <message>
+        <source>not a zip file that can be read</source>
+        <translation>読み取れる zip ファイルではありません</translation>
+    </message>
+    <message>
+        <source>an entry has no name</source>
+        <translation>名前のないエントリーがあります</translation>
+    </message>
+    <message>
+        <source>an entry has no length</source>
+        <translation>長さのないエントリーがあります</translation>
+    </message>
+    <message>
+        <source>it is longer than it says</source>
+        <translation>記載より長くなっています</translation>
+    </message>
+    <message>
+        <source>the zip file holds no icons</source>
+        <translation>zip ファイルにアイコンがありません</translation>
+    </message>
+    <message>
+        <source>the zip file holds icons in several folders</source>
+        <translation>zip ファイルの複数のフォルダーにアイコンがあります</translation>
+    </message>
+    <message>
+        <source>no picture in the zip file can be read</source>
+        <translation>zip ファイル内に読み取れる画像がありません</translation>
+    </message>
+    <message>
+        <source>the zip file names &apos;%1&apos;, which leads elsewhere</source>
+        <translation>zip ファイル内の「%1」が別の場所を指しています</translation>
+    </message>
+    <message>
+        <source>the zip file holds &apos;%1&apos;, which is no plain file</source>
+        <translation>zip ファイル内の「%1」は通常のファイルではありません</translation>
+    </message>
+    <message>
+        <source>the zip file names &apos;%1&apos; twice, or in other letters</source>
+        <translation>zip ファイルに「%1」が 2 回、または大文字小文字違いで含まれています</translation>
+    </message>
+    <message>
+        <source>the zip file has too many entries</source>
+        <translation>zip ファイルのエントリーが多すぎます</translation>
+    </message>
+    <message>
+        <source>the zip file is encrypted</source>
+        <translation>zip ファイルが暗号化されています</translation>
+    </message>
+    <message>
+        <source>the zip file unpacks to far more than its length</source>
+        <translation>zip ファイルを展開すると元の長さをはるかに超えます</translation>
+    </message>
+    <message>
+        <source>too much for one zip file</source>
+        <translation>1 つの zip ファイルには多すぎます</translation>
+    </message>
+    <message>
+        <source>cannot make a zip file</source>
+        <translation>zip ファイルを作れません</translation>
+    </message>
+    <message>
+        <source>what was made cannot be read</source>
+        <translation>作成したものを読み取れません</translation>
+    </message>
+    <message>
+        <source>there is no such look</source>
+        <translation>そのプリセットはありません</translation>
+    </message>
+    <message>
+        <source>there is a look named &apos;%1&apos; already</source>
+        <translation>「%1」という名前のプリセットがすでにあります</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; cannot be the name of a look</source>
+        <translation>「%1」はプリセットの名前にできません</translation>
+    </message>
+    <message>
+        <source>the look&apos;s &quot;%1&quot; is no text</source>
+        <translation>プリセットの「%1」がテキストではありません</translation>
+    </message>
+    <message>
+        <source>the look&apos;s &quot;%1&quot; is no number</source>
+        <translation>プリセットの「%1」が数値ではありません</translation>
+    </message>
+    <message>
+        <source>the look&apos;s &quot;%1&quot; is no pair of numbers</source>
+        <translation>プリセットの「%1」が数値の組ではありません</translation>
+    </message>
+    <message>
+        <source>the look&apos;s &quot;%1&quot; is no base64 text</source>
+        <translation>プリセットの「%1」が base64 テキストではありません</translation>
+    </message>
+    <message>
+        <source>the look&apos;s &quot;%1&quot; is no name of an effect</source>
+        <translation>プリセットの「%1」がエフェクトの名前ではありません</translation>
+    </message>
+    <message>
+        <source>the look&apos;s &quot;overlay&quot; and &quot;overlay-picture&quot; exclude each other</source>
+        <translation>プリセットの「overlay」と「overlay-picture」は同時に使えません</translation>
+    </message>
+    <message>
+        <source>the look&apos;s &quot;overlay-picture&quot; cannot be used</source>
+        <translation>プリセットの「overlay-picture」を使えません</translation>
+    </message>
+    <message>
+        <source>is longer than %1 bytes, no look file</source>
+        <translation>%1 バイトを超えています。プリセットファイルではありません</translation>
+    </message>
+    <message>
+        <source>is no JSON</source>
+        <translation>JSON ではありません</translation>
+    </message>
+    <message>
+        <source>is no look file</source>
+        <translation>プリセットファイルではありません</translation>
+    </message>
+    <message>
+        <source>was written by a newer version of this program</source>
+        <translation>このプログラムの新しいバージョンで書かれています</translation>
+    </message>
+    <message>
+        <source>the look&apos;s base picture &apos;%1&apos;</source>
+        <translation>プリセットのベース画像「%1」</translation>
+    </message>
+    <message>
+        <source>the name of the base picture is no text that a look can hold</source>
+        <translation>ベース画像の名前はプリセットに入れられるテキストではありません</translation>
+    </message>
+    <message>
+        <source>the look is longer than %1 bytes</source>
+        <translation>プリセットが %1 バイトを超えています</translation>
+    </message>
+    <message>
+        <source>a look refers only to pictures in its own folder or below; copy the picture there first</source>
+        <translation>プリセットが参照できるのは、そのフォルダーの中の画像だけです。先に画像をそこにコピーしてください</translation>
+    </message>
+    <message>
+        <source>the label&apos;s shadow is none of the effects that a look can hold</source>
+        <translation>ラベルの影は、プリセットに入れられるエフェクトではありません</translation>
+    </message>
+    <message>
+        <source>there is no emblem &apos;%1&apos;</source>
+        <translation>エンブレム「%1」はありません</translation>
+    </message>
+    <message>
+        <source>there is no emblem &apos;%1&apos;, did you mean &apos;%2&apos;?</source>
+        <translation>エンブレム「%1」はありません。「%2」のことですか?</translation>
+    </message>
+    <message>
+        <source>there is no effect &apos;%1&apos;; use %2</source>
+        <translation>エフェクト「%1」はありません。使えるのは %2 です</translation>
+    </message>
+    <message>
+        <source>%1 takes a number from %2 to %3, not &apos;%4&apos;</source>
+        <translation>%1 には %2 から %3 までの数値が必要です (「%4」は使えません)</translation>
+    </message>
+    <message>
+        <source>%1 takes X,Y, numbers within a million, not &apos;%2&apos;</source>
+        <translation>%1 には X,Y の形で 100 万までの数値が必要です (「%2」は使えません)</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is no colour; use #rgb, #rrggbb, #rrggbbaa or a name</source>
+        <translation>「%1」は色ではありません。#rgb、#rrggbb、#rrggbbaa または名前を使ってください</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is no overlay; use emblem:NAME, emoji:X or none</source>
+        <translation>「%1」はバッジではありません。emblem:NAME、emoji:X または none を使ってください</translation>
+    </message>
+    <message>
+        <source>takes one emoji or other character</source>
+        <translation>絵文字またはその他の文字を 1 つ指定してください</translation>
+    </message>
+    <message>
+        <source>takes one emoji or other character, not &apos;%1&apos;</source>
+        <translation>絵文字またはその他の文字を 1 つ指定してください (「%1」は使えません)</translation>
+    </message>
+    <message>
+        <source>the font&apos;s name is longer than %1 bytes</source>
+        <translation>フォントの名前が %1 バイトを超えています</translation>
+    </message>
+    <message>
+        <source>no font &apos;%1&apos; is installed</source>
+        <translation>フォント「%1」はインストールされていません</translation>
+    </message>
+    <message>
+        <source>the font &apos;%1&apos; has no style &apos;%2&apos;; it has</source>
+        <translation>フォント「%1」にスタイル「%2」はありません。あるのは次のものです</translation>
+    </message>
+    <message>
+        <source>the label is longer than %1 bytes</source>
+        <translation>ラベルが %1 バイトを超えています</translation>
+    </message>
+    <message>
+        <source>the label holds a zero byte</source>
+        <translation>ラベルにゼロバイトが含まれています</translation>
+    </message>
+    <message>
+        <source>there is no placeholder {%1} for labels, only {name}; a brace itself is written {{</source>
+        <translation>ラベルにプレースホルダー {%1} はありません。使えるのは {name} だけです。かっこ自体は {{ と書きます</translation>
+    </message>
+    <message>
+        <source>the label is not UTF-8 text</source>
+        <translation>ラベルが UTF-8 のテキストではありません</translation>
+    </message>
+    <message>
+        <source>the picture cannot be kept in so few bytes</source>
+        <translation>画像をこれだけのバイト数に収められません</translation>
+    </message>
+    <message>
+        <source>the picture is longer than %1 bytes</source>
+        <translation>画像が %1 バイトを超えています</translation>
+    </message>
+    <message>
+        <source>the picture is no PNG file</source>
+        <translation>画像が PNG ファイルではありません</translation>
+    </message>
+    <message>
+        <source>this is no list of versions</source>
+        <translation>バージョンの一覧ではありません</translation>
+    </message>
+    <message>
+        <source>it has a document type</source>
+        <translation>文書型宣言があります</translation>
+    </message>
+    <message>
+        <source>an element has too many attributes</source>
+        <translation>属性が多すぎる要素があります</translation>
+    </message>
+    <message>
+        <source>its elements are nested too deeply</source>
+        <translation>要素の入れ子が深すぎます</translation>
+    </message>
+    <message>
+        <source>its first element is not &quot;rss&quot;</source>
+        <translation>最初の要素が「rss」ではありません</translation>
+    </message>
+    <message>
+        <source>it has too many versions</source>
+        <translation>バージョンが多すぎます</translation>
+    </message>
+    <message>
+        <source>the list is too long</source>
+        <translation>一覧が長すぎます</translation>
+    </message>
+    <message>
+        <source>not an https address</source>
+        <translation>https のアドレスではありません</translation>
+    </message>
+    <message>
+        <source>no whole answer in %1 s</source>
+        <translation>%1 秒以内に応答がそろいませんでした</translation>
+    </message>
+    <message>
+        <source>%1 bytes</source>
+        <translation>%1 バイト</translation>
+    </message>
+    <message>
+        <source>%1 of %2 bytes</source>
+        <translation>%2 バイト中 %1 バイト</translation>
+    </message>
+    <message>
+        <source>redirected to %1</source>
+        <translation>%1 に転送されました</translation>
+    </message>
+    <message>
+        <source>redirected more than %1 times</source>
+        <translation>%1 回を超えて転送されました</translation>
+    </message>
+    <message>
+        <source>the proxy in the environment is not understood</source>
+        <translation>環境変数のプロキシを解釈できません</translation>
+    </message>
+    <message>
+        <source>%1 did not end</source>
+        <translation>%1 が終了しませんでした</translation>
+    </message>
+    <message>
+        <source>%1 ended with %2</source>
+        <translation>%1 が %2 で終了しました</translation>
+    </message>
+    <message>
+        <source>it is not in UTF-8</source>
+        <translation>UTF-8 ではありません</translation>
+    </message>
+    <message>
+        <source>not an icon family</source>
+        <translation>アイコンファミリーではありません</translation>
+    </message>
+    <message>
+        <source>an icon family without a whole element</source>
+        <translation>完全な要素のないアイコンファミリーです</translation>
+    </message>
+    <message>
+        <source>the icon family holds no whole picture</source>
+        <translation>アイコンファミリーに完全な画像がありません</translation>
+    </message>
+    <message>
+        <source>icon family with too many elements</source>
+        <translation>アイコンファミリーの要素が多すぎます</translation>
+    </message>
+    <message>
+        <source>icon family element too long</source>
+        <translation>アイコンファミリーの要素が長すぎます</translation>
+    </message>
+    <message>
+        <source>icon family too long</source>
+        <translation>アイコンファミリーが長すぎます</translation>
+    </message>
+    <message>
+        <source>the image has no picture to make an icon of</source>
+        <translation>アイコンにできる画像が含まれていません</translation>
+    </message>
+    <message>
+        <source>element &apos;%1&apos; holds neither PNG nor JPEG 2000</source>
+        <translation>要素「%1」は PNG でも JPEG 2000 でもありません</translation>
+    </message>
+    <message>
+        <source>element &apos;%1&apos; holds neither ARGB, PNG nor JPEG 2000</source>
+        <translation>要素「%1」は ARGB、PNG、JPEG 2000 のいずれでもありません</translation>
+    </message>
+    <message>
+        <source>element &apos;%1&apos; holds a picture of %2 x %3 pixels</source>
+        <translation>要素「%1」の画像は %2 × %3 ピクセルです</translation>
+    </message>
+    <message>
+        <source>element &apos;%1&apos; is too short</source>
+        <translation>要素「%1」が短すぎます</translation>
+    </message>
+    <message>
+        <source>element &apos;%1&apos; was given %2 bytes</source>
+        <translation>要素「%1」に %2 バイトが渡されました</translation>
+    </message>
+    <message>
+        <source>there is no element &apos;%1&apos;</source>
+        <translation>要素「%1」がありません</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is not the type of a picture</source>
+        <translation>「%1」は画像のタイプではありません</translation>
+    </message>
+    <message>
+        <source>element pixels do not fill a bitmap</source>
+        <translation>要素のピクセルが画像に足りません</translation>
+    </message>
+    <message>
+        <source>an element form is not handled</source>
+        <translation>処理できない要素の形式です</translation>
+    </message>
+    <message>
+        <source>packed colour with too many pixels</source>
+        <translation>圧縮された色のピクセルが多すぎます</translation>
+    </message>
+    <message>
+        <source>packed colour does not unpack to its pixels</source>
+        <translation>圧縮された色を展開してもピクセル数が合いません</translation>
+    </message>
+    <message>
+        <source>packed picture with too many pixels</source>
+        <translation>圧縮された画像のピクセルが多すぎます</translation>
+    </message>
+    <message>
+        <source>packed picture does not unpack to its pixels</source>
+        <translation>圧縮された画像を展開してもピクセル数が合いません</translation>
+    </message>
+    <message>
+        <source>file is empty</source>
+        <translation>ファイルが空です</translation>
+    </message>
+    <message>
+        <source>file is cut off</source>
+        <translation>ファイルが途中で切れています</translation>
+    </message>
+    <message>
+        <source>out of memory</source>
+        <translation>メモリーが足りません</translation>
+    </message>
+    <message>
+        <source>the file holds no picture</source>
+        <translation>ファイルに画像がありません</translation>
+    </message>
+    <message>
+        <source>not a picture that can be read</source>
+        <translation>読み取れる画像ではありません</translation>
+    </message>
+    <message>
+        <source>an icon family, not a picture</source>
+        <translation>画像ではなくアイコンファミリーです</translation>
+    </message>
+    <message>
+        <source>animations in the format MNG are not read</source>
+        <translation>MNG 形式のアニメーションは読み取れません</translation>
+    </message>
+    <message>
+        <source>compressed vector pictures are not read</source>
+        <translation>圧縮されたベクター画像は読み取れません</translation>
+    </message>
+    <message>
+        <source>vector picture defines entities</source>
+        <translation>ベクター画像が実体を定義しています</translation>
+    </message>
+    <message>
+        <source>vector picture refers to other files</source>
+        <translation>ベクター画像がほかのファイルを参照しています</translation>
+    </message>
+    <message>
+        <source>vector picture has too many parts</source>
+        <translation>ベクター画像の部品が多すぎます</translation>
+    </message>
+    <message>
+        <source>picture of %1 x %2 pixels</source>
+        <translation>画像が %1 × %2 ピクセルあります</translation>
+    </message>
+    <message>
+        <source>the picture cannot be decoded</source>
+        <translation>画像をデコードできません</translation>
+    </message>
+    <message>
+        <source>a picture without size</source>
+        <translation>大きさのない画像です</translation>
+    </message>
+    <message>
+        <source>cannot be decoded</source>
+        <translation>デコードできません</translation>
+    </message>
+    <message>
+        <source>not a PNG file</source>
+        <translation>PNG ファイルではありません</translation>
+    </message>
+    <message>
+        <source>PNG file is cut off</source>
+        <translation>PNG ファイルが途中で切れています</translation>
+    </message>
+    <message>
+        <source>PNG header is cut off</source>
+        <translation>PNG のヘッダーが途中で切れています</translation>
+    </message>
+    <message>
+        <source>PNG file does not begin with a header</source>
+        <translation>PNG ファイルがヘッダーで始まっていません</translation>
+    </message>
+    <message>
+        <source>PNG header states an impossible size</source>
+        <translation>PNG のヘッダーにありえない大きさが書かれています</translation>
+    </message>
+    <message>
+        <source>PNG header states an unknown kind of pixels</source>
+        <translation>PNG のヘッダーに不明なピクセルの種類が書かれています</translation>
+    </message>
+    <message>
+        <source>PNG file holds far more data than its pixels need</source>
+        <translation>PNG ファイルにピクセルに必要な量をはるかに超えるデータがあります</translation>
+    </message>
+    <message>
+        <source>PNG picture of %1 x %2 pixels</source>
+        <translation>PNG 画像が %1 × %2 ピクセルあります</translation>
+    </message>
+    <message>
+        <source>PNG picture is too large</source>
+        <translation>PNG 画像が大きすぎます</translation>
+    </message>
+    <message>
+        <source>unexpected layout</source>
+        <translation>想定外の配置です</translation>
+    </message>
+    <message>
+        <source>no pixels to write as PNG</source>
+        <translation>PNG として書き込むピクセルがありません</translation>
+    </message>
+    <message>
+        <source>compressing a PNG</source>
+        <translation>PNG の圧縮</translation>
+    </message>
+    <message>
+        <source>PNG pixels do not fit their bound</source>
+        <translation>PNG のピクセルが上限に収まりません</translation>
+    </message>
+    <message>
+        <source>JPEG file is cut off</source>
+        <translation>JPEG ファイルが途中で切れています</translation>
+    </message>
+    <message>
+        <source>JPEG file of more than %1 scans</source>
+        <translation>JPEG ファイルのスキャンが %1 個を超えています</translation>
+    </message>
+    <message>
+        <source>JPEG picture is too large</source>
+        <translation>JPEG 画像が大きすぎます</translation>
+    </message>
+    <message>
+        <source>not a TIFF picture of inks or with transparent greys</source>
+        <translation>インクまたは透明なグレーの TIFF 画像ではありません</translation>
+    </message>
+    <message>
+        <source>TIFF picture is damaged or cut off</source>
+        <translation>TIFF 画像が破損しているか途中で切れています</translation>
+    </message>
+    <message>
+        <source>TIFF picture has no pixels</source>
+        <translation>TIFF 画像にピクセルがありません</translation>
+    </message>
+    <message>
+        <source>not a JPEG 2000 file</source>
+        <translation>JPEG 2000 ファイルではありません</translation>
+    </message>
+    <message>
+        <source>JPEG 2000 file is cut off</source>
+        <translation>JPEG 2000 ファイルが途中で切れています</translation>
+    </message>
+    <message>
+        <source>JPEG 2000 file has a box without room for its header</source>
+        <translation>JPEG 2000 ファイルにヘッダーの入らないボックスがあります</translation>
+    </message>
+    <message>
+        <source>JPEG 2000 file has no picture</source>
+        <translation>JPEG 2000 ファイルに画像がありません</translation>
+    </message>
+    <message>
+        <source>JPEG 2000 codestream does not begin with its size</source>
+        <translation>JPEG 2000 のコードストリームが大きさで始まっていません</translation>
+    </message>
+    <message>
+        <source>JPEG 2000 codestream has an unknown marker</source>
+        <translation>JPEG 2000 のコードストリームに不明なマーカーがあります</translation>
+    </message>
+    <message>
+        <source>JPEG 2000 header does not say how it is coded</source>
+        <translation>JPEG 2000 のヘッダーに符号化の方法が書かれていません</translation>
+    </message>
+    <message>
+        <source>JPEG 2000 header states an impossible size</source>
+        <translation>JPEG 2000 のヘッダーにありえない大きさが書かれています</translation>
+    </message>
+    <message>
+        <source>JPEG 2000 header states an impossible coding</source>
+        <translation>JPEG 2000 のヘッダーにありえない符号化が書かれています</translation>
+    </message>
+    <message>
+        <source>JPEG 2000 tile states an impossible length</source>
+        <translation>JPEG 2000 のタイルにありえない長さが書かれています</translation>
+    </message>
+    <message>
+        <source>JPEG 2000 picture has %1 components</source>
+        <translation>JPEG 2000 画像の成分が %1 個あります</translation>
+    </message>
+    <message>
+        <source>JPEG 2000 picture has too many components</source>
+        <translation>JPEG 2000 画像の成分が多すぎます</translation>
+    </message>
+    <message>
+        <source>JPEG 2000 picture has unusable components</source>
+        <translation>JPEG 2000 画像の成分が使えません</translation>
+    </message>
+    <message>
+        <source>JPEG 2000 picture has components of unequal size</source>
+        <translation>JPEG 2000 画像の成分の大きさがそろっていません</translation>
+    </message>
+    <message>
+        <source>JPEG 2000 picture has more than 16 bits a sample</source>
+        <translation>JPEG 2000 画像が 1 サンプルあたり 16 ビットを超えています</translation>
+    </message>
+    <message>
+        <source>JPEG 2000 picture is in a colour space that is not read</source>
+        <translation>JPEG 2000 画像の色空間は読み取れません</translation>
+    </message>
+    <message>
+        <source>JPEG 2000 picture has no colour</source>
+        <translation>JPEG 2000 画像に色がありません</translation>
+    </message>
+    <message>
+        <source>JPEG 2000 picture is too large</source>
+        <translation>JPEG 2000 画像が大きすぎます</translation>
+    </message>
+    <message>
+        <source>JPEG 2000 picture of %1 x %2 pixels</source>
+        <translation>JPEG 2000 画像が %1 × %2 ピクセルあります</translation>
+    </message>
+    <message>
+        <source>JPEG 2000 picture of %1 x %2 pixels is of too many pixels</source>
+        <translation>%1 × %2 ピクセルの JPEG 2000 画像はピクセルが多すぎます</translation>
+    </message>
+    <message>
+        <source>JPEG 2000 picture of %1 x %2 pixels is of too many tiles</source>
+        <translation>%1 × %2 ピクセルの JPEG 2000 画像はタイルが多すぎます</translation>
+    </message>
+    <message>
+        <source>JPEG 2000 picture of %1 x %2 pixels is of too many code blocks</source>
+        <translation>%1 × %2 ピクセルの JPEG 2000 画像はコードブロックが多すぎます</translation>
+    </message>
+    <message>
+        <source>JPEG 2000 picture of %1 x %2 pixels is of too many packets</source>
+        <translation>%1 × %2 ピクセルの JPEG 2000 画像はパケットが多すぎます</translation>
+    </message>
+    <message>
+        <source>not a layered picture (PSD)</source>
+        <translation>レイヤー付きの画像 (PSD) ではありません</translation>
+    </message>
+    <message>
+        <source>PSD file is cut off</source>
+        <translation>PSD ファイルが途中で切れています</translation>
+    </message>
+    <message>
+        <source>PSD file has no palette</source>
+        <translation>PSD ファイルにパレットがありません</translation>
+    </message>
+    <message>
+        <source>PSD picture has no pixels</source>
+        <translation>PSD 画像にピクセルがありません</translation>
+    </message>
+    <message>
+        <source>PSD pictures of separate inks are not read</source>
+        <translation>インクごとに分かれた PSD 画像は読み取れません</translation>
+    </message>
+    <message>
+        <source>PSD picture is in a colour mode that is not read</source>
+        <translation>PSD 画像のカラーモードは読み取れません</translation>
+    </message>
+    <message>
+        <source>PSD picture has %1 bits a sample in a mode without them</source>
+        <translation>PSD 画像が、このモードにない 1 サンプル %1 ビットになっています</translation>
+    </message>
+    <message>
+        <source>PSD picture has %1 channels</source>
+        <translation>PSD 画像のチャンネルが %1 個あります</translation>
+    </message>
+    <message>
+        <source>PSD picture is compressed in a way that is not read</source>
+        <translation>PSD 画像の圧縮方式は読み取れません</translation>
+    </message>
+    <message>
+        <source>PSD picture has a row that is too short</source>
+        <translation>PSD 画像に短すぎる行があります</translation>
+    </message>
+    <message>
+        <source>PSD picture is too large</source>
+        <translation>PSD 画像が大きすぎます</translation>
+    </message>
+    <message>
+        <source>Multi-disk zip archives not supported</source>
+        <translation>分割された zip アーカイブはサポートされていません</translation>
+    </message>
+    <message>
+        <source>invalid chunk type</source>
+        <translation>チャンクの種類が無効です</translation>
+    </message>
+    <message>
+        <source>bad adaptive filter value</source>
+        <translation>フィルターの値が無効です</translation>
+    </message>
+    <message>
+        <source>incorrect data check</source>
+        <translation>データのチェックサムが合いません</translation>
+    </message>
+    <message>
+        <source>invalid distance too far back</source>
+        <translation>距離が無効です (さかのぼりすぎ)</translation>
+    </message>
+    <message>
+        <source>Invalid JPEG file structure</source>
+        <translation>JPEG ファイルの構造が無効です</translation>
+    </message>
+    <message>
+        <source>missing SOS marker</source>
+        <translation>SOS マーカーがありません</translation>
+    </message>
+    <message>
+        <source>Bogus marker length</source>
+        <translation>マーカーの長さが無効です</translation>
+    </message>
+    <message>
+        <source>Bogus Huffman table definition</source>
+        <translation>ハフマン表の定義が無効です</translation>
+    </message>
+    <message>
+        <source>Unsupported marker type %1</source>
+        <translation>サポートされていないマーカー %1 です</translation>
+    </message>
+</context>
+<context>
     <name>TintBar</name>
     <message>
         <source>Red</source>

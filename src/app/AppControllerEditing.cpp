@@ -17,6 +17,7 @@
 #include "ui/HVColorWell.h"
 #include "ui/HVTableView.h"
 #include "ui/PopUpButton.h"
+#include "ui/Reasons.h"
 #include "ui/SharedPanels.h"
 #include "ui/Slider.h"
 #include "ui/Texts.h"
@@ -241,7 +242,7 @@ void AppController::_cancelPicture() {
 void AppController::_showBaseReference(const BaseReference& reference, const Result<Image>& picture) {
   const QString name = visibleText(QFile::decodeName(reference.shown().filename().c_str()));
   if (!picture) {
-    _notice(tr("“%1” cannot be used: %2").arg(name, visibleText(QString::fromStdString(picture.error().why()))));
+    _notice(tr("“%1” cannot be used: %2").arg(name, reasonOf(picture.error())));
     return;
   }
   setBaseIcon(*picture);

@@ -17,6 +17,7 @@
 #include "foundation/base/Log.h"
 #include "ui/ElidedLabel.h"
 #include "ui/HVTableView.h"
+#include "ui/Reasons.h"
 
 namespace quorvane {
 
@@ -160,7 +161,7 @@ void AppController::_showLoaded(const Result<LoadedFolder>& loaded) {
   _folderView->setCurrentIcon(loaded ? std::optional(loaded->icon) : std::nullopt);
   if (loaded) return;
   logMessage("window", loaded.error().message());
-  _notice(tr("The folder cannot be looked at: %1").arg(visibleText(QString::fromStdString(loaded.error().why()))));
+  _notice(tr("The folder cannot be looked at: %1").arg(reasonOf(loaded.error())));
 }
 
 void AppController::_setOrigIcon(const std::optional<Image>& image) {
@@ -197,11 +198,12 @@ void AppController::apply() {
 void AppController::_applied(const Path& path, const Result<BrandingResult>& result) {
   if (!result) {
     logMessage("window", result.error().at(path).message());
-    _services.prompts.runPromptSheetWithTitle(tr("Unable to Set Icon"),
-                                              tr("The folder appears to be locked and cannot be modified.  Please "
-                                                 "unlock the folder and try again.\n\nUse the "
-                                                 "Finder's Get Info on the folder and uncheck the 'Locked' checkbox."),
-                                              tr("OK"), {}, {}, applyFailureDetails(path, result.error()));
+    _services.prompts.runPromptSheetWithTitle(
+        tr("Unable to Set Icon"),
+        tr("The folder appears to be locked and cannot be modified.  Please "
+           "unlock the folder and try again.\n\nUse the "
+           "Finder's Get Info on the folder and uncheck the 'Locked' checkbox."),
+        tr("OK"), {}, {}, applyFailureDetails(path, result.error(), placedReasonOf(result.error())));
     return;
   }
   for (const std::string& note : result->notes) logMessage("window", note);

@@ -15,8 +15,8 @@
 #include "app/core/UserPrompts.h"
 #include "composition/view/FolderView.h"
 #include "foundation/UserDefaults.h"
-#include "ui/ElidedLabel.h"
 #include "ui/HVColorWell.h"
+#include "ui/Reasons.h"
 #include "ui/SharedPanels.h"
 #include "ui/Texts.h"
 
@@ -179,7 +179,7 @@ void AppController::showPreference(QObject* /*sender*/) {
   fonts.setPanelFont(font.family, font.style, font.size);
   colors.setColor(_colorWell->color());
   if (const auto kept = _services.defaults.synchronize(); !kept)
-    _notice(tr("The settings cannot be kept: %1").arg(visibleText(QString::fromStdString(kept.error().why()))));
+    _notice(tr("The settings cannot be kept: %1").arg(reasonOf(kept.error())));
 }
 
 }  // namespace quorvane

@@ -12,16 +12,9 @@
 #include "composition/view/FolderView.h"
 #include "foundation/base/Log.h"
 #include "ui/ElidedLabel.h"
+#include "ui/Reasons.h"
 
 namespace quorvane {
-
-namespace {
-
-QString reasonOf(const Error& error) {
-  return visibleText(QString::fromStdString(error.why()));
-}
-
-}  // namespace
 
 void AppController::_fillLooksMenu() {
   QMenu& menu = *_mainMenu->looksMenu();

@@ -13,6 +13,7 @@
 #include "composition/view/FolderView.h"
 #include "ui/ElidedLabel.h"
 #include "ui/HVColorWell.h"
+#include "ui/Reasons.h"
 #include "ui/Slider.h"
 
 namespace quorvane {
@@ -102,7 +103,7 @@ void AppController::setOverlayPicture(const Path& path) {
     const auto picture = image ? OverlayPicture::fromImage(*image) : Result<OverlayPicture>(image.error());
     if (picture) return setOverlayDrawing(*picture);
     const QString name = visibleText(QFile::decodeName(path.filename().c_str()));
-    _notice(tr("“%1” cannot be used: %2").arg(name, visibleText(QString::fromStdString(picture.error().why()))));
+    _notice(tr("“%1” cannot be used: %2").arg(name, reasonOf(picture.error())));
   });
 }
 

@@ -9,6 +9,7 @@
 #include "app/core/SettingsTable.h"
 #include "foundation/base/Text.h"
 #include "system/Links.h"
+#include "ui/Reasons.h"
 
 namespace quorvane {
 
@@ -92,7 +93,8 @@ void AppcastUpdater::_answered(const FeedAnswer& answer) {
 AppcastUpdater::Finding AppcastUpdater::_failure(const QString& message, const QString& details) const {
   const QString address = settings::value(_parts.defaults, settings::feedAddress);
   QStringList lines = {plainLine(address, titleCharacters)};
-  if (!details.isEmpty()) lines += plainNews(details);
+  if (!details.isEmpty())
+    for (const QString& line : plainNews(details).split(u'\n')) lines += reasonOf(line.toStdString());
   return {.title = tr("Could Not Look for a New Version"), .message = message, .details = lines.join(u'\n')};
 }
 

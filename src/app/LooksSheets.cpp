@@ -10,7 +10,7 @@
 #include <algorithm>
 
 #include "app/LayoutPieces.h"
-#include "ui/ElidedLabel.h"
+#include "ui/Reasons.h"
 #include "ui/Tag.h"
 
 namespace quorvane {
@@ -75,7 +75,7 @@ void SaveLookSheet::_judge() {
         tr("Font, colour, effect, spacing, transform and place of the label are kept, and the chosen picture, tint and "
            "overlay."));
   else if (!file)
-    _remark->setText(tr("This cannot be a name: %1").arg(visibleText(QString::fromStdString(file.error().why()))));
+    _remark->setText(tr("This cannot be a name: %1").arg(reasonOf(file.error())));
   else if (std::ranges::find(_taken, name()) != _taken.end())
     _remark->setText(tr("A look of this name is there already; it will be replaced."));
   else
@@ -144,7 +144,7 @@ void ManageLooksSheet::_showState() {
 }
 
 void ManageLooksSheet::_complain(const Error& error) {
-  _remark->setText(visibleText(QString::fromStdString(error.message())));
+  _remark->setText(placedReasonOf(error));
 }
 
 void ManageLooksSheet::_remove() {

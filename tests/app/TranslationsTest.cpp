@@ -9,10 +9,12 @@
 #include <QLabel>
 #include <QScrollArea>
 #include <QTest>
+#include <cerrno>
 #include <set>
 
 #include "LongTexts.h"
 #include "TestWindow.h"
+#include "ui/Reasons.h"
 
 namespace quorvane::test {
 namespace {
@@ -45,6 +47,45 @@ TEST(TranslationsTest, TheFirstLanguageThatThereIsIsTaken) {
     EXPECT_EQ(QCoreApplication::translate("quorvane::LibraryView", "%n sets are selected", nullptr, 2), one.two);
   }
   EXPECT_EQ(QCoreApplication::translate("ColorNames", "red"), QStringLiteral("red"));
+}
+
+TEST(TranslationsTest, ReasonsAreSaidPieceByPiece) {
+  const struct {
+    const char* language;
+    std::string why;
+    const char* said;
+  } cases[] = {
+      {"de", "is no JSON", "ist kein JSON"},
+      {"de", "cannot write: No space left on device",
+       "Schreiben nicht möglich: Auf dem Datenträger ist kein Platz mehr frei"},
+      {"de", "cannot open folder: a link stands there",
+       "Öffnen des Ordners nicht möglich: dort liegt eine Verknüpfung"},
+      {"de", "as attribute: cannot write attribute user.x: File exists; as companion file ._a: file is empty",
+       "als Attribut: Schreiben des Attributs user.x nicht möglich: Die Datei existiert bereits; als Begleitdatei ._a: "
+       "die Datei ist leer"},
+      {"de", "stands in the way; it is not a record of ours", "ist im Weg; es ist keine Aufzeichnung von Quorvane"},
+      // The longer text, though a shorter one would do with larger values; numbers that are no values.
+      {"ja", "30 of 500 bytes", "500 バイト中 30 バイト"},
+      {"ja", "JPEG 2000 picture of 3 x 4 pixels is of too many tiles",
+       "3 × 4 ピクセルの JPEG 2000 画像はタイルが多すぎます"},
+      // What others have chosen may look like anything of ours.
+      {"de", "the zip file names 'a: %2\n: cannot read', which leads elsewhere",
+       "die Zip-Datei nennt „a: %2\\x0A: cannot read“, was woandershin führt"},
+      {"de", "there is no emblem '%2', did you mean '%1'?", "es gibt kein Emblem „%2“, meinten Sie „%1“?"},
+      {"ja", "'it's: cannot read': PNG: IDAT: \xFF is odd: out of memory",
+       "「it's: cannot read」: PNG: IDAT: \\xFF is odd: メモリーが足りません"},
+      {"en", "'a': there is no element 'b: \u202E%1'", "'a': there is no element 'b: \\u{202E}%1'"},
+      {"de", "", ""},
+  };
+  for (const auto& one : cases) {
+    const Translations translations({QString::fromLatin1(one.language)});
+    EXPECT_EQ(reasonOf(one.why).toStdString(), one.said);
+  }
+  const Translations german({QStringLiteral("de")});
+  // The system's own words are in its language, or in ours.
+  const Error placed = Error::system(ENOSPC, "cannot write").at("/cannot read: a\n");
+  EXPECT_TRUE(placedReasonOf(placed).startsWith(QStringLiteral("/cannot read: a\\x0A: Schreiben nicht möglich: ")));
+  EXPECT_EQ(reasonOf(Error::refused("interrupted")), QStringLiteral("abgebrochen"));
 }
 
 /// Keeps what the window looks up and the language has not.

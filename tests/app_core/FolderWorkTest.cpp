@@ -10,6 +10,7 @@
 
 #include "app/core/ApplyFailure.h"
 #include "app/core/ScriptedPrompts.h"
+#include "foundation/base/Text.h"
 #include "support/BrandingFixture.h"
 
 namespace quorvane {
@@ -134,11 +135,12 @@ TEST(ApplyFailure, SaysWhatWhereWhyAndWhatToDo) {
       {Error::broken("promise"), "promise", "report"},
   };
   for (const auto& row : rows) {
-    const QString text = applyFailureDetails(folder, row.error);
+    const QString reason = QString::fromStdString(printable(row.error.message()));
+    const QString text = applyFailureDetails(folder, row.error, reason);
     EXPECT_TRUE(text.contains(QLatin1String("folder /home/me/%1 %2\\x0A could not"))) << text.toStdString();
     EXPECT_TRUE(text.contains(QLatin1String(row.why))) << text.toStdString();
     EXPECT_TRUE(text.section(QLatin1String("\n\n"), 2).contains(QLatin1String(row.advice))) << text.toStdString();
-    EXPECT_NE(text, revertFailureDetails(folder, row.error));
+    EXPECT_NE(text, revertFailureDetails(folder, row.error, reason));
   }
 }
 

@@ -79,28 +79,24 @@ const char* adviceFor(const Error& error) {
   return QT_TRANSLATE_NOOP("ApplyFailure", "Make sure that the folder can be changed, and try again.");
 }
 
-QString shown(const std::string& bytes) {
-  return QString::fromStdString(printable(bytes));
-}
-
-QString details(const char* what, const std::filesystem::path& folder, const Error& error) {
+QString details(const char* what, const std::filesystem::path& folder, const Error& error, const QString& reason) {
   // In one go: a name may look like a placeholder.
   return QStringLiteral("%1\n\n%2\n\n%3")
-      .arg(translated(what).replace(QLatin1String("%1"), shown(folder.native())),
-           translated(QT_TRANSLATE_NOOP("ApplyFailure", "Reason: %1"))
-               .replace(QLatin1String("%1"), shown(error.message())),
+      .arg(translated(what).replace(QLatin1String("%1"), QString::fromStdString(printable(folder))),
+           translated(QT_TRANSLATE_NOOP("ApplyFailure", "Reason: %1")).replace(QLatin1String("%1"), reason),
            translated(adviceFor(error)));
 }
 
 }  // namespace
 
-QString applyFailureDetails(const std::filesystem::path& folder, const Error& error) {
-  return details(QT_TRANSLATE_NOOP("ApplyFailure", "The icon of the folder %1 could not be set."), folder, error);
+QString applyFailureDetails(const std::filesystem::path& folder, const Error& error, const QString& reason) {
+  return details(QT_TRANSLATE_NOOP("ApplyFailure", "The icon of the folder %1 could not be set."), folder, error,
+                 reason);
 }
 
-QString revertFailureDetails(const std::filesystem::path& folder, const Error& error) {
+QString revertFailureDetails(const std::filesystem::path& folder, const Error& error, const QString& reason) {
   return details(QT_TRANSLATE_NOOP("ApplyFailure", "The former icon of the folder %1 could not be put back."), folder,
-                 error);
+                 error, reason);
 }
 
 }  // namespace quorvane

@@ -10,8 +10,9 @@ namespace quorvane {
 
 /// Under the one message of an apply that failed: what could not be done, to which folder, why, and what to do about
 /// it, a paragraph each. Plain translated text without control characters, to be selected and copied.
-QString applyFailureDetails(const std::filesystem::path& folder, const Error& error);
+/// `reason` is the error's in the user's language, with its path, and free of control characters.
+QString applyFailureDetails(const std::filesystem::path& folder, const Error& error, const QString& reason);
 /// The same for a revert.
-QString revertFailureDetails(const std::filesystem::path& folder, const Error& error);
+QString revertFailureDetails(const std::filesystem::path& folder, const Error& error, const QString& reason);
 
 }  // namespace quorvane

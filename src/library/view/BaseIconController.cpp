@@ -10,6 +10,7 @@
 #include "library/view/LibraryTableView.h"
 #include "library/view/LibraryTexts.h"
 #include "library/view/RowsPasteboard.h"
+#include "ui/Reasons.h"
 
 namespace quorvane {
 
@@ -204,7 +205,7 @@ void BaseIconController::undo() {
   if (!canUndo()) return;
   const LibraryAction action = _undo.nextAction();
   if (const auto undone = _undo.undo(); !undone)
-    Q_EMIT failed(tr("Not all of it could be taken back: %1").arg(QString::fromStdString(undone.error().message())));
+    Q_EMIT failed(tr("Not all of it could be taken back: %1").arg(placedReasonOf(undone.error())));
   if (action == LibraryAction::RemoveSet || action == LibraryAction::AddSet) _readSets();
   // Names are shown anew whatever it was.
   for (const auto& set : _customIconSetArrayController.arrangedObjects())

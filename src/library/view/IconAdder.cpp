@@ -4,6 +4,7 @@
 #include <QFile>
 
 #include "ui/ElidedLabel.h"
+#include "ui/Reasons.h"
 
 namespace quorvane {
 
@@ -76,7 +77,7 @@ void IconAdder::addIcons(std::vector<Path> files, const std::shared_ptr<IconSet>
                  } else if (failures++ == 0) {
                    reason = tr("“%1” cannot be added: %2")
                                 .arg(visibleText(QFile::decodeName(files[at].filename().c_str())),
-                                     visibleText(QString::fromStdString(outcome.error().why())));
+                                     reasonOf(outcome.error()));
                  }
                }
                added(std::move(records));

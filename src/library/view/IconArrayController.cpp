@@ -10,6 +10,7 @@
 #include "library/view/IconSetArrayController.h"
 #include "library/view/LibraryPrompts.h"
 #include "library/view/LibraryTexts.h"
+#include "ui/Reasons.h"
 #include "ui/Texts.h"
 
 namespace quorvane {
@@ -33,22 +34,20 @@ IconArrayController::~IconArrayController() {
 }
 
 void IconArrayController::_bind() {
-  bindContent(
-      {.read = [this]() -> std::optional<Objects> {
-         const auto set = iconSet();
-         return set ? std::optional(set->icons()) : std::nullopt;
-       },
-       .write =
-           [this](const Objects& icons) {
-             const auto set = iconSet();
-             if (!set || !_undo) return;
-             _isWriting = true;
-             const auto written = set->setIcons(icons);
-             _isWriting = false;
-             if (!written)
-               Q_EMIT failed(
-                   tr("The order of the icons cannot be kept: %1").arg(QString::fromStdString(written.error().why())));
-           }});
+  bindContent({.read = [this]() -> std::optional<Objects> {
+                 const auto set = iconSet();
+                 return set ? std::optional(set->icons()) : std::nullopt;
+               },
+               .write =
+                   [this](const Objects& icons) {
+                     const auto set = iconSet();
+                     if (!set || !_undo) return;
+                     _isWriting = true;
+                     const auto written = set->setIcons(icons);
+                     _isWriting = false;
+                     if (!written)
+                       Q_EMIT failed(tr("The order of the icons cannot be kept: %1").arg(reasonOf(written.error())));
+                   }});
 }
 
 void IconArrayController::_watch() {
@@ -117,8 +116,7 @@ void IconArrayController::_insert(std::vector<IconRecord> records, const std::sh
     IconSet::Icons icons = set->icons();
     const auto place = row >= 0 ? std::min<std::size_t>(static_cast<std::size_t>(row), icons.size()) : icons.size();
     icons.insert(icons.begin() + static_cast<std::ptrdiff_t>(place), records.begin(), records.end());
-    if (const auto written = set->setIcons(std::move(icons)); !written)
-      Q_EMIT failed(QString::fromStdString(written.error().why()));
+    if (const auto written = set->setIcons(std::move(icons)); !written) Q_EMIT failed(reasonOf(written.error()));
   }
   _undo->noteAdded(set, names);
 }

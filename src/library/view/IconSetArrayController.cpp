@@ -19,6 +19,7 @@
 #include "library/view/LibraryTexts.h"
 #include "library/view/RowsPasteboard.h"
 #include "ui/ElidedLabel.h"
+#include "ui/Reasons.h"
 #include "ui/Texts.h"
 
 namespace quorvane {
@@ -28,10 +29,6 @@ namespace {
 /// What a set can be made of, judged without reading it.
 bool canBecomeSet(const std::filesystem::path& path) {
   return isDirectory(path) || path.extension() == ".zip" || path.extension() == ".ZIP";
-}
-
-QString reasonOf(const Error& error) {
-  return visibleText(QString::fromStdString(error.why()));
 }
 
 }  // namespace
