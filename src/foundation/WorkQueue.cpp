@@ -19,7 +19,7 @@ WorkQueue::~WorkQueue() {
     _isEnding = true;
   }
   _changed.notify_all();
-  if (_thread.joinable()) _thread.join();
+  for (Worker& worker : _workers) worker.thread.join();
 }
 
 WorkQueue::Ticket WorkQueue::add(Importance importance, Job job) {
@@ -34,7 +34,7 @@ void WorkQueue::enqueue(Waiting waiting) {
   if (_mode == Mode::InBackground) {
     const std::lock_guard lock(_mutex);
     try {
-      if (!_thread.joinable()) _thread = std::thread([this] { run(); });
+      if (_workers.empty()) startWorker();
       _waiting.push_back(std::move(waiting));
       _changed.notify_all();
       return;
@@ -47,7 +47,36 @@ void WorkQueue::enqueue(Waiting waiting) {
   settle(waiting.ticket);
 }
 
-void WorkQueue::run() {
+void WorkQueue::startWorker() {
+  Worker& worker = _workers.emplace_back();
+  try {
+    worker.thread = std::thread([this, &worker] { run(worker); });
+  } catch (const std::system_error&) {
+    _workers.pop_back();
+    throw;
+  }
+}
+
+void WorkQueue::leave(Ticket ticket) {
+  const std::lock_guard lock(_mutex);
+  if (!_isWorking || _inHand != ticket) return;
+  _workers.remove_if([](Worker& worker) {
+    if (worker.hasEnded) worker.thread.join();
+    return worker.hasEnded;
+  });
+  Worker& former = _workers.back();
+  try {
+    startWorker();
+  } catch (const std::system_error&) {
+    // Then what comes waits for it.
+    return;
+  }
+  former.isLeft = true;
+  _isWorking = false;
+  _changed.notify_all();
+}
+
+void WorkQueue::run(Worker& worker) {
   std::unique_lock lock(_mutex);
   while (true) {
     _changed.wait(lock, [this] { return _isEnding || !_waiting.empty(); });
@@ -55,16 +84,21 @@ void WorkQueue::run() {
     Waiting next = std::move(_waiting.front());
     _waiting.pop_front();
     _isWorking = true;
+    _inHand = next.ticket;
     lock.unlock();
     Delivery delivery = next.job();
     // What the job holds goes here, not on a thread that has other things to do.
     next.job = {};
     lock.lock();
-    _isWorking = false;
+    // Nobody wants that of a job that was left, but it goes where all go.
     _done.push_back({next.ticket, std::move(delivery)});
+    if (!worker.isLeft) _isWorking = false;
     _changed.notify_all();
     QMetaObject::invokeMethod(
         &_home, [this] { deliverAll(); }, Qt::QueuedConnection);
+    if (!worker.isLeft) continue;
+    worker.hasEnded = true;
+    return;
   }
 }
 
@@ -94,13 +128,14 @@ void WorkQueue::cancel(Ticket ticket) {
     const std::lock_guard lock(_mutex);
     std::erase_if(_waiting, [ticket](const Waiting& waiting) { return waiting.ticket == ticket; });
   }
+  if (found->second == Importance::MayBeLeft) leave(ticket);
   settle(ticket);
 }
 
 void WorkQueue::dropAllThatMay() {
   std::vector<Ticket> droppable;
   for (const auto& [ticket, importance] : _undelivered)
-    if (importance == Importance::MayBeDropped) droppable.push_back(ticket);
+    if (importance != Importance::MustBeDone) droppable.push_back(ticket);
   for (const Ticket ticket : droppable) cancel(ticket);
 }
 

@@ -7,6 +7,7 @@
 #include <cstdint>
 #include <deque>
 #include <functional>
+#include <list>
 #include <map>
 #include <mutex>
 #include <thread>
@@ -22,8 +23,9 @@ class WorkQueue {
     AtOnce,  ///< within the call, for tests and programs without an event loop
   };
   enum class Importance {
-    MustBeDone,   ///< begun or not, it is waited for at the end
-    MayBeDropped  ///< of no use to anybody once it is cancelled
+    MustBeDone,    ///< begun or not, it is waited for at the end
+    MayBeDropped,  ///< of no use to anybody once it is cancelled
+    MayBeLeft      ///< the same, and cancelled while it is being done it holds up nothing that comes after it
   };
   /// Hands over what came of a job.
   using Delivery = std::function<void()>;
@@ -49,8 +51,8 @@ class WorkQueue {
   /// called from any thread.
   void addLater(std::chrono::milliseconds delay, std::function<void()> what);
 
-  /// Drops what may be dropped and waits until all else is done and delivered; false when that is not so after
-  /// `patience`: a disk may never answer.
+  /// Drops what may be dropped, leaves what may be left, and waits until all else is done and delivered; false when
+  /// that is not so after `patience`: a disk may never answer.
   bool finish(std::chrono::milliseconds patience);
 
  private:
@@ -67,9 +69,20 @@ class WorkQueue {
     std::function<void()> what;
   };
 
+  /// One thread is at work; others end with the job that was cancelled under their hands.
+  struct Worker {
+    std::thread thread;
+    bool isLeft = false;
+    bool hasEnded = false;
+  };
+
   void enqueue(Waiting waiting);
-  /// What the thread does.
-  void run();
+  /// Another thread goes on with what follows the job, if that is being done.
+  void leave(Ticket ticket);
+  /// With the mutex held.
+  void startWorker();
+  /// What a thread does.
+  void run(Worker& worker);
   void deliverAll();
   void settle(Ticket ticket);
   /// Puts a delayed one into the queue; with 0 all of them.
@@ -89,9 +102,10 @@ class WorkQueue {
   std::deque<Delayed> _delayed;
   Ticket _lastDelayed = 0;
   bool _isWorking = false;
+  Ticket _inHand = 0;  ///< of the job that is being done
   bool _isFinishing = false;
   bool _isEnding = false;
-  std::thread _thread;  ///< started with the first job
+  std::list<Worker> _workers;  ///< the last one is at work; the first is started with the first job
 };
 
 }  // namespace quorvane

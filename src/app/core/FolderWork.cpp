@@ -55,21 +55,22 @@ FolderWork::FolderWork(const IconServices& services, WorkQueue::Mode mode)
     : _branding(services, [this](std::chrono::milliseconds delay,
                                  std::function<void()> what) { _queue.addLater(delay, std::move(what)); }),
       _pictures(mode),
+      _looks(mode),
       _queue(mode) {}
 
 void FolderWork::look(const std::filesystem::path& path, Answer<bool> answer) {
   cancelLook();
-  _look = _queue.add(WorkQueue::Importance::MayBeDropped,
+  _look = _looks.add(WorkQueue::Importance::MayBeLeft,
                      [path, answer = std::move(answer)] { return [is = isDirectory(path), answer] { answer(is); }; });
 }
 
 void FolderWork::cancelLook() {
-  cancel(_queue, _look);
+  cancel(_looks, _look);
 }
 
 void FolderWork::load(const std::filesystem::path& path, Answer<Result<LoadedFolder>> answer) {
   cancelLoad();
-  _load = _queue.add(WorkQueue::Importance::MayBeDropped, [this, path, answer = std::move(answer)] {
+  _load = _queue.add(WorkQueue::Importance::MayBeLeft, [this, path, answer = std::move(answer)] {
     return [loaded = loadFolder(_branding, path), answer] { answer(loaded); };
   });
 }
@@ -80,12 +81,11 @@ void FolderWork::cancelLoad() {
 
 void FolderWork::readPicture(PictureReader reader, Answer<Result<Image>> answer) {
   cancelPicture();
-  _picture =
-      _pictures.add(WorkQueue::Importance::MayBeDropped, [reader = std::move(reader), answer = std::move(answer)] {
-        auto picture = reader();
-        if (picture) decode(*picture);
-        return [picture = std::move(picture), answer] { answer(picture); };
-      });
+  _picture = _pictures.add(WorkQueue::Importance::MayBeLeft, [reader = std::move(reader), answer = std::move(answer)] {
+    auto picture = reader();
+    if (picture) decode(*picture);
+    return [picture = std::move(picture), answer] { answer(picture); };
+  });
 }
 
 void FolderWork::cancelPicture() {
@@ -94,6 +94,7 @@ void FolderWork::cancelPicture() {
 
 bool FolderWork::finish(std::chrono::milliseconds patience) {
   cancelPicture();
+  cancelLook();
   return _queue.finish(patience);
 }
 

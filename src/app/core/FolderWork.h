@@ -19,10 +19,11 @@ struct LoadedFolder {
 };
 
 /// The folder flow for a window: everything that touches a folder is done on a thread of its own, one at a time and in
-/// the order in which it was asked for, so that a slow disk keeps nobody waiting. Answers come by the event loop of the
-/// thread that made this object, which is the one that may use it.
+/// the order in which it was asked for, so that a slow disk keeps nobody waiting; a load that was cancelled holds up
+/// nothing. Answers come by the event loop of the thread that made this object, which is the one that may use it.
 ///
-/// Pictures to draw on have another thread: they may lie on another disk, and a slow one of these holds up no folder.
+/// Pictures to draw on have another thread, and so has the question whether there is a folder: they may lie on another
+/// disk, and a slow one of these holds up no folder, nor does a slow folder hold them up.
 class FolderWork {
  public:
   template <typename T>
@@ -70,6 +71,7 @@ class FolderWork {
   std::optional<WorkQueue::Ticket> _load;
   std::optional<WorkQueue::Ticket> _picture;
   WorkQueue _pictures;
+  WorkQueue _looks;
   WorkQueue _queue;  ///< last: its end waits for what uses the rest
 };
 
