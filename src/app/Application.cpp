@@ -74,6 +74,21 @@ class UnkeptSettings : public MemorySettings {
   Error _why;
 };
 
+/// A command line as the toolkit wants it: to be changed, and there as long as the application.
+struct ToolkitArguments {
+  ToolkitArguments(const char* program, const std::vector<std::string>& options) {
+    texts.emplace_back(program);
+    texts.insert(texts.end(), options.begin(), options.end());
+    for (std::string& text : texts) words.push_back(text.data());
+    count = static_cast<int>(words.size());
+    words.push_back(nullptr);
+  }
+
+  std::vector<std::string> texts;
+  std::vector<char*> words;
+  int count = 0;
+};
+
 std::unique_ptr<SettingsStorage> openSettings() {
   auto path = SettingsFile::usualPath();
   if (path) return std::make_unique<SettingsFile>(*path);
@@ -90,8 +105,8 @@ int runApplication(int argc, char** argv) {
     return arguments.exitCode;
   }
 
-  if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM") && qEnvironmentVariableIsEmpty("DISPLAY") &&
-      qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY")) {
+  if (!arguments.namesDisplay && qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM") &&
+      qEnvironmentVariableIsEmpty("DISPLAY") && qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY")) {
     std::fputs(
         "quorvane-window: there is no display to open the window on\nFor scripts there is the command \"quorvane\".\n",
         stderr);
@@ -99,7 +114,9 @@ int runApplication(int argc, char** argv) {
   }
   const auto systemServices = makeDesktopServices();
   HVUtility::setServices(systemServices.get());
-  QApplication application(argc, argv);
+  // It would take a folder behind "--" for an option of its own.
+  ToolkitArguments forToolkit(argc > 0 ? argv[0] : "quorvane-window", arguments.toolkitOptions);
+  QApplication application(forToolkit.count, forToolkit.words.data());
   QCoreApplication::setApplicationName(QStringLiteral("Quorvane"));
   QCoreApplication::setApplicationVersion(QStringLiteral(QUORVANE_VERSION));
   QGuiApplication::setDesktopFileName(QStringLiteral(QUORVANE_APP_ID));

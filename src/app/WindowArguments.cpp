@@ -26,21 +26,37 @@ constexpr const char* help =
     "For scripts there is the command \"quorvane\".\n";
 constexpr int wrongUse = 2;
 
-// QGuiApplication's, with one dash or two. A session manager starts the program again with "-session ID".
-constexpr std::array<std::string_view, 14> toolkitOptions{
-    "session",     "platform", "platformpluginpath", "platformtheme", "plugin", "qwindowgeometry", "qwindowtitle",
-    "qwindowicon", "display",  "geometry",           "fontengine",    "style",  "stylesheet",      "icon"};
-constexpr std::array<std::string_view, 2> toolkitFlags{"reverse", "widgetcount"};
+// QApplication's and those of its X11 platform, with one dash or two. A session manager starts the program again with
+// "-session ID".
+constexpr std::array<std::string_view, 15> toolkitOptions{
+    "session", "platform", "platformpluginpath", "platformtheme", "plugin", "qwindowgeometry", "geometry",
+    "title",   "icon",     "qwindowtitle",       "qwindowicon",   "style",  "stylesheet",      "display",
+    "name"};
+constexpr std::array<std::string_view, 2> toolkitOptionsWithEquals{"style", "stylesheet"};
+constexpr std::array<std::string_view, 4> toolkitFlags{"reverse", "widgetcount", "nograb", "dograb"};
 
 enum class ToolkitOption { Alone, BeforeValue };
 
+std::string_view withoutDashes(std::string_view argument) {
+  return argument.substr(argument.starts_with("--") ? 2 : 1);
+}
+
 std::optional<ToolkitOption> toolkitOption(std::string_view argument) {
-  argument.remove_prefix(argument.starts_with("--") ? 2 : 1);
-  const auto equals = argument.find('=');
-  const std::string_view name = argument.substr(0, equals);
-  if (std::ranges::find(toolkitFlags, argument) != toolkitFlags.end()) return ToolkitOption::Alone;
-  if (std::ranges::find(toolkitOptions, name) == toolkitOptions.end()) return std::nullopt;
-  return equals == std::string_view::npos ? ToolkitOption::BeforeValue : ToolkitOption::Alone;
+  const std::string_view name = withoutDashes(argument);
+  const auto has = [](const auto& names, std::string_view wanted) {
+    return std::ranges::find(names, wanted) != names.end();
+  };
+  if (has(toolkitOptions, name)) return ToolkitOption::BeforeValue;
+  const auto equals = name.find('=');
+  const bool hasValue = equals != std::string_view::npos && has(toolkitOptionsWithEquals, name.substr(0, equals));
+  return hasValue || has(toolkitFlags, name) ? std::optional(ToolkitOption::Alone) : std::nullopt;
+}
+
+WindowArguments wrongly(const std::string& complaint) {
+  WindowArguments parsed;
+  parsed.words = "quorvane-window: " + complaint + "\nTry 'quorvane-window --help'.\n";
+  parsed.exitCode = wrongUse;
+  return parsed;
 }
 
 }  // namespace
@@ -50,7 +66,10 @@ WindowArguments parseWindowArguments(const std::vector<std::string>& arguments) 
   bool areOptionsOver = false;
   bool isValue = false;
   for (const std::string& argument : arguments) {
-    if (std::exchange(isValue, false)) continue;
+    if (std::exchange(isValue, false)) {
+      parsed.toolkitOptions.push_back(argument);
+      continue;
+    }
     if (!areOptionsOver && argument.starts_with("-")) {
       if (argument == "--") {
         areOptionsOver = true;
@@ -62,15 +81,17 @@ WindowArguments parseWindowArguments(const std::vector<std::string>& arguments) 
         return parsed;
       } else if (const auto ofToolkit = toolkitOption(argument)) {
         isValue = ofToolkit == ToolkitOption::BeforeValue;
+        parsed.toolkitOptions.push_back(argument);
+        const std::string_view name = withoutDashes(argument);
+        parsed.namesDisplay |= name == "platform" || name == "display";
       } else {
-        parsed.words = "quorvane-window: unknown option '" + printable(argument) + "'\nTry 'quorvane-window --help'.\n";
-        parsed.exitCode = wrongUse;
-        return parsed;
+        return wrongly("unknown option '" + printable(argument) + "'");
       }
       continue;
     }
     if (!argument.empty()) parsed.folders.push_back(argument);
   }
+  if (isValue) return wrongly("option '" + parsed.toolkitOptions.back() + "' needs a value");
   return parsed;
 }
 

@@ -280,9 +280,14 @@ TEST(WindowArgumentsTest, OptionsAndFoldersAreToldApart) {
   EXPECT_EQ(parseWindowArguments({"a", "--", "--help"}).folders, (std::vector<std::string>{"a", "--help"}));
   EXPECT_EQ(parseWindowArguments({"--help"}).exitCode, 0);
   EXPECT_EQ(parseWindowArguments({"--nonsense"}).exitCode, 2);
-  const auto restored = parseWindowArguments({"-session", "10e_17", "-reverse", "--style=fusion", "a"});
+  const auto restored = parseWindowArguments({"-session", "10e_17", "a", "--style=fusion", "--", "-reverse"});
   EXPECT_FALSE(restored.words) << *restored.words;
-  EXPECT_EQ(restored.folders, std::vector<std::string>{"a"});
+  EXPECT_EQ(restored.folders, (std::vector<std::string>{"a", "-reverse"}));
+  EXPECT_EQ(restored.toolkitOptions, (std::vector<std::string>{"-session", "10e_17", "--style=fusion"}));
+  EXPECT_TRUE(parseWindowArguments({"--platform", "offscreen", "-nograb", "-title", "x"}).namesDisplay);
+  // What Qt would not understand either.
+  for (const char* wrong : {"-session", "--style", "--session=1", "-platform=xcb", "-reverse=1", "-fontengine"})
+    EXPECT_EQ(parseWindowArguments({"a", wrong}).exitCode, 2) << wrong;
 }
 
 }  // namespace
