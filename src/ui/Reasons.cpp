@@ -5,6 +5,8 @@
 #include <QRegularExpression>
 #include <QStringList>
 #include <optional>
+#include <utility>
+#include <vector>
 
 #include "foundation/base/Text.h"
 #include "ui/ReasonTexts.h"
@@ -17,20 +19,36 @@ bool isLetterOrDigit(const QString& text, qsizetype at) {
   return at >= 0 && at < text.size() && text[at].isLetterOrNumber();
 }
 
-/// Where the name that is quoted from `begin` ends, or `begin` when none is: apostrophes stand within words.
-qsizetype endOfName(const QString& text, qsizetype begin) {
-  if (text[begin] != QLatin1Char('\'') || isLetterOrDigit(text, begin - 1)) return begin;
-  for (qsizetype at = text.indexOf(QLatin1Char('\''), begin + 1); at > 0; at = text.indexOf(QLatin1Char('\''), at + 1))
-    if (!isLetterOrDigit(text, at + 1)) return at;
-  return begin;
+constexpr QLatin1Char quote('\'');
+
+/// Whether a quoted name may end here: apostrophes stand within words.
+bool endsName(const QString& text, qsizetype at) {
+  return text[at] == quote && !isLetterOrDigit(text, at + 1);
+}
+
+/// Where the last quoted name ends, or -1.
+qsizetype endOfLastName(const QString& text) {
+  for (qsizetype at = text.size() - 1; at >= 0; --at)
+    if (endsName(text, at)) return at;
+  return -1;
+}
+
+/// Where the name that is quoted from `begin` ends, or `begin` when none is.
+qsizetype endOfName(const QString& text, qsizetype begin, qsizetype last) {
+  if (begin >= last || text[begin] != quote || isLetterOrDigit(text, begin - 1)) return begin;
+  qsizetype at = begin + 1;
+  while (!endsName(text, at)) ++at;
+  return at;
 }
 
 /// The pieces between separators; a name in quotes may hold anything.
 QStringList piecesOf(const QString& text, QLatin1String separator) {
   QStringList pieces;
   qsizetype begin = 0;
+  // Looked for once: where many names begin and none ends, each would be followed to the end of the text.
+  const qsizetype last = endOfLastName(text);
   for (qsizetype at = 0; at < text.size(); ++at) {
-    at = endOfName(text, at);
+    at = endOfName(text, at, last);
     if (!QStringView(text).mid(at).startsWith(separator)) continue;
     pieces += text.mid(begin, at - begin);
     begin = at + separator.size();
@@ -55,24 +73,38 @@ std::optional<QStringList> valuesIn(const QString& piece, const QStringList& par
   return values;
 }
 
+struct Text {
+  const char* source;
+  QStringList parts;  ///< between its places
+  qsizetype length;   ///< of the parts
+};
+
+const std::vector<Text>& allTexts() {
+  static const std::vector<Text> all = [] {
+    const QRegularExpression place(QStringLiteral("%[1-9]"));
+    std::vector<Text> texts;
+    for (const auto list : {reasons::ofFolders(), reasons::ofPictures(), reasons::ofLibrary(), reasons::ofOthers()})
+      for (const char* source : list) {
+        const QStringList parts = QString::fromLatin1(source).split(place);
+        texts.push_back({source, parts, parts.join(QString()).size()});
+      }
+    return texts;
+  }();
+  return all;
+}
+
 struct Match {
-  const char* text;
+  const Text* text;
   QStringList values;
-  qsizetype length;  ///< of what is no value
 };
 
 /// The text that the piece is made of; of several the one that leaves least to its places.
 std::optional<Match> matchOf(const QString& piece) {
-  static const QRegularExpression place(QStringLiteral("%[1-9]"));
   std::optional<Match> best;
-  for (const auto texts : {reasons::ofFolders(), reasons::ofPictures(), reasons::ofLibrary(), reasons::ofOthers()})
-    for (const char* text : texts) {
-      const QStringList parts = QString::fromLatin1(text).split(place);
-      const qsizetype length = parts.join(QString()).size();
-      if (best && best->length >= length) continue;
-      if (auto values = valuesIn(piece, parts))
-        best = Match{.text = text, .values = *std::move(values), .length = length};
-    }
+  for (const Text& text : allTexts()) {
+    if (text.length > piece.size() || (best && best->text->length >= text.length)) continue;
+    if (auto values = valuesIn(piece, text.parts)) best = Match{.text = &text, .values = *std::move(values)};
+  }
   return best;
 }
 
@@ -94,7 +126,7 @@ QString filled(const QString& text, const QStringList& values) {
 std::optional<QString> translated(const QString& piece) {
   const auto match = matchOf(piece);
   if (!match) return std::nullopt;
-  return filled(QCoreApplication::translate("Reasons", match->text), match->values);
+  return filled(QCoreApplication::translate("Reasons", match->text->source), match->values);
 }
 
 QString shown(const std::string& bytes) {

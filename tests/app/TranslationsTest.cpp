@@ -76,6 +76,7 @@ TEST(TranslationsTest, ReasonsAreSaidPieceByPiece) {
        "「it's: cannot read」: PNG: IDAT: \\xFF is odd: メモリーが足りません"},
       {"en", "'a': there is no element 'b: \u202E%1'", "'a': there is no element 'b: \\u{202E}%1'"},
       {"de", "", ""},
+      {"de", "'a: ''b: out of memory", "'a: ''b: zu wenig Arbeitsspeicher"},
   };
   for (const auto& one : cases) {
     const Translations translations({QString::fromLatin1(one.language)});
