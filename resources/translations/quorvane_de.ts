@@ -1695,7 +1695,7 @@
     </message>
     <message>
         <source>%1 of the icons cannot be brought back from the trash</source>
-        <translation>%1 der Symbole können nicht aus dem Papierkorb zurückgeholt werden</translation>
+        <translation>Symbole, die nicht aus dem Papierkorb zurückgeholt werden können: %1</translation>
     </message>
     <message>
         <source>the set cannot be brought back from the trash</source>
@@ -2031,7 +2031,7 @@
     </message>
     <message>
         <source>element &apos;%1&apos; holds a picture of %2 x %3 pixels</source>
-        <translation>Element „%1“ enthält ein Bild mit %2 × %3 Pixel</translation>
+        <translation>Element „%1“ enthält ein Bild mit %2 × %3 Pixeln</translation>
     </message>
     <message>
         <source>element &apos;%1&apos; is too short</source>
@@ -2119,7 +2119,7 @@
     </message>
     <message>
         <source>picture of %1 x %2 pixels</source>
-        <translation>Bild mit %1 × %2 Pixel</translation>
+        <translation>Bild mit %1 × %2 Pixeln</translation>
     </message>
     <message>
         <source>the picture cannot be decoded</source>
@@ -2163,7 +2163,7 @@
     </message>
     <message>
         <source>PNG picture of %1 x %2 pixels</source>
-        <translation>PNG-Bild mit %1 × %2 Pixel</translation>
+        <translation>PNG-Bild mit %1 × %2 Pixeln</translation>
     </message>
     <message>
         <source>PNG picture is too large</source>
@@ -2283,23 +2283,23 @@
     </message>
     <message>
         <source>JPEG 2000 picture of %1 x %2 pixels</source>
-        <translation>JPEG-2000-Bild mit %1 × %2 Pixel</translation>
+        <translation>JPEG-2000-Bild mit %1 × %2 Pixeln</translation>
     </message>
     <message>
         <source>JPEG 2000 picture of %1 x %2 pixels is of too many pixels</source>
-        <translation>JPEG-2000-Bild mit %1 × %2 Pixel hat zu viele Pixel</translation>
+        <translation>JPEG-2000-Bild mit %1 × %2 Pixeln hat zu viele Pixel</translation>
     </message>
     <message>
         <source>JPEG 2000 picture of %1 x %2 pixels is of too many tiles</source>
-        <translation>JPEG-2000-Bild mit %1 × %2 Pixel hat zu viele Kacheln</translation>
+        <translation>JPEG-2000-Bild mit %1 × %2 Pixeln hat zu viele Kacheln</translation>
     </message>
     <message>
         <source>JPEG 2000 picture of %1 x %2 pixels is of too many code blocks</source>
-        <translation>JPEG-2000-Bild mit %1 × %2 Pixel hat zu viele Kodierblöcke</translation>
+        <translation>JPEG-2000-Bild mit %1 × %2 Pixeln hat zu viele Kodierblöcke</translation>
     </message>
     <message>
         <source>JPEG 2000 picture of %1 x %2 pixels is of too many packets</source>
-        <translation>JPEG-2000-Bild mit %1 × %2 Pixel hat zu viele Pakete</translation>
+        <translation>JPEG-2000-Bild mit %1 × %2 Pixeln hat zu viele Pakete</translation>
     </message>
     <message>
         <source>not a layered picture (PSD)</source>
