@@ -137,6 +137,10 @@ void AppController::_notice(const QString& words) {
   _noticeLabel->notice(words);
 }
 
+QString AppController::_readingWords() {
+  return tr("Reading the picture…");
+}
+
 void AppController::_beginWork(const QString& words) {
   _busyWords = words;
   ++_busyCount;
@@ -150,8 +154,9 @@ void AppController::_showBusy() {
     _applyBtn->setEnabled(false);
     _revertBtn->setEnabled(false);
   } else if (_content.front()->isEnabled()) {
-    _focusBeforeWork = _mainWindow->focusWidget();
-    // Else it would wander from part to part.
+    // Else it would wander from part to part. A sheet keeps it.
+    QWidget* focus = _mainWindow->focusWidget();
+    _focusBeforeWork = focus && _mainWindow->centralWidget()->isAncestorOf(focus) ? focus : nullptr;
     if (_focusBeforeWork) _focusBeforeWork->clearFocus();
     for (QWidget* part : _content) part->setEnabled(false);
   }
@@ -165,7 +170,10 @@ void AppController::_endWork() {
     for (QWidget* part : _content) part->setEnabled(true);
     if (_focusBeforeWork) _focusBeforeWork->setFocus();
   }
-  if (_busyCount > 0) return _busyTimer.start();
+  if (_busyCount > 0) {
+    _busyWords = _readingWords();
+    return _busyTimer.start();
+  }
   _busyTimer.stop();
   _busyIndicator->end();
   Q_EMIT stateChanged();

@@ -251,8 +251,9 @@ class AppController : public QObject, public HVWindowDelegate, public LabelTextF
   void _chooseFromLibrary(const std::optional<Image>& image, const Path& path);
   void _endSliderStep();
 
-  /// Busy from here until _endWork(); after a moment the window shows it.
   static Path _scratchPath();
+  static QString _readingWords();
+  /// Busy from here until _endWork(); after a moment the window shows it.
   void _beginWork(const QString& words);
   /// Busy with more than looking: nothing may come between.
   [[nodiscard]] bool _isWriting() const { return _busyCount > int{_isLooking} + int{_isLoading} + int{_isReading}; }

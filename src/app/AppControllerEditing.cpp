@@ -212,7 +212,7 @@ void AppController::_readPicture(const std::function<Result<Image>()>& read,
   const auto answer = std::make_shared<Answer>();
   const unsigned reading = _reading;
   _isReading = true;
-  _beginWork(tr("Reading the picture…"));
+  _beginWork(_readingWords());
   _services.work.readPicture(read, [this, self = QPointer(this), answer, show, reading](Result<Image> picture) {
     if (!self || reading != _reading) return;
     _endReading();

@@ -230,14 +230,17 @@ void AppController::perform(MenuCommand command) {
 }
 
 void AppController::_missesRecent(const Path& folder) {
-  if (!_services.removeRecentFolder) return _notice(tr("The folder is not there any more."));
+  // A slow disk may say so while something else is asked.
+  if (!_services.removeRecentFolder || _services.prompts.hasSheet())
+    return _notice(tr("The folder is not there any more."));
   const QString name = visibleText(QFile::decodeName(folder.filename().c_str()));
+  // Escape is the alternate button: it removes nothing.
   const int answer = _services.prompts.runPromptSheetWithTitle(
       tr("“%1” Is Missing").arg(name),
       tr("The folder is not there any more, or the disk that it lies on is away:\n\n%1")
           .arg(visibleText(abbreviatedPath(folder))),
-      tr("Keep in List"), tr("Remove from List"));
-  if (answer == UserPrompts::alternateReturn) _services.removeRecentFolder(folder);
+      tr("Remove from List"), tr("Keep in List"));
+  if (answer == UserPrompts::defaultReturn) _services.removeRecentFolder(folder);
 }
 
 void AppController::_fillRecentMenu() {

@@ -2,6 +2,7 @@
 #include "app/BusyIndicator.h"
 
 #include <QHBoxLayout>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QProgressBar>
 #include <QToolButton>
@@ -24,7 +25,9 @@ BusyIndicator::BusyIndicator(QWidget* parent)
   layout->addWidget(_bar);
   layout->addWidget(_words);
   _cancel->setText(tr("Cancel"));
-  _cancel->setFocusPolicy(Qt::StrongFocus);
+  // A click leaves the focus where it is: the button goes with it.
+  _cancel->setFocusPolicy(Qt::TabFocus);
+  _cancel->installEventFilter(this);
   connect(_cancel, &QToolButton::clicked, this, &BusyIndicator::cancelled);
   layout->addWidget(_cancel);
   _cancelDelay.setSingleShot(true);
@@ -40,6 +43,7 @@ BusyIndicator::BusyIndicator(QWidget* parent)
 void BusyIndicator::begin(const QString& words, bool canCancel) {
   _words->setText(words);
   _bar->setAccessibleDescription(words);
+  _cancel->setAccessibleDescription(words);
   _words->setVisible(true);
   // The words say it too.
   _bar->setVisible(wantsMotion(*this));
@@ -51,6 +55,19 @@ void BusyIndicator::end() {
   _bar->setVisible(false);
   _cancelDelay.stop();
   _cancel->hide();
+}
+
+bool BusyIndicator::eventFilter(QObject* watched, QEvent* event) {
+  if (watched == _cancel && event->type() == QEvent::KeyPress) {
+    const auto& key = static_cast<const QKeyEvent&>(*event);
+    const bool isMeant = key.key() == Qt::Key_Escape || key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter;
+    // A key that is still held from before is no answer.
+    if (isMeant && !key.isAutoRepeat()) {
+      _cancel->click();
+      return true;
+    }
+  }
+  return QWidget::eventFilter(watched, event);
 }
 
 bool BusyIndicator::isShown() const {

@@ -23,6 +23,10 @@ class BusyIndicator : public QWidget {
  Q_SIGNALS:
   void cancelled();
 
+ protected:
+  /// Escape and Return press the button that has the focus.
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
  private:
   QLabel* _words;
   QWidget* _bar;

@@ -40,6 +40,8 @@ class Sheet : public QWidget {
   /// The focus goes into the panel: to where it last was, else to the default button, else to the first control.
   void takeFocus();
   void rememberFocus(QWidget& focus) { _lastFocus = &focus; }
+  /// The part of the window that gets the focus at the end, in place of the one that had it at the beginning.
+  void setFormerFocus(QWidget& focus) { _formerFocus = &focus; }
   /// True when the key meant something to the sheet: Return, Escape, an access key.
   bool handleKey(const QKeyEvent& key, QWidget* focus);
   /// The button with the key equivalent; for Return else the default button, for Escape else the button with tag 0.

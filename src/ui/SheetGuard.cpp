@@ -94,6 +94,8 @@ void SheetGuard::_focusChanged(QWidget* now) {
   if (top()->isAncestorOf(now)) {
     top()->rememberFocus(*now);
   } else {
+    // Whoever gave it the focus means it to have it as soon as that can be.
+    _sheets.front()->setFormerFocus(*now);
     top()->takeFocus();
   }
 }

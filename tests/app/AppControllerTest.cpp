@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QLineEdit>
 #include <QMenu>
 #include <QTest>
 #include <QToolButton>
@@ -294,14 +295,16 @@ TEST(AppControllerBusyTest, ASlowDiskLeavesTheWindowAliveAndItsControlsDisabled)
 
 TEST_F(AppControllerTest, AMissingRecentFolderLeavesTheListWhenTheUserWants) {
   QMenu& menu = *ui._mainMenu->recentMenu();
-  for (const int answer : {UserPrompts::defaultReturn, UserPrompts::alternateReturn}) {
+  // The alternate button is that of Escape, the other answer that of nobody.
+  for (const int answer : {UserPrompts::defaultReturn, UserPrompts::alternateReturn, UserPrompts::otherReturn}) {
     test.recent = {{test.tree / "gone", true}, {test.folder, false}};
     test.prompts.answers = {answer};
     Q_EMIT menu.aboutToShow();
     menu.actions().front()->trigger();
     QCoreApplication::processEvents();
     EXPECT_EQ(test.prompts.shown.back().title, QStringLiteral("“gone” Is Missing"));
-    EXPECT_EQ(test.recent.size(), answer == UserPrompts::alternateReturn ? 1U : 2U);
+    EXPECT_EQ(test.prompts.shown.back().defaultButton, QStringLiteral("Remove from List"));
+    EXPECT_EQ(test.recent.size(), answer == UserPrompts::defaultReturn ? 1U : 2U);
   }
 }
 
@@ -326,9 +329,30 @@ TEST(AppControllerBusyTest, AFolderThatHangsCanBeGivenUp) {
   QTest::keyClick(cancel, Qt::Key_Space);
   EXPECT_TRUE(!cancel->isVisible() && !test.controller->isBusy() && test.ui()._openBtn->isEnabled());
   EXPECT_EQ(state(test), "---------");
-  slow.go.count_down();
+  // Another disk answers, though that one still does not.
   test.controller->applicationOpenFile(test.folder);
   EXPECT_TRUE(QTest::qWaitFor([&] { return state(test) == "-rl---fp-"; })) << state(test);
+  slow.go.count_down();
+}
+
+TEST(AppControllerBusyTest, ASheetKeepsTheFocusWhileAFolderHangs) {
+  SlowKinds slow;
+  TestWindow test({.mode = WorkQueue::Mode::InBackground, .kinds = &slow});
+  test.launch();
+  EXPECT_TRUE(QTest::qWaitForWindowActive(&test.window));
+  std::filesystem::create_directory(test.tree / "stuck");
+  QWidget sheet;
+  QLineEdit field(&sheet);
+  test.window.beginSheet(sheet);
+  field.setFocus();
+  test.controller->applicationOpenFile(test.tree / "stuck");
+  EXPECT_TRUE(QTest::qWaitFor([&] { return test.ui()._busyIndicator->cancelButton()->isVisible(); }));
+  EXPECT_TRUE(field.hasFocus());
+  slow.go.count_down();
+  EXPECT_TRUE(QTest::qWaitFor([&] { return !test.controller->isBusy(); }));
+  EXPECT_TRUE(field.hasFocus());
+  test.window.endSheet();
+  EXPECT_TRUE(test.ui()._labelTF->hasFocus()) << "as without the sheet";
 }
 
 TEST(AppControllerBusyTest, OfWhatADiskStillOwesTheLastChoiceIsShown) {
@@ -349,21 +373,20 @@ TEST(AppControllerBusyTest, OfWhatADiskStillOwesTheLastChoiceIsShown) {
     EXPECT_TRUE(QTest::qWaitFor([&] { return state(test) == wanted; })) << wanted << " is " << state(test);
   };
 
-  // A folder hangs; whether the next ones are folders cannot be told until it is let go.
+  // A folder hangs; the next one takes its place.
   std::filesystem::create_directory(test.tree / "stuck");
   controller.applicationOpenFile(test.tree / "stuck");
   isShown("-------p-");
   int refused = 0;
   EXPECT_FALSE(controller.applicationOpenFile(test.tree / "nowhere", [&] { ++refused; }));
-  EXPECT_FALSE(controller.applicationOpenFile(test.folder, [&] { ++refused; }));
+  EXPECT_TRUE(QTest::qWaitFor([&] { return refused == 1; }));
   EXPECT_TRUE(ui._busyIndicator->isShown());
   EXPECT_EQ(controller.path(), test.tree / "stuck");
-  slow.go.count_down();
+  controller.applicationOpenFile(test.folder, [&] { ++refused; });
   EXPECT_TRUE(QTest::qWaitFor([&] { return controller.path() == test.folder && !controller.isBusy(); }));
   isShown("-rl---fp-");
-  EXPECT_EQ(refused, 0);
-  EXPECT_FALSE(controller.applicationOpenFile(test.tree / "nowhere", [&] { ++refused; }));
   EXPECT_EQ(refused, 1);
+  slow.go.count_down();
 
   // Pictures hang: the label can be typed on, and nothing is written.
   QTest::keyClicks(ui._labelTF, QStringLiteral("Tax"));
