@@ -57,6 +57,15 @@ void FloatingPanel::_placeBeside(const QWidget& window) {
        std::clamp(frame.top(), screen.top(), std::max(screen.top(), screen.bottom() - size.height())));
 }
 
+void FloatingPanel::_keepOnScreen() {
+  const QRect room = screen()->availableGeometry();
+  QRect frame(pos(), size().boundedTo(room.size()));
+  frame.moveLeft(std::clamp(frame.left(), room.left(), room.left() + room.width() - frame.width()));
+  frame.moveTop(std::clamp(frame.top(), room.top(), room.top() + room.height() - frame.height()));
+  resize(frame.size());
+  move(frame.topLeft());
+}
+
 void FloatingPanel::setFrameStore(FrameStore* store, const QString& name) {
   _frameStore = store;
   _frameName = name;
@@ -70,8 +79,10 @@ void FloatingPanel::showPanel() {
   winId();
   if (over && over != this && over->windowHandle()) windowHandle()->setTransientParent(over->windowHandle());
   // Only the first time: later it comes back where the user has put it.
-  if (const auto frame = !_isPlaced && _frameStore ? _frameStore->frameForName(_frameName) : std::nullopt)
+  if (const auto frame = !_isPlaced && _frameStore ? _frameStore->frameForName(_frameName) : std::nullopt) {
     _isPlaced = restoreGeometry(*frame);
+    if (_isPlaced) _keepOnScreen();
+  }
   if (over && over != this && !std::exchange(_isPlaced, true)) _placeBeside(*over->window());
   show();
   raise();

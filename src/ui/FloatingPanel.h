@@ -48,6 +48,8 @@ class FloatingPanel : public QWidget {
   void _needContent();
   void _takeContent();
   void _placeBeside(const QWidget& window);
+  /// Its former screen may have been larger, or another one.
+  void _keepOnScreen();
 
   QWidget* _content = nullptr;
   QPointer<QWidget> _place;

@@ -107,6 +107,15 @@ TEST(LifecycleTest, WhatARunLeavesTheNextOneTakesUp) {
   next.setFrameStore(&test.frames);
   next.fontPanel().showPanel();
   EXPECT_TRUE(areNear(next.fontPanel().pos(), {40, 50}));
+  next.fontPanel().setGeometry(300, 200, 5000, 4000);
+  next.fontPanel().hidePanel();
+  SharedPanels onSmallerScreen;
+  FontPanel& panel = onSmallerScreen.fontPanel();
+  onSmallerScreen.setFrameStore(&test.frames);
+  panel.showPanel();
+  const QSize side = panel.geometry().size();
+  EXPECT_EQ(side.boundedTo(panel.screen()->availableSize()), side);
+  EXPECT_TRUE(areNear(panel.pos(), panel.screen()->availableGeometry().topLeft()));
 }
 
 TEST(LifecycleTest, TheLabelStartsAsTheSettingsSay) {
