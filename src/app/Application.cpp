@@ -2,6 +2,7 @@
 #include "app/Application.h"
 
 #include <QApplication>
+#include <QScreen>
 #include <cstdio>
 
 #include "app/AppController.h"
@@ -201,6 +202,8 @@ int runApplication(int argc, char** argv) {
   TerminationSignals signals_;
   QObject::connect(&signals_, &TerminationSignals::received, controller.get(), &AppController::terminate);
 
+  // A small screen takes a smaller window, as far as there is one; the rest is for the window's frame.
+  window.resize(window.size().boundedTo(window.screen()->availableSize() - QSize(16, 48)));
   controller->awakeFromNib();
   controller->outlets()._folderView->awakeFromNib(settings::startFont(defaults));
   // To search the theme for it takes a tenth of the start, and the desktop has it from the program's entry anyway.

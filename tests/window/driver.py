@@ -117,13 +117,15 @@ class Program:
 class WindowTest(EndToEndTest):
     """One desktop for a class of tests; a home of its own for each."""
 
+    SIZE = SIZE
+
     @classmethod
     def setUpClass(cls):
         if not os.access(WINDOW, os.X_OK):
             raise unittest.SkipTest("there is no window program in this build")
         if missing():
             raise unittest.SkipTest("these packages are missing: " + ", ".join(missing()))
-        cls.desktop = session.Session(SIZE, RULES)
+        cls.desktop = session.Session(cls.SIZE, RULES)
         cls.addClassCleanup(cls.desktop.close)
         cls.desktop.environment.pop("NO_AT_BRIDGE")
         cls.desktop.environment.pop("GTK_A11Y")

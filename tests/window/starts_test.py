@@ -246,5 +246,16 @@ class StartsTest(WindowTest):
                 self.assertEqual(program.end(), 0)
 
 
+class SmallScreenTest(WindowTest):
+    SIZE = (1024, 768)
+
+    def test_the_first_window_lies_on_the_screen(self):
+        program = self.start(self.folder("one"))
+        program.wait_title("– one")
+        x, y, width, height = program.get("frame").extents
+        self.assertTrue(0 <= x and 0 <= y and x + width <= 1024 and y + height <= 768, (x, y, width, height))
+        self.assertEqual(program.end(), 0)
+
+
 if __name__ == "__main__":
     unittest.main(verbosity=2)
