@@ -110,7 +110,9 @@ class Session:
     def _start(self):
         # The server picks a free display and says which, so sessions can run side by side.
         self.environment["DISPLAY"] = ":" + self._announced(
-            "Xvfb", ["Xvfb", "-displayfd", "{fd}", "-screen", "0", "{}x{}x24".format(*self._size), "-nolisten", "tcp"])
+            # -r: on a busy machine a key that is let go late would come several times.
+            "Xvfb", ["Xvfb", "-r", "-displayfd", "{fd}", "-screen", "0", "{}x{}x24".format(*self._size), "-nolisten",
+                     "tcp"])
         self.environment["DBUS_SESSION_BUS_ADDRESS"] = self._announced(
             "bus", ["dbus-daemon", "--session", "--nofork", "--print-address={fd}"])
         self._launch("openbox", ["openbox"], self.environment)
