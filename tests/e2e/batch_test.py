@@ -105,12 +105,22 @@ class BatchTest(EndToEndTest):
                     self.expect(0, "verify", *names[:done])
                     self.expect(0, "reset", "--quiet", *names[:done])
 
+    def _wait_until_it_listens(self, program):
+        """Until it has taken the signal for its own: before that it would be killed by it."""
+        for _ in range(int(PATIENCE * 20)):
+            caught = re.search(r"^SigCgt:\s*(\w+)", read(f"/proc/{program.pid}/status").decode(), re.MULTILINE)
+            if int(caught[1], 16) & 1 << signal.SIGINT - 1:
+                return
+            time.sleep(0.05)
+        self.fail("it does not listen to signals")
+
     def test_interrupted_while_it_waits_for_its_list(self):
         for waiting in (["apply", "--label", "x", "--from", "-"], ["status", "--files-from", "-"]):
             with self.subTest(command=waiting[0]):
                 program = self.start(*waiting, stdin=subprocess.PIPE)
                 program.stdin.write(b"folder\nha" if "--from" in waiting else b"ha")
                 program.stdin.flush()
+                self._wait_until_it_listens(program)
                 time.sleep(0.5)
                 program.send_signal(signal.SIGINT)
                 self.assertEqual(program.wait(timeout=PATIENCE), 130)
