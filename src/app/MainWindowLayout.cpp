@@ -49,13 +49,13 @@ void setTabOrder(const Outlets& outlets) {
 
 QWidget* makeHeader(Outlets& outlets) {
   auto* header = new QWidget;
-  const auto addRow = [](QWidget* row) {
+  const auto makeRow = [](QWidget* row) {
     auto* layout = new QHBoxLayout(row);
     layout->setContentsMargins({});
     layout->setSpacing(10);
     return layout;
   };
-  QHBoxLayout* layout = addRow(header);
+  QHBoxLayout* layout = makeRow(header);
   auto* folder = new QWidget;
   auto* buttons = new QWidget;
   outlets._pathTF = new ElidedLabel;
@@ -70,11 +70,11 @@ QWidget* makeHeader(Outlets& outlets) {
   outlets._applyBtn->setDefault(true);
   outlets._openBtn = new QPushButton(actionIcon(QStringLiteral("open")), tr("Ope&n…"));
   outlets._openBtn->setToolTip(tr("Choose the folder to give an icon to"));
-  QHBoxLayout* left = addRow(folder);
+  QHBoxLayout* left = makeRow(folder);
   left->addWidget(outlets._openBtn);
   left->addWidget(outlets._pathTF, 3);
   left->addWidget(outlets._noticeLabel, 2);
-  QHBoxLayout* right = addRow(buttons);
+  QHBoxLayout* right = makeRow(buttons);
   right->addWidget(outlets._revertBtn);
   right->addWidget(outlets._applyBtn);
   layout->addWidget(folder, 1);

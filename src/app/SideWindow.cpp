@@ -9,6 +9,7 @@
 #include <algorithm>
 
 #include "app/LayoutPieces.h"
+#include "ui/ScreenPlacement.h"
 
 namespace quorvane {
 
@@ -58,10 +59,7 @@ void SideWindow::showOver(QWidget* window) {
     windowHandle()->setTransientParent(window->windowHandle());
     QRect frame = frameGeometry();
     frame.moveCenter(window->frameGeometry().center());
-    const QRect room = window->screen()->availableGeometry();
-    frame.moveLeft(std::clamp(frame.left(), room.left(), std::max(room.left(), room.right() - frame.width())));
-    frame.moveTop(std::clamp(frame.top(), room.top(), std::max(room.top(), room.bottom() - frame.height())));
-    move(frame.topLeft());
+    move(movedInto(frame, place->availableGeometry()).topLeft());
   } else {
     center();
   }

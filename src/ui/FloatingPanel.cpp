@@ -9,6 +9,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "ui/ScreenPlacement.h"
 #include "ui/WindowDelegate.h"
 
 namespace quorvane {
@@ -53,17 +54,13 @@ void FloatingPanel::_placeBeside(const QWidget& window) {
   if (left + size.width() > screen.right()) left = frame.left() - size.width() - 8;
   // With no room at either side it covers the side that has the controls, not the picture.
   if (left < screen.left()) left = std::min(frame.right(), screen.right()) - size.width();
-  move(std::max(left, screen.left()),
-       std::clamp(frame.top(), screen.top(), std::max(screen.top(), screen.bottom() - size.height())));
+  move(movedInto(QRect(QPoint(left, frame.top()), size), screen).topLeft());
 }
 
 void FloatingPanel::_keepOnScreen() {
   const QRect room = screen()->availableGeometry();
-  QRect frame(pos(), size().boundedTo(room.size()));
-  frame.moveLeft(std::clamp(frame.left(), room.left(), room.left() + room.width() - frame.width()));
-  frame.moveTop(std::clamp(frame.top(), room.top(), room.top() + room.height() - frame.height()));
-  resize(frame.size());
-  move(frame.topLeft());
+  resize(size().boundedTo(room.size()));
+  move(movedInto(QRect(pos(), size()), room).topLeft());
 }
 
 void FloatingPanel::setFrameStore(FrameStore* store, const QString& name) {
